@@ -1,0 +1,58 @@
+# How everything here is compiled: the options, the compiler cache and the shared precompiled headers.
+if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang|MSVC")
+    message(FATAL_ERROR "Tessary needs clang, clang-cl or MSVC: ${CMAKE_CXX_COMPILER_ID} has no __declspec(property).")
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(cache ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${cache} ${CCACHE})
+endif()
+
+# What users of the library must compile with, and what the project itself adds.
+add_library(tessary_options INTERFACE)
+target_compile_features(tessary_options INTERFACE cxx_std_20)
+add_library(tessary_warnings INTERFACE)
+
+if(MSVC)
+    target_compile_options(tessary_options INTERFACE /utf-8 /Zc:__cplusplus)
+    target_compile_options(tessary_warnings INTERFACE /W4 /WX)
+else()
+    target_compile_options(tessary_options INTERFACE -fdeclspec -fno-strict-aliasing)
+    target_compile_options(tessary_warnings INTERFACE -Wall -Wextra -Werror)
+endif()
+if(WIN32)
+    target_compile_definitions(tessary_options INTERFACE UNICODE _UNICODE WINVER=0x0601 _WIN32_WINNT=0x0601)
+endif()
+if(TESSARY_COUNT_OBJECTS)
+    target_compile_definitions(tessary_options INTERFACE TESSARY_COUNT_OBJECTS=1)
+endif()
+if(TESSARY_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# One precompiled header serves all libraries and programs, a second one with GoogleTest all tests.
+# Without its time stamp a rebuilt header is the same file, so that the compiler cache finds what used it.
+function(tessary_use_precompiled_header target owner)
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        target_compile_options(${target} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+    endif()
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+endfunction()
+
+function(tessary_add_precompiled_header name)
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp "")
+    add_library(${name} STATIC ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+    target_link_libraries(${name} PRIVATE tessary_options tessary_warnings)
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        target_compile_options(${name} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+    endif()
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
