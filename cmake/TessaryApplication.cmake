@@ -1,0 +1,101 @@
+# Applications and what is embedded in them. This file is part of the installed package.
+include_guard()
+
+# tessary_add_application(NAME [WIN32] SOURCES... [FORMS FORM.dfm...] [BITMAPS|ICONS|CURSORS SHEET.glyphs...])
+# A program with the library, its forms and the manifest: common controls 6, UTF-8, sharp on scaled screens.
+function(tessary_add_application name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WIN32" "" "FORMS;BITMAPS;ICONS;CURSORS")
+    set(gui)
+    if(arg_WIN32)
+        set(gui WIN32)
+    endif()
+    add_executable(${name} ${gui} ${arg_UNPARSED_ARGUMENTS})
+    target_link_libraries(${name} PRIVATE Tessary::tessary)
+    tessary_add_manifest(${name})
+    tessary_add_forms(${name} ${arg_FORMS})
+    tessary_add_glyphs(${name} BITMAPS ${arg_BITMAPS} ICONS ${arg_ICONS} CURSORS ${arg_CURSORS})
+endfunction()
+
+function(tessary_add_manifest target)
+    get_property(folder GLOBAL PROPERTY TESSARY_RESOURCES)
+    target_sources(${target} PRIVATE ${folder}/application.rc)
+    set_property(SOURCE ${folder}/application.rc PROPERTY OBJECT_DEPENDS ${folder}/application.manifest)
+endfunction()
+
+# tessary_add_forms(TARGET FORM.dfm...) embeds each form under the name of its class, where LoadForm finds it.
+function(tessary_add_forms target)
+    foreach(form IN LISTS ARGN)
+        cmake_path(ABSOLUTE_PATH form)
+        cmake_path(GET form STEM unit)
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${form})
+        file(STRINGS ${form} heading LIMIT_COUNT 1)
+        if(NOT heading MATCHES "^(object|inherited|inline) +([A-Za-z0-9_]+: *)?([A-Za-z0-9_]+)")
+            message(FATAL_ERROR "${form} is no form in text; `formconv --text` makes one of a binary form.")
+        endif()
+        string(TOUPPER ${CMAKE_MATCH_3} class)
+
+        set(binary ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${unit}.bin)
+        add_custom_command(
+            OUTPUT ${binary}
+            COMMAND Tessary::host_formconv --binary ${form} ${binary}
+            DEPENDS ${form} Tessary::host_formconv
+            COMMENT "Compiling form ${unit}"
+            VERBATIM)
+        tessary_add_resource(${target} ${class} RCDATA ${binary})
+    endforeach()
+endfunction()
+
+# tessary_add_glyphs(TARGET [BITMAPS|ICONS|CURSORS SHEET.glyphs...]) draws sheets of pixel art and embeds them under
+# their file names in upper case. A sheet that names its glyphs also becomes a header, "glyphs/SHEET.h".
+function(tessary_add_glyphs target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "BITMAPS;ICONS;CURSORS")
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/glyphs)
+    foreach(kind BITMAP ICON CURSOR)
+        set(option)
+        set(extension bmp)
+        if(NOT kind STREQUAL BITMAP)
+            string(TOLOWER --${kind} option)
+            string(SUBSTRING ${option} 2 3 extension)
+        endif()
+        foreach(sheet IN LISTS arg_${kind}S)
+            cmake_path(ABSOLUTE_PATH sheet)
+            cmake_path(GET sheet STEM name)
+            set(header)
+            file(STRINGS ${sheet} enumeration LIMIT_COUNT 1 REGEX "^enum")
+            if(enumeration AND NOT option)
+                set(header ${folder}/${name}.h)
+                target_sources(${target} PRIVATE ${header})
+                target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources)
+            endif()
+            add_custom_command(
+                OUTPUT ${folder}/${name}.${extension} ${header}
+                COMMAND Tessary::host_glyphpack ${option} ${folder}/${name}.${extension} ${sheet} ${header}
+                DEPENDS ${sheet} Tessary::host_glyphpack
+                COMMENT "Drawing glyphs ${name}"
+                VERBATIM)
+            string(TOUPPER ${name} resource)
+            tessary_add_resource(${target} ${resource} ${kind} ${folder}/${name}.${extension})
+        endforeach()
+    endforeach()
+endfunction()
+
+# Embeds FILE in a program; or in every program that links a static library, which would lose a resource of its own.
+function(tessary_add_resource target name type file)
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${name}.rc)
+    file(CONFIGURE OUTPUT ${script} CONTENT "${name} ${type} \"${file}\"\n")
+    tessary_add_resource_script(${target} ${script})
+    set_property(SOURCE ${script} PROPERTY OBJECT_DEPENDS ${file})
+endfunction()
+
+function(tessary_add_resource_script target script)
+    get_target_property(type ${target} TYPE)
+    if(NOT type STREQUAL STATIC_LIBRARY)
+        target_sources(${target} PRIVATE ${script})
+        return()
+    endif()
+    if(NOT TARGET ${target}_resources)
+        add_library(${target}_resources OBJECT)
+        target_link_libraries(${target} INTERFACE $<TARGET_OBJECTS:$<TARGET_NAME:${target}_resources>>)
+    endif()
+    target_sources(${target}_resources PRIVATE ${script})
+endfunction()
