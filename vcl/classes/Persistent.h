@@ -1,8 +1,7 @@
 // TPersistent: an object that can be assigned and written to form files.
 #pragma once
 
-#include "vcl/system/Event.h"
-#include "vcl/system/Object.h"
+#include "vcl/system/TypeInfo.h"
 
 class TFiler;
 
