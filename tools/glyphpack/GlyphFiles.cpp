@@ -152,6 +152,11 @@ void CheckStrip(const TGlyphSheet& Sheet, const std::string& FileName)
         if (Glyph.Width != First.Width || Glyph.Height != First.Height)
             throw EGlyphError(FileName, Glyph.Line,
                               "glyph '" + Glyph.Name + "' has not the size of '" + First.Name + "'");
+        if (!Sheet.HasTransparent)
+            continue;
+        if (!Glyph.Clear[0])
+            throw EGlyphError(FileName, Glyph.Line,
+                              "the top-left pixel of glyph '" + Glyph.Name + "' is not transparent");
         if (!Glyph.Clear[static_cast<size_t>(Glyph.Height - 1) * Glyph.Width])
             throw EGlyphError(FileName, Glyph.LastLine,
                               "the bottom-left pixel of glyph '" + Glyph.Name + "' is not transparent");

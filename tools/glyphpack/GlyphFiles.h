@@ -4,8 +4,9 @@
 #include "tools/glyphpack/GlyphSheet.h"
 
 // One bitmap of 8 bits a pixel with all glyphs in the order of the sheet, left to right. FileName is the source's and
-// serves the messages. Throws EGlyphError when the glyphs differ in size, or when the bottom-left pixel of one is not
-// transparent: a bitmap's bottom-left pixel says which of its colours lets the ground through.
+// serves the messages. Throws EGlyphError when the glyphs differ in size; and, in a sheet with a transparent character,
+// when a corner on the left of a glyph is not transparent: whoever draws the bitmap takes the colour that lets the
+// ground through from the bottom-left pixel, or from the top-left one.
 std::string MakeStrip(const TGlyphSheet& Sheet, const std::string& FileName);
 
 // An icon with one image for every glyph.

@@ -82,12 +82,13 @@ private:
             Fail("'" + Character + "' cannot stand for a colour: one visible ASCII character other than ';' can");
         if (Hex.size() != 6 || Hex.find_first_not_of("0123456789ABCDEFabcdef") != std::string::npos)
             Fail("'" + Hex + "' is no colour: six hexadecimal digits RRGGBB are");
-        if (AsTransparent && TransparentCharacter != 0)
+        if (AsTransparent && Sheet.HasTransparent)
             Fail("there is a transparent character already: '" + std::string(1, TransparentCharacter) + "'");
         if (!Colors.emplace(Character[0], static_cast<TRgb>(std::stoul(Hex, nullptr, 16))).second)
             Fail("'" + Character + "' has a colour already");
         if (!AsTransparent)
             return;
+        Sheet.HasTransparent = true;
         TransparentCharacter = Character[0];
         Sheet.Transparent = Colors[TransparentCharacter];
     }
@@ -137,7 +138,7 @@ private:
             const auto Color = Colors.find(C);
             if (Color == Colors.end())
                 Fail("'" + std::string(1, C) + "' in glyph '" + Glyph.Name + "' has no colour");
-            if (C != TransparentCharacter && Color->second == Sheet.Transparent && TransparentCharacter != 0)
+            if (C != TransparentCharacter && Color->second == Sheet.Transparent && Sheet.HasTransparent)
                 Fail("'" + std::string(1, C) + "' has the transparent colour");
             Glyph.Pixels.push_back(Color->second);
             Glyph.Clear.push_back(C == TransparentCharacter);

@@ -26,7 +26,8 @@ struct TGlyph {
 
 // A whole source file. Lines of a source, in any order that names things before they are used:
 //   ; a comment (also between the rows of a drawing)
-//   transparent C RRGGBB     the one character that lets the ground through, and its stand-in colour
+//   transparent C RRGGBB     the one character that lets the ground through, and its stand-in colour; not every sheet
+//                            needs one
 //   color C RRGGBB           a character and its colour
 //   size W H                 of the drawings that follow, 1 to 256
 //   columns N                drawings per row of a strip; by default all are in one row
@@ -37,8 +38,9 @@ struct TGlyphSheet {
     std::string EnumName;
     std::string EnumPrefix;
     int Columns = 0; // 0: all in one row
-    TRgb Transparent = 0xFF00FF;
-    std::vector<TGlyph> Glyphs; // never empty once read
+    bool HasTransparent = false;
+    TRgb Transparent = 0xFF00FF; // also fills what the drawings leave of a strip
+    std::vector<TGlyph> Glyphs;  // never empty once read
 };
 
 // What is wrong with a source; the text reads "FILE:LINE: message".

@@ -29,6 +29,17 @@ std::string ErrorOf(const std::string& Text)
     return "";
 }
 
+// The message that a strip is refused with; empty when it is not.
+std::string StripErrorOf(const std::string& Text)
+{
+    try {
+        MakeStrip(Read(Text), "art.glyphs");
+    } catch (const EGlyphError& Error) {
+        return Error.what();
+    }
+    return "";
+}
+
 int Byte(const std::string& File, size_t Offset)
 {
     return static_cast<unsigned char>(File.at(Offset));
@@ -55,10 +66,10 @@ int PixelOf(const std::string& File, int X, int Y)
 const std::string TwoGlyphs = std::string(Colors) + "enum TArt ar\n"
                                                     "size 3 2\n"
                                                     "glyph One\n"
-                                                    "KWR\n"
+                                                    ".WR\n"
                                                     ".RK\n"
                                                     "glyph Two\n"
-                                                    "RRR\n"
+                                                    ".RR\n"
                                                     "..W\n";
 
 TEST(GlyphSheet, KeepsGlyphsInOrderWithTheirPixels)
@@ -68,8 +79,8 @@ TEST(GlyphSheet, KeepsGlyphsInOrderWithTheirPixels)
     ASSERT_EQ(Sheet.Glyphs.size(), 2u);
     EXPECT_EQ(Sheet.Glyphs[0].Name, "One");
     EXPECT_EQ(Sheet.Glyphs[1].Name, "Two");
-    EXPECT_EQ(Sheet.Glyphs[0].Pixels, (std::vector<TRgb>{0, 0xFFFFFF, 0xE01008, 0xFF00FF, 0xE01008, 0}));
-    EXPECT_EQ(Sheet.Glyphs[0].Clear, (std::vector<bool>{false, false, false, true, false, false}));
+    EXPECT_EQ(Sheet.Glyphs[0].Pixels, (std::vector<TRgb>{0xFF00FF, 0xFFFFFF, 0xE01008, 0xFF00FF, 0xE01008, 0}));
+    EXPECT_EQ(Sheet.Glyphs[0].Clear, (std::vector<bool>{true, false, false, true, false, false}));
 }
 
 TEST(GlyphSheet, SkipsCommentsBetweenRowsAndBlanksAtLineEnds)
@@ -118,47 +129,50 @@ TEST(GlyphStrip, HoldsTheGlyphsSideBySide)
     EXPECT_EQ(Long(File, 18), 6);
     EXPECT_EQ(Long(File, 22), 2);
     EXPECT_EQ(Word(File, 28), 8);
-    EXPECT_EQ(PixelOf(File, 0, 0), 0x000000);
+    EXPECT_EQ(PixelOf(File, 0, 0), 0xFF00FF);
     EXPECT_EQ(PixelOf(File, 1, 0), 0xFFFFFF);
     EXPECT_EQ(PixelOf(File, 2, 0), 0xE01008);
-    EXPECT_EQ(PixelOf(File, 3, 0), 0xE01008);
+    EXPECT_EQ(PixelOf(File, 2, 1), 0x000000);
+    EXPECT_EQ(PixelOf(File, 4, 0), 0xE01008);
     EXPECT_EQ(PixelOf(File, 0, 1), 0xFF00FF);
     EXPECT_EQ(PixelOf(File, 5, 1), 0xFFFFFF);
 }
 
 TEST(GlyphStrip, FillsTheLastRowWithTheTransparentColour)
 {
-    const std::string Three = TwoGlyphs + "glyph Three\nWWW\n.KK\n";
+    const std::string Three = TwoGlyphs + "glyph Three\n.WW\n.KK\n";
     const std::string File = MakeStrip(Read("columns 2\n" + Three), "art.glyphs");
 
     EXPECT_EQ(Long(File, 18), 6);
     EXPECT_EQ(Long(File, 22), 4);
-    EXPECT_EQ(PixelOf(File, 0, 2), 0xFFFFFF);
+    EXPECT_EQ(PixelOf(File, 1, 2), 0xFFFFFF);
     EXPECT_EQ(PixelOf(File, 2, 3), 0x000000);
     for (int X = 3; X < 6; ++X)
         EXPECT_EQ(PixelOf(File, X, 2), 0xFF00FF);
 }
 
-TEST(GlyphStrip, RefusesAGlyphWhoseBottomLeftPixelIsNotTransparent)
+TEST(GlyphStrip, RefusesGlyphsWhoseLeftCornersAreNotTransparent)
 {
-    const TGlyphSheet Sheet = Read(std::string(Colors) + "size 1 2\nglyph One\n.\n; foot\nK\n");
-    try {
-        MakeStrip(Sheet, "art.glyphs");
-        FAIL() << "the strip was made";
-    } catch (const EGlyphError& Error) {
-        EXPECT_STREQ(Error.what(), "art.glyphs:9: the bottom-left pixel of glyph 'One' is not transparent");
-    }
+    const std::string Start = std::string(Colors) + "size 1 2\nglyph One\n";
+
+    EXPECT_EQ(StripErrorOf(Start + ".\n; foot\nK\n"),
+              "art.glyphs:9: the bottom-left pixel of glyph 'One' is not transparent");
+    EXPECT_EQ(StripErrorOf(Start + "K\n.\n"), "art.glyphs:6: the top-left pixel of glyph 'One' is not transparent");
+    EXPECT_EQ(StripErrorOf(Start + ".\n.\n"), "");
+}
+
+TEST(GlyphStrip, MayCoverEverythingWhenNothingIsTransparent)
+{
+    const std::string File = MakeStrip(Read("color K 000000\ncolor W FFFFFF\nsize 2 1\nglyph One\nWK\n"), "art.glyphs");
+
+    EXPECT_EQ(PixelOf(File, 0, 0), 0xFFFFFF);
+    EXPECT_EQ(PixelOf(File, 1, 0), 0x000000);
 }
 
 TEST(GlyphStrip, RefusesGlyphsOfDifferentSizes)
 {
-    const TGlyphSheet Sheet = Read(std::string(Colors) + "size 1 1\nglyph One\n.\nsize 2 1\nglyph Two\n.K\n");
-    try {
-        MakeStrip(Sheet, "art.glyphs");
-        FAIL() << "the strip was made";
-    } catch (const EGlyphError& Error) {
-        EXPECT_STREQ(Error.what(), "art.glyphs:9: glyph 'Two' has not the size of 'One'");
-    }
+    EXPECT_EQ(StripErrorOf(std::string(Colors) + "size 1 1\nglyph One\n.\nsize 2 1\nglyph Two\n.K\n"),
+              "art.glyphs:9: glyph 'Two' has not the size of 'One'");
 }
 
 TEST(GlyphIcon, HoldsOneImageForEverySize)
