@@ -12,6 +12,8 @@
 
 class TComponent;
 class TNameTable;
+class TReader;
+class TWriter;
 
 VCL_ENUM(TOperation, opInsert, opRemove);
 VCL_ENUM(TComponentStateFlag, csLoading, csReading, csWriting, csDestroying, csDesigning, csAncestor, csUpdating,

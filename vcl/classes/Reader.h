@@ -1,0 +1,195 @@
+// TReader: makes components from a binary form.
+//
+// One pass forward. References between components are set at the end, when all of them exist. When reading fails, every
+// component that this reader has made is deleted again and the exception says where: "Error reading Button1.Font.Size:
+// Invalid property value at offset 301". It is an EFormDataError (an EReadError) unless the class is unknown.
+#pragma once
+
+#include "vcl/classes/Component.h"
+#include "vcl/classes/Filer.h"
+#include "vcl/classes/FixupList.h"
+#include "vcl/classes/FormCursor.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+class TCollection;
+struct TMethodInfo;
+struct TPropertyInfo;
+
+// Handled: reading goes on behind the value, which stays unset.
+using TReaderError = TEvent<void(TReader* Reader, const AnsiString& Message, bool& Handled)>;
+// Method is the root's handler of that name, Error whether there is none that fits; a handler may set both.
+using TFindMethodEvent =
+    TEvent<void(TReader* Reader, const AnsiString& MethodName, const TMethodInfo*& Method, bool& Error)>;
+// A name is about to be given to Component, or looked up; both may be changed.
+using TSetNameEvent = TEvent<void(TReader* Reader, TComponent* Component, AnsiString& Name)>;
+using TReferenceNameEvent = TEvent<void(TReader* Reader, AnsiString& Name)>;
+// An inherited object is not there; the handler may supply it.
+using TAncestorNotFoundEvent =
+    TEvent<void(TReader* Reader, const AnsiString& ComponentName, TClass ComponentClass, TComponent*& Component)>;
+// The handler may make the component itself, owned by Reader->Owner.
+using TCreateComponentEvent = TEvent<void(TReader* Reader, TClass ComponentClass, TComponent*& Component)>;
+// ComponentClass is what was found, or nullptr; the handler may replace it.
+using TFindComponentClassEvent = TEvent<void(TReader* Reader, const AnsiString& ClassName, TClass& ComponentClass)>;
+// An object's class is unknown. Skip: the object is left out with everything in it, instead of an EClassNotFound.
+using TUnknownClassEvent =
+    TEvent<void(TReader* Reader, const AnsiString& ClassName, const AnsiString& Name, bool& Skip)>;
+// Instance has no property PropName (as in the file, "Font.Size"). Skip: its value is left out, instead of an error.
+using TUnknownPropertyEvent =
+    TEvent<void(TReader* Reader, TPersistent* Instance, const AnsiString& PropName, bool& Skip)>;
+
+using TReadComponentsProc = TEvent<void(TComponent* Component)>;
+
+class TReader : public TFiler {
+public:
+    // Reads from the place where Stream stands, which must outlive the reader. A stream that is not in memory is read
+    // to its end at once; when the reader is done with an object the stream stands behind that.
+    explicit TReader(TStream* Stream, int BufSize = 4096);
+    ~TReader() override;
+
+    // Reads a form: a signature and an object. With Root its properties are set and its children made, whatever its
+    // name and class in the file are; without Root a component of the file's class is made, which is the caller's.
+    TComponent* ReadRootComponent(TComponent* Root);
+    // Reads one object, without a signature, and what it contains. Component is the one to read into, or nullptr.
+    // Returns nullptr when the object was left out by OnUnknownClass.
+    TComponent* ReadComponent(TComponent* Component);
+    // Reads objects up to the end of their list; each belongs to AOwner and has AParent, and Proc hears of it.
+    void ReadComponents(TComponent* AOwner, TComponent* AParent, const TReadComponentsProc& Proc);
+    // Properties and children; called from TComponent::ReadState.
+    void ReadData(TComponent* Component);
+
+    // References of components read between the two are set by FixupReferences; ReadRootComponent does all of it.
+    void BeginReferences();
+    void FixupReferences();
+    void EndReferences();
+
+    void DefineProperty(const char* Name, const TReaderProc& ReadProc, const TWriterProc& WriteProc,
+                        bool HasData) override;
+    void DefineBinaryProperty(const char* Name, const TStreamProc& ReadProc, const TStreamProc& WriteProc,
+                              bool HasData) override;
+
+    // Single values. Each raises an EReadError "Invalid property value" when another kind of value follows.
+    TValueType NextValue() const { return FCursor.PeekType(); }
+    // Takes the type byte only.
+    TValueType ReadValue() { return FCursor.ReadType(); }
+    void CheckValue(TValueType Value);
+    bool ReadBoolean();
+    char ReadChar();
+    int32_t ReadInteger();
+    int64_t ReadInt64();
+    // Integers are taken too, in ReadCurrency and ReadDate every kind of number.
+    double ReadFloat();
+    float ReadSingle();
+    double ReadCurrency();
+    double ReadDate();
+    // An enumeration value, constant, component or method; also "True", "False", "nil" and "Null" for those values.
+    AnsiString ReadIdent();
+    // Any kind of text, as UTF-8. Bytes in a code page are taken for UTF-8 where they are that, else for CodePage.
+    AnsiString ReadString();
+    // A name: one length byte, then the bytes, without a type.
+    AnsiString ReadStr();
+    void ReadListBegin() { CheckValue(vaList); }
+    void ReadListEnd() { CheckValue(vaNull); }
+    bool EndOfList() const { return FCursor.PeekByte() == vaNull; }
+    // The items replace what Collection holds. The type vaCollection has been read already.
+    void ReadCollection(TCollection* Collection);
+    void ReadSignature();
+    TFormPrefix ReadPrefix() { return FCursor.ReadPrefix(); }
+    // Raw bytes.
+    void Read(void* Buffer, int Count);
+    void SkipValue();
+
+    // Bytes from the start of the stream.
+    size_t GetPosition() const { return FCursor.Offset(); }
+    PROPERTY_READ(size_t, Position);
+    // The property that is being read, "Font.Size"; empty between properties.
+    const AnsiString& GetPropName() const { return FPropName; }
+    PROPERTY_READ(AnsiString, PropName);
+
+    // For the components that are read next.
+    TComponent* GetOwner() const { return FOwner; }
+    void SetOwner(TComponent* Value) { FOwner = Value; }
+    PROPERTY(TComponent*, Owner);
+    TComponent* GetParent() const { return FParent; }
+    void SetParent(TComponent* Value) { FParent = Value; }
+    PROPERTY(TComponent*, Parent);
+
+    // What texts that are not UTF-8 are in; at first the user's legacy code page.
+    unsigned CodePage;
+
+    TReaderError OnError;
+    TFindMethodEvent OnFindMethod;
+    TSetNameEvent OnSetName;
+    TReferenceNameEvent OnReferenceName;
+    TAncestorNotFoundEvent OnAncestorNotFound;
+    TCreateComponentEvent OnCreateComponent;
+    TFindComponentClassEvent OnFindComponentClass;
+    TUnknownClassEvent OnUnknownClass;
+    TUnknownPropertyEvent OnUnknownProperty;
+
+private:
+    struct TCreated {
+        TComponent* Component;
+        TComponent* Owner;
+    };
+    class TScope;
+
+    void Attach(size_t Start);
+    void DetachFromStream();
+
+    TComponent* ReadObject(TComponent* Component);
+    TComponent* ReadObjectNamed(TComponent* Component, const TFormPrefix& Prefix, std::string_view ClassName,
+                                std::string_view Name);
+    TComponent* FindAncestor(std::string_view Name, TClass Class);
+    TComponent* CreateComponent(TClass Class);
+    void NameComponent(TComponent* Component, std::string_view Name);
+    TClass FindComponentClass(std::string_view ClassName);
+    void SkipObject();
+    void SkipObjectBody();
+    void SkipProperties();
+    void SkipBytes(size_t Position);
+
+    void ReadProperties(TPersistent* Instance);
+    void ReadProperty(TPersistent* Instance);
+    void ReadPropertyPath(TPersistent* Instance);
+    void ReadPropertyValue(TPersistent* Instance, const TPropertyInfo& Property);
+    void ReadOrdinal(TPersistent* Instance, const TPropertyInfo& Property);
+    int64_t ReadNamedInteger(const TPropertyInfo& Property);
+    int64_t ReadSet(const TPropertyInfo& Property);
+    void ReadObjectProperty(TPersistent* Instance, const TPropertyInfo& Property);
+    void ReadMethod(TPersistent* Instance, const TPropertyInfo& Property);
+    void ReadDefined(TPersistent* Instance, std::string_view Name);
+    bool HandleError(const AnsiString& Message);
+    [[noreturn]] void FailProperty(TPersistent* Instance, const AnsiString& Detail, size_t Offset) const;
+    [[noreturn]] void FailValue() const;
+
+    void StartReading(TComponent* Component);
+    void NotifyLoaded();
+    void DiscardCreated() noexcept;
+    bool IsAlive(size_t Index) const;
+
+    TStream* FStream;
+    std::string FCopy; // what a stream that is not in memory held
+    std::string_view FData;
+    size_t FBase = 0; // FData's place in the stream
+    TFormCursor FCursor;
+
+    TComponent* FOwner = nullptr;
+    TComponent* FParent = nullptr;
+    TComponent* FLookupRoot = nullptr; // the form or frame whose names count
+    AnsiString FPropName;
+    TClass FLastClass = nullptr;
+    std::vector<TCreated> FCreated;
+    std::vector<TComponent*> FLoaded;
+    TFixupList FFixups;
+    int FDepth = 0;
+    bool FReadsReferences = false;
+};
+
+// Reads the binary form in Stream into Root: its properties, children and fields. Raises as TReader does; what Root had
+// before is still there.
+void ReadRootComponent(TStream& Stream, TComponent* Root);
+// Reads a component of the class that Stream names. The result belongs to the caller.
+TComponent* ReadRootComponent(TStream& Stream);
