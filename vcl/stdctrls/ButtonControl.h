@@ -1,0 +1,28 @@
+// TButtonControl: what the controls over the system's button class have in common.
+#pragma once
+
+#include "vcl/controls/WinControl.h"
+
+class TButtonControl : public TWinControl {
+    VCL_CLASS(TButtonControl, TWinControl)
+public:
+    explicit TButtonControl(TComponent* AOwner);
+
+    AnsiString AccessibleName() const override;
+    bool AccessibleDefaultAction() override;
+
+protected:
+    virtual bool GetChecked() const { return false; }
+    virtual void SetChecked(bool) {}
+    PROPERTY(bool, Checked);
+    // While true, the window's notifications of clicks are not passed on.
+    bool ClicksDisabled = false;
+
+    // The window's style bits below BS_TYPEMASK and the like; nothing without a window.
+    void SendStyle(unsigned Style);
+    void WndProc(TMessage& Message) override;
+
+private:
+    void WMEraseBkgnd(TMessage& Message);
+    void CNCtlColorStatic(TMessage& Message);
+};

@@ -1,0 +1,25 @@
+// Enumerations, sets and event types of the standard controls.
+#pragma once
+
+#include "vcl/controls/ControlTypes.h"
+
+VCL_ENUM(TAlignment, taLeftJustify, taRightJustify, taCenter);
+VCL_ENUM(TLeftRight, lrLeft, lrRight);
+VCL_ENUM(TTextLayout, tlTop, tlCenter, tlBottom);
+VCL_ENUM(TScrollBarKind, sbHorizontal, sbVertical);
+VCL_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, scTrack, scTop, scBottom, scEndScroll);
+VCL_ENUM(TScrollStyle, ssNone, ssHorizontal, ssVertical, ssBoth);
+VCL_ENUM(TEditCharCase, ecNormal, ecUpperCase, ecLowerCase);
+VCL_ENUM(TCheckBoxState, cbUnchecked, cbChecked, cbGrayed);
+
+// The system's numbers for DrawText, by alignment.
+constexpr unsigned DrawTextAlignment(TAlignment Alignment)
+{
+    constexpr unsigned Flags[] = {0 /* DT_LEFT */, 2 /* DT_RIGHT */, 1 /* DT_CENTER */};
+    return Flags[Alignment];
+}
+
+// A scroll bar's steps: 1 to 32767.
+using TScrollBarInc = int;
+// ScrollPos may be changed by the handler: the bar goes there.
+using TScrollEvent = TEvent<void(TObject* Sender, TScrollCode ScrollCode, int& ScrollPos)>;
