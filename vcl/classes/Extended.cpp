@@ -1,0 +1,265 @@
+#include "vcl/classes/Extended.h"
+
+#include "vcl/classes/BigNumber.h"
+#include "vcl/classes/LittleEndian.h"
+
+#include <algorithm>
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+
+namespace {
+
+constexpr int Bias = 16383;
+constexpr int MaxExponent = 0x7FFF;
+constexpr int MinScale = 1 - Bias - 63; // the exponent of the last bit of the smallest numbers
+constexpr int MaxKeptDigits = 80;
+
+// The significant digits of a decimal and where its point is: 0.Digits × 10^Point.
+struct TSpelledDecimal {
+    TBigNumber Digits;
+    int Count = 0;
+    int Point = 0;
+    bool Negative = false;
+};
+
+TSpelledDecimal ReadDecimal(std::string_view Spelling)
+{
+    TSpelledDecimal Decimal;
+    bool BehindPoint = false;
+    bool Lost = false;
+    std::size_t I = 0;
+    if (!Spelling.empty() && Spelling[0] == '-') {
+        Decimal.Negative = true;
+        I++;
+    }
+    for (; I < Spelling.size() && Spelling[I] != 'e' && Spelling[I] != 'E'; I++) {
+        if (Spelling[I] == '.') {
+            BehindPoint = true;
+            continue;
+        }
+        const auto Digit = static_cast<std::uint32_t>(Spelling[I] - '0');
+        if (Decimal.Count > 0 || Digit != 0) {
+            Decimal.Point += BehindPoint ? 0 : 1;
+            if (Decimal.Count < MaxKeptDigits) {
+                Decimal.Digits.Multiply(10, Digit);
+                Decimal.Count++;
+            } else {
+                Lost = Lost || Digit != 0;
+            }
+        } else {
+            Decimal.Point -= BehindPoint ? 1 : 0;
+        }
+    }
+    if (Lost) { // what was cut off still decides a tie
+        Decimal.Digits.Multiply(10, 1);
+        Decimal.Count++;
+    }
+    if (I + 1 < Spelling.size()) {
+        const std::size_t First = I + (Spelling[I + 1] == '+' ? 2 : 1);
+        int Exponent = 0;
+        const auto Result = std::from_chars(Spelling.data() + First, Spelling.data() + Spelling.size(), Exponent);
+        if (Result.ec == std::errc::result_out_of_range)
+            Exponent = Spelling[First] == '-' ? -100'000 : 100'000;
+        Decimal.Point += std::clamp(Exponent, -100'000, 100'000);
+    }
+    return Decimal;
+}
+
+// The next binary digit of Numerator / Denominator, which is below one; Numerator becomes what is left.
+std::uint64_t NextBit(TBigNumber& Numerator, const TBigNumber& Denominator)
+{
+    Numerator.ShiftLeft(1);
+    if (TBigNumber::Compare(Numerator, Denominator) < 0)
+        return 0;
+    Numerator.Subtract(Denominator);
+    return 1;
+}
+
+} // namespace
+
+bool TExtended::IsFinite() const
+{
+    const int Exponent = SignExponent & MaxExponent;
+    if (Exponent == MaxExponent)
+        return false;
+    return Exponent == 0 || (Mantissa >> 63) != 0;
+}
+
+TExtended TExtended::Load(const char* Bytes)
+{
+    return {LoadLittleEndian<std::uint64_t>(Bytes), LoadLittleEndian<std::uint16_t>(Bytes + 8)};
+}
+
+void TExtended::Store(char* Bytes) const
+{
+    StoreLittleEndian(Bytes, Mantissa);
+    StoreLittleEndian(Bytes + 8, SignExponent);
+}
+
+TExtended TExtended::FromDouble(double Value)
+{
+    const auto Sign = static_cast<std::uint16_t>(std::signbit(Value) ? 0x8000 : 0);
+    if (Value == 0)
+        return {0, Sign};
+    int Exponent = 0;
+    const double Fraction = std::frexp(std::fabs(Value), &Exponent); // 0.5 <= Fraction < 1
+    const auto Mantissa = static_cast<std::uint64_t>(std::ldexp(Fraction, 53)) << 11;
+    return {Mantissa, static_cast<std::uint16_t>(Sign | (Exponent - 1 + Bias))};
+}
+
+double TExtended::ToDouble() const
+{
+    const double Sign = IsNegative() ? -1.0 : 1.0;
+    if (!IsFinite())
+        return (Mantissa << 1) == 0 ? Sign * HUGE_VAL : std::nan("");
+    if (Mantissa == 0)
+        return Sign * 0.0;
+    const int Exponent = std::max<int>(SignExponent & MaxExponent, 1) - Bias - 63; // of the last bit
+    // A double below 2^-1022 has fewer digits: round once, here, and not a second time when scaling.
+    const bool Subnormal = Exponent + 63 - std::countl_zero(Mantissa) < -1022;
+    const int Drop = Subnormal ? -1074 - Exponent : 0;
+    if (Drop <= 0)
+        return Sign * std::ldexp(static_cast<double>(Mantissa), Exponent);
+    if (Drop > 64)
+        return Sign * 0.0;
+    const std::uint64_t Kept = Drop == 64 ? 0 : Mantissa >> Drop;
+    const std::uint64_t Rest = Mantissa << (64 - Drop);
+    constexpr std::uint64_t Half = std::uint64_t{1} << 63;
+    const bool Up = Rest > Half || (Rest == Half && (Kept & 1) != 0);
+    return Sign * std::ldexp(static_cast<double>(Kept + (Up ? 1 : 0)), -1074);
+}
+
+bool TExtended::ToInt64(std::int64_t& Value) const
+{
+    if (!IsFinite())
+        return false;
+    const int Drop = 63 + Bias - (SignExponent & MaxExponent); // digits behind the point
+    if (Drop < 0)
+        return false;
+    std::uint64_t Whole = Drop < 64 ? Mantissa >> Drop : 0;
+    const std::uint64_t Rest = Drop == 0 ? 0 : Drop <= 64 ? Mantissa << (64 - Drop) : 0;
+    constexpr std::uint64_t Half = std::uint64_t{1} << 63;
+    Whole += Rest > Half || (Rest == Half && (Whole & 1) != 0) ? 1 : 0;
+    if (Whole > Half - (IsNegative() ? 0 : 1))
+        return false;
+    Value = static_cast<std::int64_t>(IsNegative() ? 0 - Whole : Whole);
+    return true;
+}
+
+bool TExtended::Parse(std::string_view Spelling, TExtended& Value)
+{
+    TSpelledDecimal Decimal = ReadDecimal(Spelling);
+    const auto Sign = static_cast<std::uint16_t>(Decimal.Negative ? 0x8000 : 0);
+    Value = {0, Sign};
+    if (Decimal.Count == 0 || Decimal.Point < -4960)
+        return true;
+    if (Decimal.Point > 4940)
+        return false;
+
+    // Value = Numerator / Denominator × 2^Scale, with a quotient of 64 bits, or fewer for the smallest numbers.
+    TBigNumber Numerator = Decimal.Digits;
+    TBigNumber Denominator(1);
+    const int Power = Decimal.Point - Decimal.Count;
+    (Power >= 0 ? Numerator : Denominator).MultiplyPowerOf10(std::abs(Power));
+    int Scale = std::max(Numerator.BitLength() - Denominator.BitLength() - 64, MinScale);
+    (Scale >= 0 ? Denominator : Numerator).ShiftLeft(std::abs(Scale));
+    Denominator.ShiftLeft(64);
+    if (TBigNumber::Compare(Numerator, Denominator) >= 0) {
+        Denominator.ShiftLeft(1);
+        Scale++;
+    }
+
+    std::uint64_t Quotient = 0;
+    for (int Bit = 0; Bit < 64; Bit++)
+        Quotient = Quotient << 1 | NextBit(Numerator, Denominator);
+    const bool Half = NextBit(Numerator, Denominator) != 0;
+    if (Half && (!Numerator.IsZero() || (Quotient & 1) != 0) && ++Quotient == 0) {
+        Quotient = std::uint64_t{1} << 63;
+        Scale++;
+    }
+    const int Exponent = Quotient >> 63 != 0 ? Scale + 63 + Bias : 0;
+    if (Exponent >= MaxExponent)
+        return false;
+    Value = {Quotient, static_cast<std::uint16_t>(Sign | Exponent)};
+    return true;
+}
+
+TDecimal TExtended::Shortest() const
+{
+    const double Double = ToDouble();
+    if (std::isfinite(Double) && FromDouble(Double) == *this)
+        return ShortestDecimal(Double);
+
+    // Steele and White's digit generation: Remainder / Scale is what is left of the number, Margin / Scale is how far
+    // a decimal may be away and still be nearest to this number.
+    const int Exponent = std::max<int>(SignExponent & MaxExponent, 1) - Bias - 63;
+    const bool Even = (Mantissa & 1) == 0;
+    const bool PowerOf2 = Mantissa << 1 == 0; // the next lower number is only half as far away
+    TBigNumber Remainder(Mantissa);
+    TBigNumber Scale(PowerOf2 ? 4 : 2);
+    TBigNumber Below(1);
+    TBigNumber Above(PowerOf2 ? 2 : 1);
+    Remainder.ShiftLeft(std::max(Exponent, 0) + (PowerOf2 ? 2 : 1));
+    Below.ShiftLeft(std::max(Exponent, 0));
+    Above.ShiftLeft(std::max(Exponent, 0));
+    Scale.ShiftLeft(std::max(-Exponent, 0));
+
+    TDecimal Decimal;
+    Decimal.Negative = IsNegative();
+    const int Log2 = Exponent + 63 - std::countl_zero(Mantissa);
+    Decimal.Point = static_cast<int>(std::ceil(Log2 * 0.30102999566398120 - 1e-9));
+    for (TBigNumber* Number : {&Remainder, &Below, &Above})
+        Number->MultiplyPowerOf10(-Decimal.Point);
+    Scale.MultiplyPowerOf10(Decimal.Point);
+    const auto Reaches = [&] {
+        TBigNumber Sum = Remainder;
+        Sum.Add(Above);
+        const int Order = TBigNumber::Compare(Sum, Scale);
+        return Order > 0 || (Order == 0 && Even);
+    };
+    if (Reaches()) {
+        Decimal.Point++;
+        Scale.Multiply(10);
+    }
+    for (bool Last = false; !Last;) {
+        char Digit = '0';
+        for (TBigNumber* Number : {&Remainder, &Below, &Above})
+            Number->Multiply(10);
+        for (; TBigNumber::Compare(Remainder, Scale) >= 0; Digit++)
+            Remainder.Subtract(Scale);
+        const int Order = TBigNumber::Compare(Remainder, Below);
+        const bool Low = Order < 0 || (Order == 0 && Even);
+        const bool High = Reaches();
+        Last = Low || High;
+        if (High) {
+            TBigNumber Twice = Remainder;
+            Twice.ShiftLeft(1);
+            Digit += !Low || TBigNumber::Compare(Twice, Scale) > 0 ? 1 : 0;
+        }
+        Decimal.Digits[Decimal.Count++] = Digit;
+    }
+    return Decimal;
+}
+
+TDecimal ShortestDecimal(double Value)
+{
+    TDecimal Decimal;
+    Decimal.Negative = std::signbit(Value);
+    if (Value == 0)
+        return Decimal;
+    char Spelling[40];
+    const auto End =
+        std::to_chars(Spelling, Spelling + sizeof Spelling, std::fabs(Value), std::chars_format::scientific).ptr;
+    const char* At = Spelling;
+    for (; At < End && *At != 'e'; At++)
+        if (*At != '.')
+            Decimal.Digits[Decimal.Count++] = *At;
+    while (Decimal.Count > 1 && Decimal.Digits[Decimal.Count - 1] == '0')
+        Decimal.Count--;
+    At += At[1] == '+' ? 2 : 1;
+    std::from_chars(At, End, Decimal.Point);
+    Decimal.Point++;
+    return Decimal;
+}

@@ -1,0 +1,62 @@
+// TFormCompiler turns a text form into a binary one, in one pass over the text.
+//
+//   object    ("object" | "inherited" | "inline") [Name ":"] ClassName ["[" child position "]"] property* object* "end"
+//   property  Name "=" value
+//   value     number | string ("+" string)* | identifier | "True" | "False" | "nil" | "Null" | set | list | collection
+//             | binary
+//   set       "[" [Name ("," Name)*] "]"
+//   list      "(" value* ")"
+//   collection  "<" ("item" ["[" index "]"] property* "end")* ">"
+//   binary    "{" hexadecimal digits "}"
+//
+// Case does not matter in words of the language, and blanks and line ends matter only between two words or numbers.
+#pragma once
+
+#include "vcl/classes/FormCursor.h"
+#include "vcl/classes/FormEncoder.h"
+#include "vcl/classes/FormLexer.h"
+#include "vcl/classes/FormString.h"
+
+#include <string>
+#include <string_view>
+
+class TFormCompiler {
+public:
+    // Both must outlive the compiler.
+    TFormCompiler(std::string_view Text, std::string& Output);
+
+    // Appends the first form in the text to the output. Returns how much of the text belongs to it, the blanks and
+    // line ends behind it included. Throws EFormTextError; the output may then have got a part of the form.
+    std::size_t Run();
+    // The line on which Run stopped reading.
+    int Line() const { return FLexer.Line(); }
+
+private:
+    class TLevel;
+
+    void Object();
+    TFormPrefix ObjectKeyword() const;
+    bool AtObject() const;
+    void Properties();
+    void Property();
+    void Value();
+    void IdentifierValue();
+    void IntegerValue();
+    void FloatValue();
+    void StringValue();
+    void Set();
+    void List();
+    void Collection();
+    void Binary();
+
+    std::string_view TakeName(const char* What);
+    std::int32_t TakeIndex();
+    std::int64_t ParseInteger() const;
+    void TakeSymbol(char Symbol);
+
+    TFormLexer FLexer;
+    TFormEncoder FEncoder;
+    std::string& FOutput;
+    TFormString FString;
+    int FDepth = 0;
+};
