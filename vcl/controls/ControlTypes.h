@@ -1,6 +1,7 @@
 // Enumerations, sets and event types of the controls.
 #pragma once
 
+#include "vcl/classes/InputTypes.h"
 #include "vcl/graphics/Types.h"
 #include "vcl/system/TypeInfo.h"
 
@@ -13,8 +14,6 @@ VCL_ENUM(TAnchorKind, akLeft, akTop, akRight, akBottom);
 using TAnchors = Set<TAnchorKind>;
 
 VCL_ENUM(TMouseButton, mbLeft, mbRight, mbMiddle);
-VCL_ENUM(TShiftStateFlag, ssShift, ssAlt, ssCtrl, ssLeft, ssRight, ssMiddle, ssDouble);
-using TShiftState = Set<TShiftStateFlag>;
 
 VCL_ENUM(TControlStateFlag, csLButtonDown, csClicked, csPalette, csReadingState, csAlignmentNeeded, csFocusing,
          csCreating, csPaintCopy, csCustomPaint, csDestroyingHandle, csDocking);
@@ -38,11 +37,9 @@ VCL_ENUM(TFormBorderStyle, bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow,
 using TBorderStyle = TFormBorderStyle;
 VCL_ENUM(TImeMode, imDisable, imClose, imOpen, imDontCare, imSAlpha, imAlpha, imHira, imSKata, imKata, imChinese,
          imSHanguel, imHanguel);
-VCL_ENUM(TBiDiMode, bdLeftToRight, bdRightToLeft, bdRightToLeftNoAlign, bdRightToLeftReadingOnly);
 VCL_ENUM(THelpType, htKeyword, htContext);
 
 using TTabOrder = int;
-using THelpContext = int;
 
 // A slot of the screen's cursor list: crDefault and the other system cursors are 0 and below, an application's own
 // above.
@@ -90,7 +87,6 @@ using TCanResizeEvent = TEvent<void(TObject* Sender, int& NewWidth, int& NewHeig
 using TConstrainedResizeEvent =
     TEvent<void(TObject* Sender, int& MinWidth, int& MinHeight, int& MaxWidth, int& MaxHeight)>;
 using TContextPopupEvent = TEvent<void(TObject* Sender, const TPoint& MousePos, bool& Handled)>;
-using TWndMethod = TEvent<void(TMessage& Message)>;
 
 // The shift state that a mouse message's MK_ flags, or the keyboard now, say.
 TShiftState KeysToShiftState(unsigned MouseKeys);
