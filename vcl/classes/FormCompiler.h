@@ -28,8 +28,6 @@ public:
     // Appends the first form in the text to the output. Returns how much of the text belongs to it, the blanks and
     // line ends behind it included. Throws EFormTextError; the output may then have got a part of the form.
     std::size_t Run();
-    // The line on which Run stopped reading.
-    int Line() const { return FLexer.Line(); }
 
 private:
     class TLevel;
