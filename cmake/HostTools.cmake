@@ -29,9 +29,10 @@ ExternalProject_Add(host_tools
     SOURCE_DIR ${PROJECT_SOURCE_DIR}
     BINARY_DIR ${TESSARY_HOST_DIR}
     CMAKE_ARGS -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=${TESSARY_HOST_COMPILER} -DTESSARY_BUILD_TESTS=OFF
-    BUILD_COMMAND ${CMAKE_COMMAND} --build . --target ${targets}
+    BUILD_COMMAND ${CMAKE_COMMAND} --build <BINARY_DIR> --target ${targets}
     BUILD_BYPRODUCTS ${programs}
     BUILD_ALWAYS ON
+    LOG_CONFIGURE ON
     INSTALL_COMMAND "")
 foreach(tool IN LISTS targets)
     add_dependencies(Tessary::host_${tool} host_tools)

@@ -1,10 +1,10 @@
 # Applications and what is embedded in them. This file is part of the installed package.
 include_guard()
 
-# tessary_add_application(NAME [WIN32] SOURCES... [FORMS FORM.dfm...] [BITMAPS|ICONS|CURSORS SHEET.glyphs...])
-# A program with the library, its forms and the manifest: common controls 6, UTF-8, sharp on scaled screens.
+# tessary_add_application(NAME [WIN32] SOURCES... [FORMS FORM.dfm...] [ICON SHEET] [BITMAPS SHEET...] [CURSORS SHEET...])
+# A program with the library, its forms, its pixel art and the manifest: common controls 6, UTF-8, sharp on scaled screens.
 function(tessary_add_application name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "WIN32" "" "FORMS;BITMAPS;ICONS;CURSORS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "WIN32" "ICON" "FORMS;BITMAPS;CURSORS")
     set(gui)
     if(arg_WIN32)
         set(gui WIN32)
@@ -13,7 +13,12 @@ function(tessary_add_application name)
     target_link_libraries(${name} PRIVATE Tessary::tessary)
     tessary_add_manifest(${name})
     tessary_add_forms(${name} ${arg_FORMS})
-    tessary_add_glyphs(${name} BITMAPS ${arg_BITMAPS} ICONS ${arg_ICONS} CURSORS ${arg_CURSORS})
+    tessary_add_bitmaps(${name} ${arg_BITMAPS})
+    tessary_add_cursors(${name} ${arg_CURSORS})
+    if(arg_ICON)
+        tessary_draw_glyphs(${name} ${arg_ICON} ico --icon)
+        tessary_add_resource(${name} MAINICON ICON ${drawn})
+    endif()
 endfunction()
 
 function(tessary_add_manifest target)
@@ -35,6 +40,7 @@ function(tessary_add_forms target)
         string(TOUPPER ${CMAKE_MATCH_3} class)
 
         set(binary ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${unit}.bin)
+        file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources)
         add_custom_command(
             OUTPUT ${binary}
             COMMAND Tessary::host_formconv --binary ${form} ${binary}
@@ -45,38 +51,45 @@ function(tessary_add_forms target)
     endforeach()
 endfunction()
 
-# tessary_add_glyphs(TARGET [BITMAPS|ICONS|CURSORS SHEET.glyphs...]) draws sheets of pixel art and embeds them under
-# their file names in upper case. A sheet that names its glyphs also becomes a header, "glyphs/SHEET.h".
-function(tessary_add_glyphs target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "BITMAPS;ICONS;CURSORS")
-    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/glyphs)
-    foreach(kind BITMAP ICON CURSOR)
-        set(option)
-        set(extension bmp)
-        if(NOT kind STREQUAL BITMAP)
-            string(TOLOWER --${kind} option)
-            string(SUBSTRING ${option} 2 3 extension)
-        endif()
-        foreach(sheet IN LISTS arg_${kind}S)
-            cmake_path(ABSOLUTE_PATH sheet)
-            cmake_path(GET sheet STEM name)
-            set(header)
-            file(STRINGS ${sheet} enumeration LIMIT_COUNT 1 REGEX "^enum")
-            if(enumeration AND NOT option)
-                set(header ${folder}/${name}.h)
-                target_sources(${target} PRIVATE ${header})
-                target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources)
-            endif()
-            add_custom_command(
-                OUTPUT ${folder}/${name}.${extension} ${header}
-                COMMAND Tessary::host_glyphpack ${option} ${folder}/${name}.${extension} ${sheet} ${header}
-                DEPENDS ${sheet} Tessary::host_glyphpack
-                COMMENT "Drawing glyphs ${name}"
-                VERBATIM)
-            string(TOUPPER ${name} resource)
-            tessary_add_resource(${target} ${resource} ${kind} ${folder}/${name}.${extension})
-        endforeach()
+# tessary_add_bitmaps(TARGET SHEET.glyphs...) embeds sheets of pixel art as bitmaps with their file names in upper case.
+# A sheet that names its glyphs also becomes a header, "glyphs/SHEET.h".
+function(tessary_add_bitmaps target)
+    foreach(sheet IN LISTS ARGN)
+        tessary_draw_glyphs(${target} ${sheet} bmp)
+        tessary_add_resource(${target} ${name} BITMAP ${drawn})
     endforeach()
+endfunction()
+
+function(tessary_add_cursors target)
+    foreach(sheet IN LISTS ARGN)
+        tessary_draw_glyphs(${target} ${sheet} cur --cursor)
+        tessary_add_resource(${target} ${name} CURSOR ${drawn})
+    endforeach()
+endfunction()
+
+# Has SHEET drawn as a file of the given type. Sets `drawn` to its path and `name` to the resource's name.
+function(tessary_draw_glyphs target sheet extension)
+    cmake_path(ABSOLUTE_PATH sheet)
+    cmake_path(GET sheet STEM stem)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources)
+    set(file ${folder}/glyphs/${stem}.${extension})
+    set(header)
+    file(STRINGS ${sheet} enumeration LIMIT_COUNT 1 REGEX "^enum")
+    if(enumeration AND extension STREQUAL bmp)
+        set(header ${folder}/glyphs/${stem}.h)
+        target_sources(${target} PRIVATE ${header})
+        target_include_directories(${target} PRIVATE ${folder})
+    endif()
+    file(MAKE_DIRECTORY ${folder}/glyphs)
+    add_custom_command(
+        OUTPUT ${file} ${header}
+        COMMAND Tessary::host_glyphpack ${ARGN} ${file} ${sheet} ${header}
+        DEPENDS ${sheet} Tessary::host_glyphpack
+        COMMENT "Drawing glyphs ${stem}"
+        VERBATIM)
+    set(drawn ${file} PARENT_SCOPE)
+    string(TOUPPER ${stem} name)
+    set(name ${name} PARENT_SCOPE)
 endfunction()
 
 # Embeds FILE in a program; or in every program that links a static library, which would lose a resource of its own.

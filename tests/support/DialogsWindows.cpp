@@ -64,8 +64,11 @@ std::vector<HWND> ChildrenOfClass(HWND Parent, const wchar_t* Class)
 std::string Describe(HWND Dialog)
 {
     std::string Result = TextOf(Dialog) + ":";
-    for (HWND Text : ChildrenOfClass(Dialog, L"Static"))
-        Result += " " + TextOf(Text);
+    for (HWND Child : ChildrenOfClass(Dialog, L"Static")) {
+        const std::string Text = TextOf(Child);
+        // The icon is a static control too.
+        Result += Text.empty() ? "" : " " + Text;
+    }
     return Result;
 }
 
