@@ -1,0 +1,23 @@
+// TMainMenu: the menu bar of a form.
+#pragma once
+
+#include "vcl/menus/Menu.h"
+
+class TMainMenu : public TMenu {
+    VCL_CLASS(TMainMenu, TMenu)
+public:
+    explicit TMainMenu(TComponent* AOwner);
+
+    // Shows the bar in Value and takes it out of the window before; nullptr only takes it out.
+    void SetWindowHandle(HWND Value) override;
+
+    // Kept for menu merging, which this version does not do.
+    bool AutoMerge = false;
+
+protected:
+    void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
+    HMENU CreateNativeMenu() const override;
+
+private:
+    void UpdateWindow();
+};

@@ -1,0 +1,76 @@
+// TMenu: what main menus and popup menus share. The entries hang on its root item, Items.
+#pragma once
+
+#include "vcl/menus/MenuItem.h"
+
+// What FindItem looks for.
+enum TFindItemKind { fkCommand, fkHandle, fkShortCut };
+
+class TMenu : public TComponent {
+    VCL_CLASS(TMenu, TComponent)
+public:
+    explicit TMenu(TComponent* AOwner);
+
+    // The root item; owned by the menu.
+    TMenuItem* GetItems() const { return FItems; }
+    PROPERTY_READ(TMenuItem*, Items);
+    HMENU GetHandle() { return FItems->GetHandle(); }
+    PROPERTY_READ(HMENU, Handle);
+
+    // The item with a command, with a native submenu (Value is the HMENU) or with a shortcut; nullptr when there is
+    // none.
+    TMenuItem* FindItem(uintptr_t Value, TFindItemKind Kind) const;
+    // Clicks the item with this command; false when there is none.
+    bool DispatchCommand(uint16_t Command);
+    // The submenu is about to open: clicks its item. False when it is none of this menu's.
+    bool DispatchPopup(HMENU Handle);
+    // Clicks the item that has this shortcut, as if its submenus had been opened; false when there is none or it cannot
+    // be chosen.
+    virtual bool IsShortCut(TShortCut ShortCut);
+    // The long part of the hint of the item that a WM_MENUSELECT is about; empty when there is none.
+    AnsiString HintOf(const TMessage& MenuSelect) const;
+
+    // The window that shows the menu; owned elsewhere.
+    HWND GetWindowHandle() const { return FWindowHandle; }
+    virtual void SetWindowHandle(HWND Value) { FWindowHandle = Value; }
+    PROPERTY(HWND, WindowHandle);
+    bool IsRightToLeft() const;
+
+    TMenuItemAutoFlag GetAutoHotkeys() const { return FItems->AutoHotkeys; }
+    void SetAutoHotkeys(TMenuItemAutoFlag Value) { FItems->AutoHotkeys = Value; }
+    PROPERTY(TMenuItemAutoFlag, AutoHotkeys);
+    TMenuItemAutoFlag GetAutoLineReduction() const { return FItems->AutoLineReduction; }
+    void SetAutoLineReduction(TMenuItemAutoFlag Value) { FItems->AutoLineReduction = Value; }
+    PROPERTY(TMenuItemAutoFlag, AutoLineReduction);
+    TBiDiMode GetBiDiMode() const { return FBiDiMode; }
+    void SetBiDiMode(TBiDiMode Value);
+    PROPERTY(TBiDiMode, BiDiMode);
+    bool ParentBiDiMode = true;
+    TCustomImageList* GetImages() const { return FImages; }
+    void SetImages(TCustomImageList* Value);
+    PROPERTY(TCustomImageList*, Images);
+    // Kept for owner-drawing menus.
+    bool OwnerDraw = false;
+
+    TMenuChangeEvent OnChange;
+
+    void GetChildren(const TGetChildProc& Proc, TComponent* Root) override;
+    void SetChildOrder(TComponent* Child, int Order) override;
+
+protected:
+    friend class TMenuItem;
+
+    void Loaded() override;
+    void Notification(TComponent* Component, TOperation Operation) override;
+    // An item changed; Source is nullptr for the menu itself.
+    virtual void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild);
+    // The kind of native menu for the root item: a bar or a popup.
+    virtual HMENU CreateNativeMenu() const;
+
+    HWND FWindowHandle = nullptr;
+
+private:
+    TMenuItem* FItems;
+    TCustomImageList* FImages = nullptr;
+    TBiDiMode FBiDiMode = bdLeftToRight;
+};

@@ -1,0 +1,186 @@
+// TMenuItem: an entry of a menu, and with entries of its own a submenu.
+//
+// An item that the user can choose has a command, unique in the program, under which the system reports it. Native
+// menus are made when they are first needed and follow the items from then on.
+//
+// Owner drawing and menu merging have their place in FillItemInfo and TMainMenu.
+#pragma once
+
+#include "vcl/classes/Component.h"
+#include "vcl/menus/ShortCut.h"
+#include "vcl/system/Utf.h"
+#include "vcl/system/WindowsApi.h"
+
+#include <initializer_list>
+#include <vector>
+
+class TCustomImageList;
+class TMenu;
+
+VCL_EXCEPTION(EMenuError, Exception);
+
+VCL_ENUM(TMenuBreak, mbNone, mbBreak, mbBarBreak);
+VCL_ENUM(TMenuItemAutoFlag, maAutomatic, maManual, maParent);
+
+// The caption of a separator.
+inline constexpr char cLineCaption[] = "-";
+
+class TMenuItem;
+// Rebuild: more than the state of Source changed. Source is nullptr for the menu itself.
+using TMenuChangeEvent = TEvent<void(TObject* Sender, TMenuItem* Source, bool Rebuild)>;
+
+class TMenuItem : public TComponent {
+    VCL_CLASS(TMenuItem, TComponent)
+public:
+    explicit TMenuItem(TComponent* AOwner);
+    // Its items are deleted with it, whoever owns them.
+    ~TMenuItem() override;
+    void BeforeDestruction() override;
+
+    // ---- the tree
+
+    int GetCount() const { return static_cast<int>(FItems.size()); }
+    PROPERTY_READ(int, Count);
+    // Raises EMenuError "Menu index out of range".
+    TMenuItem* GetItems(int Index) const;
+    PROPERTY_INDEXED_READ(TMenuItem*, Items);
+    // At the end, or at Index. Raises EMenuError "Menu inserted twice" when the item is in a menu already.
+    void Add(TMenuItem* Item) { Insert(GetCount(), Item); }
+    void Add(std::initializer_list<TMenuItem*> Items);
+    void Insert(int Index, TMenuItem* Item);
+    // Takes the item out; it is not deleted. Remove raises EMenuError "Sub-menu is not in menu" for others' items.
+    void Delete(int Index);
+    void Remove(TMenuItem* Item);
+    // Deletes all items.
+    void Clear();
+    // -1 when Item is not one of this item's.
+    int IndexOf(const TMenuItem* Item) const;
+    // The item with this caption, accelerator marks apart and case ignored; nullptr when there is none.
+    TMenuItem* Find(std::string_view Caption) const;
+    int InsertNewLineBefore(TMenuItem* Item);
+    int InsertNewLineAfter(TMenuItem* Item);
+
+    TMenuItem* GetParent() const { return FParent; }
+    PROPERTY_READ(TMenuItem*, Parent);
+    // The menu that this item is in, however deep; nullptr when it is in none.
+    TMenu* GetParentMenu() const;
+    // The place among the parent's items; -1 without a parent. Setting clamps to what exists.
+    int GetMenuIndex() const;
+    void SetMenuIndex(int Value);
+    PROPERTY(int, MenuIndex);
+    bool HasParent() const override { return FParent != nullptr; }
+    TComponent* GetParentComponent() const override;
+    void SetParentComponent(TComponent* Value) override;
+    void GetChildren(const TGetChildProc& Proc, TComponent* Root) override;
+    void SetChildOrder(TComponent* Child, int Order) override;
+
+    // ---- what it is
+
+    uint16_t GetCommand() const { return FCommand; }
+    PROPERTY_READ(uint16_t, Command);
+    // The native menu with this item's items; made when there is none yet. Owned by the item.
+    HMENU GetHandle();
+    PROPERTY_READ(HMENU, Handle);
+    bool HandleAllocated() const { return FHandle != nullptr; }
+
+    bool IsLine() const { return FCaption == cLineCaption; }
+    // What a click on the item does: AutoCheck, then OnClick. Nothing while the item is disabled.
+    virtual void Click();
+    // True when the item, and everything it is in, is visible and enabled.
+    bool CanBeChosen() const;
+
+    // Gives each item without an accelerator of its own, or with a repeated one, a free letter, when AutoHotkeys says
+    // so or ForceRethink. True when anything changed.
+    bool RethinkHotkeys(bool ForceRethink = false);
+    // Shows again the separators that have something to separate, and no others. True when anything changed.
+    bool RethinkLines();
+
+    // The images that the item's ImageIndex counts in; nullptr when there are none.
+    TCustomImageList* GetImageList() const;
+
+#define MENU_ITEM_VALUE(Type, Name, Field)                                                                             \
+    Type Get##Name() const { return Field; }                                                                           \
+    void Set##Name(Type Value);                                                                                        \
+    PROPERTY(Type, Name)
+
+    bool AutoCheck = false;
+    MENU_ITEM_VALUE(TMenuItemAutoFlag, AutoHotkeys, FAutoHotkeys);
+    MENU_ITEM_VALUE(TMenuItemAutoFlag, AutoLineReduction, FAutoLineReduction);
+    // Starts a new column.
+    MENU_ITEM_VALUE(TMenuBreak, Break, FBreak);
+    const AnsiString& GetCaption() const { return FCaption; }
+    // "-" makes a separator; & marks the accelerator.
+    void SetCaption(const AnsiString& Value);
+    PROPERTY(AnsiString, Caption);
+    MENU_ITEM_VALUE(bool, Checked, FChecked);
+    // Images of this item's items, instead of the menu's.
+    MENU_ITEM_VALUE(TCustomImageList*, SubMenuImages, FSubMenuImages);
+    // Bold, and chosen by a double click on its submenu; one at most in a menu.
+    MENU_ITEM_VALUE(bool, Default, FDefault);
+    MENU_ITEM_VALUE(bool, Enabled, FEnabled);
+    // Raises EMenuError "GroupIndex cannot be less than a previous menu item's GroupIndex". Later siblings follow up.
+    MENU_ITEM_VALUE(uint8_t, GroupIndex, FGroupIndex);
+    THelpContext HelpContext = 0;
+    AnsiString Hint;
+    MENU_ITEM_VALUE(int, ImageIndex, FImageIndex);
+    // Of the radio items of a group only one is checked.
+    MENU_ITEM_VALUE(bool, RadioItem, FRadioItem);
+    MENU_ITEM_VALUE(TShortCut, ShortCut, FShortCut);
+    MENU_ITEM_VALUE(bool, Visible, FVisible);
+#undef MENU_ITEM_VALUE
+
+    TNotifyEvent OnClick;
+
+protected:
+    void Loaded() override;
+    void Notification(TComponent* Component, TOperation Operation) override;
+    // Something about the item changed; the native menu and the menu's OnChange follow.
+    virtual void MenuChanged(bool Rebuild);
+    void AssignTo(TPersistent* Dest) override;
+
+private:
+    friend class TMenu;
+
+    void ChangeLook();
+    bool AppearsAt(size_t Index) const;
+    TMenuItem* LastShownBefore(size_t Index) const;
+    void FillItemInfo(MENUITEMINFOW& Info, TWideString& Text);
+    void UpdateNative();
+    void Rebuild();
+    void FillNative();
+    void FreeNative();
+    void DetachNative(TMenuItem* Item);
+    void NotifyMenu(TMenuItem* Source, bool Rebuild);
+    void TurnSiblingsOff();
+    int NewLineAt(int Index);
+    TMenuItemAutoFlag Inherit(TMenuItemAutoFlag TMenuItem::* Flag) const;
+
+    TMenuItem* FParent = nullptr;
+    TMenu* FMenu = nullptr; // of the root item only
+    HMENU FHandle = nullptr;
+    std::vector<TMenuItem*> FItems;
+    AnsiString FCaption;
+    TCustomImageList* FSubMenuImages = nullptr;
+    int FImageIndex = -1;
+    uint16_t FCommand;
+    TShortCut FShortCut = scNone;
+    uint8_t FGroupIndex = 0;
+    TMenuBreak FBreak = mbNone;
+    TMenuItemAutoFlag FAutoHotkeys = maParent;
+    TMenuItemAutoFlag FAutoLineReduction = maParent;
+    bool FChecked = false;
+    bool FDefault = false;
+    bool FEnabled = true;
+    bool FRadioItem = false;
+    bool FVisible = true;
+};
+
+// A new item that nobody but AOwner owns, with the values given.
+TMenuItem* NewItem(const AnsiString& Caption, TShortCut ShortCut, bool Checked, bool Enabled,
+                   const TNotifyEvent& OnClick, THelpContext HelpContext, const AnsiString& Name,
+                   TComponent* AOwner = nullptr);
+// A separator.
+TMenuItem* NewLine(TComponent* AOwner = nullptr);
+// An item with items.
+TMenuItem* NewSubMenu(const AnsiString& Caption, THelpContext HelpContext, const AnsiString& Name,
+                      std::initializer_list<TMenuItem*> Items, bool Enabled = true, TComponent* AOwner = nullptr);
