@@ -12,6 +12,7 @@
 class TCanvas;
 class TFormLink;
 class TPopupMenu;
+struct TAnchorRules;
 struct TControlExtras;
 
 class TControl : public TComponent {
@@ -79,7 +80,8 @@ public:
     bool HasParent() const override { return FParent != nullptr; }
     TComponent* GetParentComponent() const override;
     void SetParentComponent(TComponent* Value) override;
-    // The form's link to the form this control stands on, or nullptr.
+    // The form this control stands on (or is), and its link; nullptr when it stands on none.
+    TWinControl* ParentFormControl() const;
     TFormLink* ParentFormLink() const;
     void BringToFront() { SetZOrder(true); }
     void SendToBack() { SetZOrder(false); }
@@ -114,7 +116,7 @@ public:
     PROPERTY(TCursor, Cursor);
 
     // The control's text; windowed controls keep theirs in the window. Caption and Text are the same.
-    AnsiString GetText() const;
+    virtual AnsiString GetText() const { return FText; }
     void SetText(const AnsiString& Value);
     PROPERTY(AnsiString, Text);
     AnsiString GetCaption() const { return GetText(); }
@@ -130,9 +132,6 @@ public:
 
     // ---- hints, menus, help
 
-    AnsiString GetHint() const;
-    void SetHint(const AnsiString& Value);
-    PROPERTY(AnsiString, Hint);
     bool GetShowHint() const { return FShowHint; }
     void SetShowHint(bool Value);
     PROPERTY(bool, ShowHint);
@@ -149,6 +148,7 @@ public:
     Type Get##Name() const;                                                                                            \
     void Set##Name(const Type& Value);                                                                                 \
     PROPERTY(Type, Name)
+    CONTROL_EXTRA(AnsiString, Hint);
     CONTROL_EXTRA(THelpContext, HelpContext);
     CONTROL_EXTRA(AnsiString, HelpKeyword);
     CONTROL_EXTRA(THelpType, HelpType);
@@ -183,7 +183,6 @@ public:
     TWndMethod GetWindowProc();
     void SetWindowProc(const TWndMethod& Value) { FWindowProc = Value; }
     PROPERTY(TWndMethod, WindowProc);
-    void DefaultHandler(TMessage& Message) override;
 
     TControlState GetControlState() const { return FControlState; }
     PROPERTY_READ(TControlState, ControlState);
@@ -240,8 +239,8 @@ protected:
     void RequestAlign();
     virtual void SetZOrder(bool TopMost);
     void Changed() { Perform(CM_CHANGED, 0, reinterpret_cast<intptr_t>(this)); }
-    // The raw text, without asking a window for it.
-    const AnsiString& StoredText() const { return FText; }
+    // Keeps a text that differs from the one before; CM_TEXTCHANGED follows.
+    virtual void StoreText(const AnsiString& Value) { FText = Value; }
     void SetControlFlag(TControlStateFlag Flag, bool On);
     void SetStyleFlag(TControlStyleFlag Flag, bool On);
     // Part of the control that must be drawn again, seen from the parent. IsOpaque: nothing behind needs drawing.
@@ -249,8 +248,6 @@ protected:
     // A device context of the parent's window, with its origin in this control, or of the control's own window.
     // Window is the one to release it to.
     virtual HDC GetDeviceContext(HWND& Window);
-    // The size the control has, as SetBounds of an ancestor or the window tells it.
-    void UpdateBoundsRect(const TRect& R);
     TControlExtras& Extras();
 
     bool IsCaptionStored() const { return !GetText().empty(); }
@@ -262,7 +259,10 @@ protected:
 private:
     friend class TWinControl;
     friend class TAligner;
+    friend class TControlCanvas;
+    friend class TDragManager;
     friend class TMouse;
+    friend class TWindowPainter;
 
     void WMLButtonDown(TWMMouse& Message);
     void WMRButtonDown(TWMMouse& Message);
@@ -276,26 +276,24 @@ private:
     void WMMButtonUp(TWMMouse& Message);
     void WMMouseWheel(TMessage& Message);
     void WMCancelMode(TMessage& Message);
-    void WMWindowPosChanged(TWMWindowPosChanged& Message);
     void WMContextMenu(TMessage& Message);
     void CMParentFontChanged(TMessage& Message);
     void CMParentColorChanged(TMessage& Message);
     void CMParentShowHintChanged(TMessage& Message);
     void CMVisibleChanged(TMessage& Message);
-    void CMEnabledChanged(TMessage& Message);
-    void CMColorChanged(TMessage& Message);
-    void CMFontChanged(TMessage& Message);
-    void CMSysColorChange(TMessage& Message);
+    void CMRepaint(TMessage& Message);
     void CMHitTest(TMessage& Message);
     void CMMouseEnter(TMessage& Message);
     void CMMouseLeave(TMessage& Message);
 
-    void DoMouseDown(TWMMouse& Message, TMouseButton Button, TShiftState Shift);
-    void DoMouseUp(TWMMouse& Message, TMouseButton Button);
+    void ButtonDown(TWMMouse& Message, TMouseButton Button, bool Double);
+    void ButtonUp(TWMMouse& Message, TMouseButton Button);
+    TFont* FontProperty() { return &FFont; }
     void FontChanged(TObject* Sender);
+    void ConstraintsChanged(TObject* Sender);
+    void SetClientSize(const TPoint& Size);
     void UpdateAnchorRules();
     bool CheckNewSize(int& NewWidth, int& NewHeight);
-    bool BackgroundIsCovered(const TRect& R) const;
 
     TWinControl* FParent = nullptr;
     int FLeft = 0;
@@ -306,9 +304,7 @@ private:
     TFont FFont;
     TWndMethod FWindowProc;
     std::unique_ptr<TControlExtras> FExtras;
-    // Anchors are kept against the parent's client size of the time when the control was placed.
-    TPoint FAnchorOrigin{};
-    TPoint FAnchorSize{};
+    std::unique_ptr<TAnchorRules> FAnchorRules;
     TControlStyle FControlStyle{csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
     TControlState FControlState;
     TAnchors FAnchors{akLeft, akTop};
@@ -322,8 +318,6 @@ private:
     bool FParentShowHint = true;
     bool FShowHint = false;
     bool FAutoSize = false;
-    bool FIsControl = false;
-    bool FAnchorMove = false;
 };
 
 // The control that Window belongs to, or nullptr.

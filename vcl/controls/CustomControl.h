@@ -1,7 +1,7 @@
 // TCustomControl: a windowed control that paints itself.
 #pragma once
 
-#include "vcl/controls/GraphicControl.h"
+#include "vcl/controls/ControlCanvas.h"
 #include "vcl/controls/WinControl.h"
 
 class TCustomControl : public TWinControl {

@@ -2,30 +2,7 @@
 #pragma once
 
 #include "vcl/controls/Control.h"
-#include "vcl/graphics/Canvas.h"
-
-// A canvas on a control: its device context is got when something is drawn and given back soon after.
-class TControlCanvas : public TCanvas {
-    VCL_CLASS(TControlCanvas, TCanvas)
-public:
-    explicit TControlCanvas(TControl* Control = nullptr) : FControl(Control) {}
-    ~TControlCanvas() override;
-
-    TControl* GetControl() const { return FControl; }
-    void SetControl(TControl* Value);
-    PROPERTY(TControl*, Control);
-
-    // Gives the device context back to the system.
-    void FreeHandle();
-
-protected:
-    void CreateHandle() override;
-
-private:
-    TControl* FControl;
-    HWND FWindow = nullptr;
-    HDC FDeviceContext = nullptr;
-};
+#include "vcl/controls/ControlCanvas.h"
 
 class TGraphicControl : public TControl {
     VCL_CLASS(TGraphicControl, TControl)

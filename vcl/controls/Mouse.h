@@ -17,6 +17,8 @@ public:
     static void SetHotControl(TControl* Control);
     // Asks where the pointer is now; for when controls moved under it.
     static void UpdateHotControl();
+    // The system gave the mouse to another window, or to none (nullptr).
+    static void CaptureChanged(HWND NewOwner);
     // Control is going away.
     static void Forget(TControl* Control);
 

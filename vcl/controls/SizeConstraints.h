@@ -3,13 +3,10 @@
 
 #include "vcl/classes/Persistent.h"
 
-class TControl;
-
 class TSizeConstraints : public TPersistent {
     VCL_CLASS(TSizeConstraints, TPersistent)
 public:
-    // A part of Control, which takes on the limits when they change.
-    explicit TSizeConstraints(TControl* Control) : FControl(Control) {}
+    TSizeConstraints() = default;
 
     void Assign(TPersistent* Source) override;
 
@@ -35,7 +32,6 @@ public:
 private:
     void SetLimit(int& Limit, int Value, int& Opposite, bool IsMax);
 
-    TControl* FControl;
     int FMaxHeight = 0;
     int FMaxWidth = 0;
     int FMinHeight = 0;

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "vcl/controls/Control.h"
+#include "vcl/system/Utf.h"
 
 #include <vector>
 
 class TBrush;
+class TReader;
 class TFormLink;
 
 // How a window is to be created; CreateParams fills it in.
@@ -112,6 +114,7 @@ public:
     void SetBounds(int ALeft, int ATop, int AWidth, int AHeight) override;
     TRect GetClientRect() const override;
     TPoint GetClientOrigin() const override;
+    AnsiString GetText() const override;
     void Invalidate() override;
     void Update() override;
     void Repaint() override;
@@ -147,10 +150,9 @@ protected:
 
     // ---- painting
 
-    // WM_PAINT in a device context; the children without windows follow.
+    // Draws the client area on a context whose background has been painted; the windowless children follow.
     virtual void PaintWindow(HDC) {}
-    void PaintHandler(TMessage& Message);
-    void PaintControls(HDC DC, TControl* First);
+    void PaintControls(HDC DC, const TRect& Clip);
     // True when PaintWindow draws, so that the window is painted through a buffer.
     virtual bool PaintsItself() const { return false; }
 
@@ -159,8 +161,6 @@ protected:
     // Lays the children out in Rect. Override AdjustClientRect to keep them off a border.
     virtual void AlignControls(TControl* Control, TRect& Rect);
     virtual void AdjustClientRect(TRect& Rect) const;
-    // alCustom and special rules: called for each child before it is placed; false leaves the order as it is.
-    virtual void AdjustSizeToChildren() {}
 
     void WndProc(TMessage& Message) override;
     virtual void DoEnter();
@@ -172,7 +172,7 @@ protected:
     void MainWndProc(TMessage& Message);
     void ReadState(TReader& Reader) override;
     void Loaded() override;
-    void VisibleChanging() override {}
+    void StoreText(const AnsiString& Value) override;
     void SetZOrder(bool TopMost) override;
     HDC GetDeviceContext(HWND& Window) override;
     bool CanAutoSize(int& NewWidth, int& NewHeight) override;
@@ -186,33 +186,23 @@ private:
     friend class TWindowPainter;
     friend class TWindowClass;
 
-    static LRESULT CALLBACK InitWndProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam);
-    static LRESULT CALLBACK StdWndProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam);
-
     void WMPaint(TMessage& Message);
     void WMEraseBkgnd(TMessage& Message);
-    void WMCommand(TWMCommand& Message);
-    void WMNotify(TMessage& Message);
-    void WMHScroll(TMessage& Message);
-    void WMVScroll(TMessage& Message);
-    void WMDrawItem(TMessage& Message);
-    void WMMeasureItem(TMessage& Message);
-    void WMCtlColor(TMessage& Message);
-    void WMParentNotify(TMessage& Message);
-    void WMSetFocus(TMessage& Message);
-    void WMKillFocus(TMessage& Message);
+    void WMReflect(TMessage& Message);
+    void CNCtlColor(TMessage& Message);
     void WMSetCursor(TMessage& Message);
     void WMKeyDown(TWMKey& Message);
     void WMKeyUp(TWMKey& Message);
     void WMChar(TWMKey& Message);
     void WMSize(TWMSize& Message);
-    void WMMove(TMessage& Message);
     void WMWindowPosChanged(TWMWindowPosChanged& Message);
     void WMNCDestroy(TMessage& Message);
     void WMSysColorChange(TMessage& Message);
     void WMFontChange(TMessage& Message);
-    void CNKey(TWMKey& Message);
+    void CNKeyDown(TWMKey& Message);
+    void CNKeyUp(TWMKey& Message);
     void CNChar(TWMKey& Message);
+    void CNSysChar(TWMKey& Message);
     void CMRecreateWnd(TMessage& Message);
     void CMShowingChanged(TMessage& Message);
     void CMVisibleChanged(TMessage& Message);
@@ -224,8 +214,7 @@ private:
     void CMParentCtl3DChanged(TMessage& Message);
     void CMCursorChanged(TMessage& Message);
     void CMShowHintChanged(TMessage& Message);
-    void CMDialogKey(TMessage& Message);
-    void CMDialogChar(TMessage& Message);
+    void CMBroadcast(TMessage& Message);
     void CMEnter(TMessage& Message);
     void CMExit(TMessage& Message);
     void CMSysColorChange(TMessage& Message);
@@ -236,7 +225,13 @@ private:
     void UpdateShowing();
     void UpdateBounds();
     bool IsControlMouseMsg(TWMMouse& Message);
-    void PlaceWindowAbove(TWinControl* Control);
+    void TrackPointer(const TPoint& Pos);
+    bool IsCtl3DStored() const { return !FParentCtl3D; }
+    bool SystemPaints() const;
+    void RestoreWindowOrder(TWinControl* Control);
+    void FixupTabList();
+    void MoveInTabList(TTabOrder Value);
+    bool DoKey(TWMKey& Message, void (TWinControl::*Handler)(uint16_t&, TShiftState));
 
     HWND FHandle = nullptr;
     HWND FParentWindow = nullptr;
@@ -245,8 +240,9 @@ private:
     std::vector<TWinControl*> FWindows;
     std::vector<TWinControl*> FTabList;
     std::unique_ptr<TBrush> FBrush;
-    AnsiString FSavedText;
     int FAlignLevel = 0;
+    bool FAligning = false;
+    bool FAlignNeeded = false;
     TTabOrder FReadTabOrder = -1;
     bool FTabStop = false;
     bool FShowing = false;

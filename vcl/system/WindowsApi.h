@@ -24,6 +24,7 @@
 #include <commctrl.h>
 #include <shellapi.h>
 #include <commdlg.h>
+#include <oleacc.h>
 // clang-format on
 
 #undef AppendMenu

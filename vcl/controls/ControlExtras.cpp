@@ -1,0 +1,120 @@
+#include "vcl/controls/ControlExtras.h"
+
+#include "vcl/controls/DragManager.h"
+#include "vcl/controls/WinControl.h"
+#include "vcl/menus/PopupMenu.h"
+
+TControlExtras& TControl::Extras()
+{
+    if (!FExtras)
+        FExtras = std::make_unique<TControlExtras>();
+    return *FExtras;
+}
+
+namespace {
+const TControlExtras NoExtras;
+}
+
+#define CONTROL_EXTRA(Type, Name)                                                                                      \
+    Type TControl::Get##Name() const                                                                                   \
+    {                                                                                                                  \
+        return (FExtras ? *FExtras : NoExtras).Name;                                                                   \
+    }                                                                                                                  \
+    void TControl::Set##Name(const Type& Value)                                                                        \
+    {                                                                                                                  \
+        if (FExtras || !(Value == NoExtras.Name))                                                                      \
+            Extras().Name = Value;                                                                                     \
+    }
+CONTROL_EXTRA(AnsiString, Hint)
+CONTROL_EXTRA(THelpContext, HelpContext)
+CONTROL_EXTRA(AnsiString, HelpKeyword)
+CONTROL_EXTRA(THelpType, HelpType)
+CONTROL_EXTRA(TBiDiMode, BiDiMode)
+CONTROL_EXTRA(bool, ParentBiDiMode)
+CONTROL_EXTRA(TCursor, DragCursor)
+CONTROL_EXTRA(TDragKind, DragKind)
+CONTROL_EXTRA(TDragMode, DragMode)
+CONTROL_EXTRA(TDragDropEvent, OnDragDrop)
+CONTROL_EXTRA(TDragOverEvent, OnDragOver)
+CONTROL_EXTRA(TStartDragEvent, OnStartDrag)
+CONTROL_EXTRA(TEndDragEvent, OnEndDrag)
+CONTROL_EXTRA(TCanResizeEvent, OnCanResize)
+CONTROL_EXTRA(TConstrainedResizeEvent, OnConstrainedResize)
+CONTROL_EXTRA(TContextPopupEvent, OnContextPopup)
+CONTROL_EXTRA(TMouseWheelEvent, OnMouseWheel)
+#undef CONTROL_EXTRA
+
+void TControl::SetShowHint(bool Value)
+{
+    if (FShowHint == Value)
+        return;
+    FShowHint = Value;
+    FParentShowHint = false;
+    Perform(CM_SHOWHINTCHANGED);
+}
+
+void TControl::SetParentShowHint(bool Value)
+{
+    if (FParentShowHint == Value)
+        return;
+    FParentShowHint = Value;
+    if (FParent)
+        Perform(CM_PARENTSHOWHINTCHANGED);
+}
+
+TPopupMenu* TControl::GetPopupMenu() const
+{
+    return FExtras ? FExtras->PopupMenu : nullptr;
+}
+
+void TControl::SetPopupMenu(TPopupMenu* Value)
+{
+    if (GetPopupMenu() == Value)
+        return;
+    Extras().PopupMenu = Value;
+    if (Value)
+        Value->FreeNotification(this);
+}
+
+// ---- dragging
+
+void TControl::BeginDrag(bool Immediate, int Threshold)
+{
+    TDragManager::Begin(this, Immediate, Threshold);
+}
+
+void TControl::EndDrag(bool Drop)
+{
+    if (Dragging())
+        TDragManager::End(Drop);
+}
+
+bool TControl::Dragging() const
+{
+    return TDragManager::Source() == this;
+}
+
+void TControl::DragDrop(TObject* Source, int X, int Y)
+{
+    if (FExtras)
+        FExtras->OnDragDrop(this, Source, X, Y);
+}
+
+void TControl::DragOver(TObject* Source, int X, int Y, TDragState State, bool& Accept)
+{
+    Accept = FExtras && FExtras->OnDragOver;
+    if (Accept)
+        FExtras->OnDragOver(this, Source, X, Y, State, Accept);
+}
+
+void TControl::DoStartDrag(TDragObject*& DragObject)
+{
+    if (FExtras)
+        FExtras->OnStartDrag(this, DragObject);
+}
+
+void TControl::DoEndDrag(TObject* Target, int X, int Y)
+{
+    if (FExtras)
+        FExtras->OnEndDrag(this, Target, X, Y);
+}

@@ -1,0 +1,87 @@
+#include "vcl/controls/PaintBuffer.h"
+
+#include "vcl/system/Exceptions.h"
+#include "vcl/system/LiveCount.h"
+
+#include <memory>
+
+// A memory context with a 32-bit bitmap in it.
+class TPaintBuffer::TSurface {
+public:
+    TSurface(int AWidth, int AHeight) : Width(AWidth), Height(AHeight)
+    {
+        BITMAPINFO Info{};
+        Info.bmiHeader.biSize = sizeof Info.bmiHeader;
+        Info.bmiHeader.biWidth = Width;
+        Info.bmiHeader.biHeight = -Height;
+        Info.bmiHeader.biPlanes = 1;
+        Info.bmiHeader.biBitCount = 32;
+        void* Bits = nullptr;
+        DC = CreateCompatibleDC(nullptr);
+        Bitmap = CreateDIBSection(nullptr, &Info, DIB_RGB_COLORS, &Bits, nullptr, 0);
+        if (!DC || !Bitmap)
+            throw EOSError("Out of system resources");
+        Before = static_cast<HBITMAP>(SelectObject(DC, Bitmap));
+    }
+    ~TSurface()
+    {
+        SelectObject(DC, Before);
+        DeleteObject(Bitmap);
+        DeleteDC(DC);
+    }
+
+    int Width;
+    int Height;
+    HDC DC;
+    bool InUse = false;
+
+    static std::unique_ptr<TSurface> Shared;
+
+private:
+    HBITMAP Bitmap;
+    HBITMAP Before;
+};
+
+std::unique_ptr<TPaintBuffer::TSurface> TPaintBuffer::TSurface::Shared;
+
+TPaintBuffer::TPaintBuffer(const TRect& Area) : FArea(Area)
+{
+    auto& Shared = TSurface::Shared;
+    FShared = !Shared || !Shared->InUse;
+    if (!FShared) {
+        FSurface = new TSurface(Area.Width(), Area.Height());
+    } else {
+        if (!Shared || Shared->Width < Area.Width() || Shared->Height < Area.Height()) {
+            int Width = std::max(Area.Width(), Shared ? Shared->Width : 0);
+            int Height = std::max(Area.Height(), Shared ? Shared->Height : 0);
+            Shared.reset();
+            Shared = std::make_unique<TSurface>(Width, Height);
+        }
+        FSurface = Shared.get();
+        FSurface->InUse = true;
+    }
+    FDC = FSurface->DC;
+    FSaved = SaveDC(FDC);
+    SetViewportOrgEx(FDC, -Area.Left, -Area.Top, nullptr);
+    IntersectClipRect(FDC, Area.Left, Area.Top, Area.Right, Area.Bottom);
+}
+
+TPaintBuffer::~TPaintBuffer()
+{
+    RestoreDC(FDC, FSaved);
+    if (FShared)
+        FSurface->InUse = false;
+    else
+        delete FSurface;
+}
+
+void TPaintBuffer::CopyTo(HDC Target) const
+{
+    BitBlt(Target, FArea.Left, FArea.Top, FArea.Width(), FArea.Height(), FDC, FArea.Left, FArea.Top, SRCCOPY);
+}
+
+void TPaintBuffer::FreeShared()
+{
+    if (TSurface::Shared && !TSurface::Shared->InUse)
+        TSurface::Shared.reset();
+}

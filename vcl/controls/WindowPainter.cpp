@@ -1,0 +1,100 @@
+#include "vcl/controls/WindowPainter.h"
+
+#include "vcl/controls/PaintBuffer.h"
+#include "vcl/controls/WinControl.h"
+
+void TWindowPainter::Paint(TWinControl& Window)
+{
+    PAINTSTRUCT Paint;
+    HDC Screen = BeginPaint(Window.FHandle, &Paint);
+    TRect Clip = Paint.rcPaint;
+    if (!Clip.IsEmpty()) {
+        TPaintBuffer Buffer(Clip);
+        PaintInto(Window, Buffer.DC(), Clip);
+        Buffer.CopyTo(Screen);
+    }
+    EndPaint(Window.FHandle, &Paint);
+}
+
+bool TWindowPainter::PaintAlone(TControl& Control)
+{
+    if (!Control.FControlStyle.Contains(csOpaque) || IsCovered(Control))
+        return false;
+    TWinControl& Parent = *Control.FParent;
+    TRect Client = Parent.TWinControl::GetClientRect();
+    TRect Area = Control.GetBoundsRect();
+    if (!IntersectRect(Area, Area, Client))
+        return true;
+    TPaintBuffer Buffer(Area);
+    PaintControl(Control, Buffer.DC());
+    HDC Screen = GetDC(Parent.FHandle);
+    Buffer.CopyTo(Screen);
+    ReleaseDC(Parent.FHandle, Screen);
+    return true;
+}
+
+bool TWindowPainter::IsCovered(const TControl& Control)
+{
+    const TWinControl& Parent = *Control.FParent;
+    TRect Bounds = Control.GetBoundsRect();
+    auto Covers = [&](const TControl& Other) {
+        TRect Common;
+        return Other.FVisible && IntersectRect(Common, Bounds, Other.GetBoundsRect());
+    };
+    bool Above = false;
+    for (const TControl* Sibling : Parent.FGraphics) {
+        if (Above && Covers(*Sibling))
+            return true;
+        Above |= Sibling == &Control;
+    }
+    for (const TWinControl* Sibling : Parent.FWindows)
+        if (Covers(*Sibling))
+            return true;
+    return false;
+}
+
+size_t TWindowPainter::FindCover(const TWinControl& Window, const TRect& Clip)
+{
+    for (size_t I = Window.FGraphics.size(); I-- > 0;) {
+        const TControl& Control = *Window.FGraphics[I];
+        TRect Bounds = Control.GetBoundsRect();
+        TRect All;
+        if (Control.FVisible && Control.FControlStyle.Contains(csOpaque) && UnionRect(All, Bounds, Clip) &&
+            All == Bounds)
+            return I;
+    }
+    return Window.FGraphics.size();
+}
+
+void TWindowPainter::PaintInto(TWinControl& Window, HDC DC, const TRect& Clip)
+{
+    size_t First = FindCover(Window, Clip);
+    if (First == Window.FGraphics.size()) {
+        Window.Perform(WM_ERASEBKGND, reinterpret_cast<uintptr_t>(DC), reinterpret_cast<intptr_t>(DC));
+        Window.PaintWindow(DC);
+        First = 0;
+    }
+    PaintControls(Window, DC, First, Clip);
+}
+
+void TWindowPainter::PaintControls(TWinControl& Window, HDC DC, size_t First, const TRect& Clip)
+{
+    // By index and with the size asked for each time: a control's Paint may change the list.
+    for (size_t I = First; I < Window.FGraphics.size(); ++I) {
+        TControl& Control = *Window.FGraphics[I];
+        TRect Common;
+        bool Shown = Control.FVisible || (Control.IsDesigning() && !Control.FControlStyle.Contains(csNoDesignVisible));
+        if (Shown && IntersectRect(Common, Clip, Control.GetBoundsRect()))
+            PaintControl(Control, DC);
+    }
+}
+
+void TWindowPainter::PaintControl(TControl& Control, HDC DC)
+{
+    int Saved = SaveDC(DC);
+    POINT Origin;
+    OffsetViewportOrgEx(DC, Control.FLeft, Control.FTop, &Origin);
+    IntersectClipRect(DC, 0, 0, Control.FWidth, Control.FHeight);
+    Control.Perform(WM_PAINT, reinterpret_cast<uintptr_t>(DC));
+    RestoreDC(DC, Saved);
+}
