@@ -1,0 +1,274 @@
+// Children of TWinControl and their layout.
+#include "vcl/controls/Aligner.h"
+#include "vcl/controls/FormHost.h"
+#include "vcl/controls/WinControl.h"
+
+#include <algorithm>
+
+TControl* TWinControl::GetControls(int Index) const
+{
+    if (Index < 0 || Index >= GetControlCount())
+        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    size_t Place = static_cast<size_t>(Index);
+    if (Place < FGraphics.size())
+        return FGraphics[Place];
+    return FWindows[Place - FGraphics.size()];
+}
+
+void TWinControl::InsertControl(TControl* Control)
+{
+    Perform(CM_CONTROLLISTCHANGE, reinterpret_cast<uintptr_t>(Control), 1);
+    Insert(Control);
+    if (!Control->GetControlState().Contains(csReadingState)) {
+        Control->Perform(CM_PARENTCOLORCHANGED);
+        Control->Perform(CM_PARENTSHOWHINTCHANGED);
+        Control->Perform(CM_PARENTFONTCHANGED);
+        if (auto* Window = As<TWinControl>(Control)) {
+            Window->Perform(CM_PARENTCTL3DCHANGED);
+            Window->UpdateControlState();
+        } else if (FHandle) {
+            Control->Invalidate();
+        }
+        AlignControl(Control);
+    }
+    Perform(CM_CONTROLCHANGE, reinterpret_cast<uintptr_t>(Control), 1);
+}
+
+void TWinControl::RemoveControl(TControl* Control)
+{
+    Perform(CM_CONTROLCHANGE, reinterpret_cast<uintptr_t>(Control), 0);
+    if (auto* Window = As<TWinControl>(Control)) {
+        if (TFormLink* Form = ParentFormLink())
+            Form->DefocusControl(Window, true);
+        Window->DestroyHandle();
+    } else if (FHandle) {
+        Control->InvalidateControl(Control->GetVisible(), false);
+    }
+    Remove(Control);
+    Perform(CM_CONTROLLISTCHANGE, reinterpret_cast<uintptr_t>(Control), 0);
+    if (!IsDestroying())
+        Realign();
+}
+
+void TWinControl::Insert(TControl* Control)
+{
+    if (auto* Window = As<TWinControl>(Control)) {
+        FWindows.push_back(Window);
+        FTabList.push_back(Window);
+    } else {
+        FGraphics.push_back(Control);
+    }
+    Control->FParent = this;
+}
+
+void TWinControl::Remove(TControl* Control)
+{
+    // Mostly the youngest goes first.
+    auto Drop = [](auto& List, auto* Item) {
+        auto Found = std::find(List.rbegin(), List.rend(), Item);
+        if (Found != List.rend())
+            List.erase(std::next(Found).base());
+    };
+    if (auto* Window = As<TWinControl>(Control)) {
+        Drop(FWindows, Window);
+        Drop(FTabList, Window);
+    } else {
+        Drop(FGraphics, Control);
+    }
+    Control->FParent = nullptr;
+}
+
+bool TWinControl::ContainsControl(const TControl* Control) const
+{
+    while (Control && Control != this)
+        Control = Control->FParent;
+    return Control == this;
+}
+
+TControl* TWinControl::ControlAtPos(const TPoint& Pos, bool AllowDisabled, bool AllowWinControls) const
+{
+    auto Hit = [&](TControl* Control) {
+        TPoint Local = Pos - TPoint(Control->FLeft, Control->FTop);
+        if (Local.X < 0 || Local.Y < 0 || Local.X >= Control->FWidth || Local.Y >= Control->FHeight)
+            return false;
+        if (Control->IsDesigning() ? Control->GetControlStyle().Contains(csNoDesignVisible) : !Control->FVisible)
+            return false;
+        return (AllowDisabled || Control->GetEnabled() || Control->IsDesigning()) && Control->HitTest(Local);
+    };
+    if (AllowWinControls)
+        for (auto Child = FWindows.rbegin(); Child != FWindows.rend(); ++Child)
+            if (Hit(*Child))
+                return *Child;
+    for (auto Child = FGraphics.rbegin(); Child != FGraphics.rend(); ++Child)
+        if (Hit(*Child))
+            return *Child;
+    return nullptr;
+}
+
+void TWinControl::Broadcast(TMessage& Message)
+{
+    for (int I = 0; I < GetControlCount() && Message.Result == 0; ++I) {
+        TControl* Control = GetControls(I);
+        Message.Result = Control->Perform(Message.Msg, Message.WParam, Message.LParam);
+    }
+}
+
+void TWinControl::NotifyControls(uint32_t Msg)
+{
+    for (int I = 0; I < GetControlCount(); ++I)
+        GetControls(I)->Perform(Msg);
+}
+
+void TWinControl::GetChildren(const TGetChildProc& Proc, TComponent* Root)
+{
+    for (int I = 0; I < GetControlCount(); ++I)
+        if (GetControls(I)->GetOwner() == Root)
+            Proc(GetControls(I));
+}
+
+void TWinControl::SetChildOrder(TComponent* Child, int Order)
+{
+    auto Move = [](auto& List, auto* Item, int Place) {
+        std::erase(List, Item);
+        List.insert(List.begin() + std::clamp(Place, 0, static_cast<int>(List.size())), Item);
+    };
+    if (auto* Window = As<TWinControl>(Child)) {
+        if (Window->GetParent() != this)
+            return;
+        Move(FWindows, Window, Order - static_cast<int>(FGraphics.size()));
+        if (Window->FHandle)
+            RestoreWindowOrder(Window);
+    } else if (auto* Control = As<TControl>(Child)) {
+        if (Control->GetParent() == this)
+            Move(FGraphics, Control, Order);
+    }
+}
+
+void TWinControl::SetZOrder(bool TopMost)
+{
+    if (TWinControl* Parent = GetParent()) {
+        auto& Siblings = Parent->FWindows;
+        std::erase(Siblings, this);
+        Siblings.insert(TopMost ? Siblings.end() : Siblings.begin(), this);
+    }
+    if (FHandle)
+        SetWindowPos(FHandle, TopMost ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+// ---- layout
+
+void TWinControl::AlignControls(TControl* Control, TRect& Rect)
+{
+    AdjustClientRect(Rect);
+    TAligner::Align(*this, Control, Rect);
+}
+
+void TWinControl::AdjustClientRect(TRect&) const
+{}
+
+void TWinControl::AlignControl(TControl* Control)
+{
+    if (!FHandle || IsDestroying())
+        return;
+    if (FAlignLevel != 0) {
+        FAlignNeeded = true;
+        return;
+    }
+    DisableAlign();
+    bool Outer = std::exchange(FAligning, true);
+    try {
+        TRect Rect = GetClientRect();
+        AlignControls(Control, Rect);
+    } catch (...) {
+        FAligning = Outer;
+        FAlignNeeded = false;
+        --FAlignLevel;
+        throw;
+    }
+    FAligning = Outer;
+    FAlignNeeded = false; // what the placing itself asked for has been done
+    --FAlignLevel;
+    if (GetAutoSize() && GetControlCount() > 0)
+        AdjustSize();
+}
+
+void TWinControl::EnableAlign()
+{
+    if (--FAlignLevel == 0 && FAlignNeeded)
+        Realign();
+}
+
+void TWinControl::Realign()
+{
+    FAlignNeeded = FAlignLevel != 0;
+    AlignControl(nullptr);
+}
+
+void TWinControl::ScrollBy(int DeltaX, int DeltaY)
+{
+    DisableAlign();
+    for (TControl* Control : FGraphics)
+        Control->SetBounds(Control->FLeft + DeltaX, Control->FTop + DeltaY, Control->FWidth, Control->FHeight);
+    for (TWinControl* Window : FWindows)
+        Window->SetBounds(Window->FLeft + DeltaX, Window->FTop + DeltaY, Window->FWidth, Window->FHeight);
+    FAlignNeeded = false;
+    EnableAlign();
+}
+
+bool TWinControl::CanAutoSize(int& NewWidth, int& NewHeight)
+{
+    if (GetControlCount() == 0)
+        return false;
+    int Right = 0;
+    int Bottom = 0;
+    for (int I = 0; I < GetControlCount(); ++I) {
+        TControl* Control = GetControls(I);
+        if (!Control->GetVisible() && !IsDesigning())
+            continue;
+        Right = std::max(Right, Control->FLeft + Control->FWidth);
+        Bottom = std::max(Bottom, Control->FTop + Control->FHeight);
+    }
+    TRect Client = GetClientRect();
+    NewWidth = GetWidth() - Client.Width() + Right;
+    NewHeight = GetHeight() - Client.Height() + Bottom;
+    return true;
+}
+
+void TWinControl::SetBounds(int ALeft, int ATop, int AWidth, int AHeight)
+{
+    if (!FHandle) {
+        inherited::SetBounds(ALeft, ATop, AWidth, AHeight);
+        return;
+    }
+    AWidth = std::max(AWidth, 0);
+    AHeight = std::max(AHeight, 0);
+    if (!CheckNewSize(AWidth, AHeight))
+        return;
+    if (ALeft == FLeft && ATop == FTop && AWidth == FWidth && AHeight == FHeight)
+        return;
+    if (!IsIconic(FHandle)) {
+        // The window's answer (WM_WINDOWPOSCHANGED, WM_SIZE) brings the rest along.
+        SetWindowPos(FHandle, nullptr, ALeft, ATop, AWidth, AHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+        return;
+    }
+    FLeft = ALeft;
+    FTop = ATop;
+    FWidth = AWidth;
+    FHeight = AHeight;
+}
+
+TRect TWinControl::GetClientRect() const
+{
+    if (!FHandle)
+        return inherited::GetClientRect();
+    TRect Client;
+    ::GetClientRect(FHandle, &Client);
+    return Client;
+}
+
+TPoint TWinControl::GetClientOrigin() const
+{
+    POINT Origin{};
+    ::ClientToScreen(const_cast<TWinControl*>(this)->GetHandle(), &Origin);
+    return Origin;
+}

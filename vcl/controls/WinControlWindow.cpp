@@ -1,0 +1,188 @@
+// The life of a control's window.
+#include "vcl/controls/Mouse.h"
+#include "vcl/controls/WinControl.h"
+#include "vcl/controls/WindowClass.h"
+
+#include <algorithm>
+
+HWND TWinControl::GetHandle()
+{
+    HandleNeeded();
+    return FHandle;
+}
+
+void TWinControl::HandleNeeded()
+{
+    if (FHandle)
+        return;
+    if (TWinControl* Parent = GetParent())
+        Parent->HandleNeeded();
+    // Creating the parent's window creates those of its visible children.
+    if (!FHandle)
+        CreateHandle();
+}
+
+void TWinControl::CreateHandle()
+{
+    if (FHandle)
+        return;
+    CreateWnd();
+    if (!FHandle)
+        return;
+    // Later siblings lie on top of earlier ones, in whatever order their windows come to be.
+    if (TWinControl* Parent = GetParent())
+        Parent->RestoreWindowOrder(this);
+}
+
+void TWinControl::CreateParams(TCreateParams& Params)
+{
+    Params.Caption = GetText();
+    Params.WinClassName = ToWide(ClassName());
+    Params.Style = WS_CHILD | WS_CLIPSIBLINGS;
+    if (GetControlStyle().Contains(csAcceptsControls)) {
+        Params.Style |= WS_CLIPCHILDREN;
+        Params.ExStyle |= WS_EX_CONTROLPARENT;
+    }
+    if (!GetEnabled() && !IsDesigning())
+        Params.Style |= WS_DISABLED;
+    if (FTabStop)
+        Params.Style |= WS_TABSTOP;
+    Params.X = GetLeft();
+    Params.Y = GetTop();
+    Params.Width = GetWidth();
+    Params.Height = GetHeight();
+    Params.WndParent = GetParent() ? GetParent()->GetHandle() : FParentWindow;
+    Params.WindowClass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
+    Params.WindowClass.lpfnWndProc = &DefWindowProcW;
+    Params.WindowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    Params.WindowClass.hInstance = GetModuleHandleW(nullptr);
+}
+
+void TWinControl::CreateSubClass(TCreateParams& Params, const wchar_t* ControlClassName)
+{
+    constexpr UINT OwnStyles = CS_OWNDC | CS_CLASSDC | CS_PARENTDC | CS_GLOBALCLASS;
+    HINSTANCE Instance = Params.WindowClass.hInstance;
+    WNDCLASSEXW Class{};
+    Class.cbSize = sizeof Class;
+    if (!GetClassInfoExW(nullptr, ControlClassName, &Class) && !GetClassInfoExW(Instance, ControlClassName, &Class))
+        throw EOSError("Window class " + FromWide(ControlClassName) + " does not exist");
+    Class.style &= ~OwnStyles;
+    Class.hInstance = Instance;
+    Params.WindowClass = Class;
+}
+
+void TWinControl::CreateWnd()
+{
+    TCreateParams Params;
+    CreateParams(Params);
+    if (!Params.WndParent && (Params.Style & WS_CHILD))
+        throw EInvalidOperation("Control '" + GetName() + "' has no parent window");
+    FDefWndProc = Params.WindowClass.lpfnWndProc;
+    CreateWindowHandle(Params);
+    SendMessageW(FHandle, WM_SETFONT, reinterpret_cast<WPARAM>(GetFont()->GetHandle()), TRUE);
+    UpdateBounds();
+    if (GetControlCount() > 0)
+        Realign();
+    AdjustSize();
+}
+
+void TWinControl::CreateWindowHandle(const TCreateParams& Params)
+{
+    FHandle = TWindowClass::CreateWindowFor(*this, Params);
+}
+
+void TWinControl::DestroyWindowHandle()
+{
+    SetControlFlag(csDestroyingHandle, true);
+    // From here on no message may reach an object that is half gone.
+    HWND Window = std::exchange(FHandle, nullptr);
+    FShowing = false;
+    TMouse::CaptureChanged(nullptr);
+    SetWindowLongPtrW(Window, GWLP_USERDATA, 0);
+    DestroyWindow(Window);
+    SetControlFlag(csDestroyingHandle, false);
+}
+
+void TWinControl::DestroyWnd()
+{
+    // Texts live in windows; they outlast them here.
+    TControl::StoreText(GetText());
+    DestroyWindowHandle();
+}
+
+void TWinControl::DestroyHandle()
+{
+    if (!FHandle)
+        return;
+    for (TWinControl* Child : FWindows)
+        Child->DestroyHandle();
+    DestroyWnd();
+}
+
+void TWinControl::SetParentWindow(HWND Value)
+{
+    if (GetParent() || FParentWindow == Value)
+        return;
+    DestroyHandle();
+    FParentWindow = Value;
+    UpdateControlState();
+}
+
+void TWinControl::UpdateControlState()
+{
+    TWinControl* Top = this;
+    while (TWinControl* Parent = Top->GetParent()) {
+        Top = Parent;
+        if (!Top->FShowing)
+            return;
+    }
+    if (Top->FormLink() || Top->FParentWindow)
+        UpdateShowing();
+}
+
+void TWinControl::UpdateShowing()
+{
+    bool Show = (GetVisible() || (IsDesigning() && !GetControlStyle().Contains(csNoDesignVisible))) &&
+                !GetControlState().Contains(csReadingState);
+    if (Show) {
+        if (!FHandle)
+            CreateHandle();
+        for (size_t I = 0; I < FWindows.size(); ++I)
+            FWindows[I]->UpdateShowing();
+    }
+    if (FHandle && FShowing != Show) {
+        FShowing = Show;
+        Perform(CM_SHOWINGCHANGED);
+    }
+}
+
+void TWinControl::RestoreWindowOrder(TWinControl* Control)
+{
+    // Directly below the next sibling that has a window; on top when there is none.
+    HWND Above = HWND_TOP;
+    auto Place = std::find(FWindows.begin(), FWindows.end(), Control);
+    for (auto Next = Place; Next != FWindows.end() && ++Next != FWindows.end();) {
+        if ((*Next)->FHandle) {
+            Above = (*Next)->FHandle;
+            break;
+        }
+    }
+    if (Above != HWND_TOP)
+        SetWindowPos(Control->FHandle, Above, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void TWinControl::UpdateBounds()
+{
+    if (IsIconic(FHandle))
+        return;
+    TRect R;
+    GetWindowRect(FHandle, &R);
+    HWND ParentHandle = GetAncestor(FHandle, GA_PARENT);
+    if ((GetWindowLongW(FHandle, GWL_STYLE) & WS_CHILD) && ParentHandle)
+        MapWindowPoints(nullptr, ParentHandle, reinterpret_cast<POINT*>(&R), 2);
+    FLeft = R.Left;
+    FTop = R.Top;
+    FWidth = R.Width();
+    FHeight = R.Height();
+    UpdateAnchorRules();
+}
