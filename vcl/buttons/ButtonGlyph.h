@@ -5,52 +5,50 @@
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/graphics/MaskedImage.h"
 
-#include <memory>
-
-class TButtonGlyph {
+class TButtonGlyph : public TObject {
 public:
     TButtonGlyph();
-    TButtonGlyph(const TButtonGlyph&) = delete;
 
     // One to four pictures of equal size side by side; the pixel at the lower left corner is the background.
     TBitmap* Glyph() { return &FGlyph; }
-    // A glyph that is exactly a multiple of its height wide has as many pictures.
+    // Copies. A glyph whose width is a multiple of its height has as many pictures.
     void SetGlyph(TBitmap* Value);
     TNumGlyphs NumGlyphs() const { return FNumGlyphs; }
-    // False when that was its number already; values beyond 1 to 4 are brought within.
+    // False when that was its number already. Values beyond 1 to 4 are brought within.
     bool SetNumGlyphs(TNumGlyphs Value);
-    // System colours changed: the pictures are prepared anew.
-    void Invalidate();
     // The size of one picture.
-    TSize GlyphSize();
+    TSize GlyphSize() const;
+    // System colours changed: what depends on them is made anew.
+    void Invalidate();
 
-    // What the layout and the drawing of glyph and caption need.
+    // What is drawn, and where.
     struct TContent {
         TRect Client;
+        // Moves glyph and caption, as a pressed button does.
         TPoint Offset;
         std::string_view Caption;
         TButtonLayout Layout = blGlyphLeft;
+        // Pixels between the glyph and its side of Client; -1 centres glyph and caption.
         int Margin = -1;
+        // Pixels between glyph and caption; -1 centres the caption in what the glyph leaves.
         int Spacing = 4;
         TButtonState State = bsUp;
         // More DT_ flags for the caption.
         unsigned TextFlags = 0;
     };
-    // Draws both and returns where the text is. Margin: pixels between the glyph and its side of Client, -1: both are
-    // centred. Spacing: pixels between glyph and caption, -1: the caption is centred in what the glyph leaves.
+    // Draws both, the caption in the canvas's font, and returns where the caption is.
     TRect Draw(TCanvas* Canvas, const TContent& Content);
 
-    // The glyph was changed by other means than SetGlyph.
+    // The glyph changed.
     TNotifyEvent OnChange;
 
 private:
     void DrawGlyph(TCanvas* Canvas, const TPoint& At, TButtonState State);
-    void DrawCaption(TCanvas* Canvas, std::string_view Caption, const TRect& Bounds, TButtonState State,
-                     unsigned Flags);
+    void DrawCaption(TCanvas* Canvas, const TContent& Content, TRect R);
+    const TMaskedImage& Disabled();
     void GlyphChanged(TObject* Sender);
-    const TMaskedImage& Picture(TButtonState State);
 
     TBitmap FGlyph;
-    std::unique_ptr<TMaskedImage[]> FPictures; // one per state, each made when it is first drawn
+    TMaskedImage FDisabled; // the only picture's engraved form, made when it is first drawn
     TNumGlyphs FNumGlyphs = 1;
 };

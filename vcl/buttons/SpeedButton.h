@@ -55,14 +55,12 @@ public:
 
     void Click() override;
 
-    AnsiString AccessibleName() const override;
     int AccessibleRole() const override;
     int AccessibleState() const override;
     bool AccessibleDefaultAction() override;
 
 protected:
     void Paint() override;
-    void Loaded() override;
     void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
     void MouseMove(TShiftState Shift, int X, int Y) override;
     void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override;
@@ -77,18 +75,17 @@ private:
     void CMEnabledChanged(TMessage& Message);
     void CMButtonPressed(TMessage& Message);
     void CMDialogChar(TCMDialogChar& Message);
-    void CMFontChanged(TMessage& Message);
     void CMTextChanged(TMessage& Message);
     void CMSysColorChange(TMessage& Message);
     void CMMouseEnter(TMessage& Message);
     void CMMouseLeave(TMessage& Message);
 
-    void DrawFrame(TRect& R);
+    void DrawFlatFrame(TRect& R, bool Pressed);
+    bool Inside(int X, int Y) const;
     void UpdateExclusive();
     void UpdateTracking();
     void UpdateOpaque();
-    void GlyphChanged(TObject* Sender) { (void)Sender, Invalidate(); }
-    TButtonState PressedState(int X, int Y) const;
+    void GlyphChanged(TObject* Sender);
 
     TButtonGlyph FGlyph;
     int FGroupIndex = 0;

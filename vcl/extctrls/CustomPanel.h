@@ -38,12 +38,9 @@ public:
     bool FullRepaint = true;
     // The panel is no tool bar of a container that it is active in.
     bool Locked = false;
-    // The background is the parent's, as far as themes are concerned; kept for form files.
-    bool GetParentBackground() const { return FParentBackground; }
-    void SetParentBackground(bool Value);
-    PROPERTY(bool, ParentBackground);
+    // Kept for form files: panels are drawn without themes.
+    bool ParentBackground = true;
 
-    AnsiString AccessibleName() const override;
     int AccessibleRole() const override;
 
 protected:
@@ -55,16 +52,18 @@ protected:
 private:
     void CMTextChanged(TMessage& Message);
     void CMCtl3DChanged(TMessage& Message);
-    void CMBorderChanged(TMessage& Message);
     void CMIsToolControl(TMessage& Message);
     void BevelChanged();
+    int BorderSize() const;
+    void DrawBevel(TRect& R, TPanelBevel Bevel);
     void DrawCaption(TRect R);
+    void InvalidateResized();
 
+    TSize FDrawnSize;
     TBevelWidth FBevelWidth = 1;
     TBorderWidth FBorderWidth = 0;
     TAlignment FAlignment = taCenter;
     TPanelBevel FBevelInner = bvNone;
     TPanelBevel FBevelOuter = bvRaised;
     TBorderStyle FBorderStyle = bsNone;
-    bool FParentBackground = true;
 };

@@ -43,11 +43,14 @@ public:
 protected:
     bool CanAutoSize(int& NewWidth, int& NewHeight) override;
     void Paint() override;
+    void Resize() override;
+    void Loaded() override;
     // Where the picture is drawn, in the control's coordinates.
     TRect DestRect() const;
 
 private:
     void PictureChanged(TObject* Sender);
+    void ApplyTransparent();
     void UpdateOpaque();
 
     TPicture FPicture;

@@ -1,10 +1,8 @@
 // TButton: the system's push button.
 #pragma once
 
+#include "vcl/forms/FormTypes.h"
 #include "vcl/stdctrls/ButtonControl.h"
-
-// What a form's modal display ends with; 0 goes on. See vcl/forms.
-using TModalResult = int;
 
 class TButton : public TButtonControl {
     VCL_CLASS(TButton, TButtonControl)
@@ -17,8 +15,8 @@ public:
     PROPERTY(bool, Default);
     // Escape presses the button.
     bool Cancel = false;
-    // A click gives this result to the form; mrNone (0) leaves the form alone.
-    TModalResult ModalResult = 0;
+    // A click gives this result to the form; mrNone leaves the form alone.
+    TModalResult ModalResult = mrNone;
 
     // The form gets ModalResult, then OnClick is raised.
     void Click() override;

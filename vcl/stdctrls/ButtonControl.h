@@ -8,7 +8,6 @@ class TButtonControl : public TWinControl {
 public:
     explicit TButtonControl(TComponent* AOwner);
 
-    AnsiString AccessibleName() const override;
     bool AccessibleDefaultAction() override;
 
 protected:
@@ -21,8 +20,4 @@ protected:
     // The window's style bits below BS_TYPEMASK and the like; nothing without a window.
     void SendStyle(unsigned Style);
     void WndProc(TMessage& Message) override;
-
-private:
-    void WMEraseBkgnd(TMessage& Message);
-    void CNCtlColorStatic(TMessage& Message);
 };

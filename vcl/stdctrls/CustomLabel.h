@@ -29,7 +29,7 @@ public:
     void SetShowAccelChar(bool Value);
     PROPERTY(bool, ShowAccelChar);
     // What lies behind shows through; otherwise it is filled with Color.
-    bool GetTransparent() const { return !IsOpaque(); }
+    bool GetTransparent() const { return !GetControlStyle().Contains(csOpaque); }
     void SetTransparent(bool Value);
     PROPERTY(bool, Transparent);
     // Lines longer than the label is wide go on in the next one.
@@ -59,8 +59,7 @@ private:
     void CMFontChanged(TMessage& Message);
     void CMDialogChar(TCMDialogChar& Message);
 
-    bool IsOpaque() const { return ControlStyle.Contains(csOpaque); }
-    unsigned WrapFlags() const { return DT_EXPANDTABS | (FWordWrap ? DT_WORDBREAK : 0); }
+    unsigned TextFlags() const;
 
     TWinControl* FFocusControl = nullptr;
     TAlignment FAlignment = taLeftJustify;

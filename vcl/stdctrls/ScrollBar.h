@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vcl/controls/WinControl.h"
+#include "vcl/forms/ControlScrollBar.h"
 #include "vcl/stdctrls/StdTypes.h"
 
 class TScrollBar : public TWinControl {
@@ -48,6 +49,7 @@ public:
     int AccessibleRole() const override;
 
 protected:
+    void Loaded() override;
     void CreateParams(TCreateParams& Params) override;
     void CreateWnd() override;
     virtual void Change() { OnChange(this); }
@@ -55,10 +57,9 @@ protected:
 
 private:
     void CNScroll(TMessage& Message);
-    void WMEraseBkgnd(TMessage& Message);
-    void DoScroll(TMessage& Message);
+    int LastPosition() const { return std::max(FMin, FMax - std::max(FPageSize - 1, 0)); }
     void UpdateScrollInfo(bool Redraw);
-    int TrackPosition() const;
+    int TrackPosition();
 
     int FMin = 0;
     int FMax = 100;

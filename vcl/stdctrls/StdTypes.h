@@ -6,7 +6,6 @@
 VCL_ENUM(TAlignment, taLeftJustify, taRightJustify, taCenter);
 VCL_ENUM(TLeftRight, lrLeft, lrRight);
 VCL_ENUM(TTextLayout, tlTop, tlCenter, tlBottom);
-VCL_ENUM(TScrollBarKind, sbHorizontal, sbVertical);
 VCL_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, scTrack, scTop, scBottom, scEndScroll);
 VCL_ENUM(TScrollStyle, ssNone, ssHorizontal, ssVertical, ssBoth);
 VCL_ENUM(TEditCharCase, ecNormal, ecUpperCase, ecLowerCase);

@@ -1,0 +1,199 @@
+#include "vcl/stdctrls/CustomLabel.h"
+
+#include "vcl/controls/WinControl.h"
+#include "vcl/system/ClassBuilder.h"
+
+void TCustomLabel::Describe(TClassBuilder<TCustomLabel>& Class)
+{
+    Class.Declare<&Self::GetAutoSize, &Self::SetAutoSize>("AutoSize").Default(true);
+    Class.Declare<&Self::GetAlignment, &Self::SetAlignment>("Alignment").Default(taLeftJustify);
+    Class.Declare<&Self::GetFocusControl, &Self::SetFocusControl>("FocusControl");
+    Class.Declare<&Self::GetShowAccelChar, &Self::SetShowAccelChar>("ShowAccelChar").Default(true);
+    Class.Declare<&Self::GetTransparent, &Self::SetTransparent>("Transparent").Default(false);
+    Class.Declare<&Self::GetLayout, &Self::SetLayout>("Layout").Default(tlTop);
+    Class.Declare<&Self::GetWordWrap, &Self::SetWordWrap>("WordWrap").Default(false);
+
+    Class.Message<&Self::CMTextChanged>(CM_TEXTCHANGED);
+    Class.Message<&Self::CMFontChanged>(CM_FONTCHANGED);
+    Class.Message<&Self::CMDialogChar>(CM_DIALOGCHAR);
+}
+
+TCustomLabel::TCustomLabel(TComponent* AOwner) : TGraphicControl(AOwner)
+{
+    ControlStyle = ControlStyle + TControlStyle{csReplicatable, csOpaque};
+    SetBounds(0, 0, 65, 17);
+    TControl::SetAutoSize(true);
+}
+
+namespace {
+
+// Texts are measured on a context of their own, which is there before the label has a window to stand on. It lives as
+// long as the program.
+HDC MeasureContext()
+{
+    static const HDC Context = CreateCompatibleDC(nullptr);
+    return Context;
+}
+
+} // namespace
+
+unsigned TCustomLabel::TextFlags() const
+{
+    TAlignment Shown = FAlignment;
+    if (BiDiMode == bdRightToLeft && Shown != taCenter)
+        Shown = Shown == taLeftJustify ? taRightJustify : taLeftJustify;
+    return DT_EXPANDTABS | (FWordWrap ? DT_WORDBREAK : 0) | DrawTextAlignment(Shown);
+}
+
+void TCustomLabel::DoDrawText(TRect& Rect, unsigned Flags)
+{
+    AnsiString Text = GetLabelText();
+    bool Measuring = Flags & DT_CALCRECT;
+    if (Measuring && (Text.empty() || (FShowAccelChar && Text == "&")))
+        Text += ' ';
+    if (!FShowAccelChar)
+        Flags |= DT_NOPREFIX;
+    if (BiDiMode != bdLeftToRight)
+        Flags |= DT_RTLREADING;
+
+    Canvas->Font = Font;
+    if (!Enabled && !Measuring) {
+        OffsetRect(Rect, 1, 1);
+        Canvas->Font->Color = clBtnHighlight;
+        DrawText(Canvas->Handle, Text, Rect, Flags);
+        OffsetRect(Rect, -1, -1);
+        Canvas->Font->Color = clBtnShadow;
+    }
+    DrawText(Canvas->Handle, Text, Rect, Flags);
+}
+
+void TCustomLabel::Paint()
+{
+    TRect R = ClientRect;
+    if (!Transparent) {
+        Canvas->Brush->Color = Color;
+        Canvas->Brush->Style = bsSolid;
+        Canvas->FillRect(R);
+    }
+    Canvas->Brush->Style = bsClear;
+    unsigned Flags = TextFlags();
+    if (FLayout != tlTop) {
+        TRect Text = R;
+        DoDrawText(Text, Flags | DT_CALCRECT);
+        int Free = Height - Text.Height();
+        OffsetRect(R, 0, FLayout == tlBottom ? Free : Free / 2);
+    }
+    DoDrawText(R, Flags);
+}
+
+void TCustomLabel::AdjustBounds()
+{
+    if (IsLoading() || !AutoSize)
+        return;
+    TRect Text = ClientRect;
+    Canvas->Handle = MeasureContext();
+    DoDrawText(Text, TextFlags() | DT_CALCRECT);
+    Canvas->Handle = nullptr;
+    int NewLeft = FAlignment == taRightJustify ? Left + Width - Text.Right : Left;
+    SetBounds(NewLeft, Top, Text.Right, Text.Bottom);
+}
+
+void TCustomLabel::SetAutoSize(bool Value)
+{
+    if (AutoSize == Value)
+        return;
+    inherited::SetAutoSize(Value);
+    AdjustBounds();
+}
+
+void TCustomLabel::SetAlignment(TAlignment Value)
+{
+    if (FAlignment == Value)
+        return;
+    FAlignment = Value;
+    Invalidate();
+}
+
+void TCustomLabel::SetFocusControl(TWinControl* Value)
+{
+    FFocusControl = Value;
+    if (Value)
+        Value->FreeNotification(this);
+}
+
+void TCustomLabel::SetLayout(TTextLayout Value)
+{
+    if (FLayout == Value)
+        return;
+    FLayout = Value;
+    Invalidate();
+}
+
+void TCustomLabel::SetShowAccelChar(bool Value)
+{
+    if (FShowAccelChar == Value)
+        return;
+    FShowAccelChar = Value;
+    Invalidate();
+    AdjustBounds();
+}
+
+void TCustomLabel::SetTransparent(bool Value)
+{
+    if (Transparent == Value)
+        return;
+    SetStyleFlag(csOpaque, !Value);
+    Invalidate();
+}
+
+void TCustomLabel::SetWordWrap(bool Value)
+{
+    if (FWordWrap == Value)
+        return;
+    FWordWrap = Value;
+    Invalidate();
+    AdjustBounds();
+}
+
+void TCustomLabel::Loaded()
+{
+    inherited::Loaded();
+    AdjustBounds();
+}
+
+void TCustomLabel::Notification(TComponent* Component, TOperation Operation)
+{
+    inherited::Notification(Component, Operation);
+    if (Operation == opRemove && Component == FFocusControl)
+        FFocusControl = nullptr;
+}
+
+void TCustomLabel::CMTextChanged(TMessage&)
+{
+    Invalidate();
+    AdjustBounds();
+}
+
+void TCustomLabel::CMFontChanged(TMessage& Message)
+{
+    Inherited(Message);
+    AdjustBounds();
+}
+
+void TCustomLabel::CMDialogChar(TCMDialogChar& Message)
+{
+    if (FFocusControl && Enabled && FShowAccelChar && IsAccel(Message.CharCode, Caption) && FFocusControl->CanFocus()) {
+        FFocusControl->SetFocus();
+        Message.Result = 1;
+    }
+}
+
+AnsiString TCustomLabel::AccessibleName() const
+{
+    return FShowAccelChar ? inherited::AccessibleName() : GetLabelText();
+}
+
+int TCustomLabel::AccessibleRole() const
+{
+    return ROLE_SYSTEM_STATICTEXT;
+}
