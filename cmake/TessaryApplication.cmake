@@ -56,18 +56,18 @@ endfunction()
 function(tessary_add_bitmaps target)
     foreach(sheet IN LISTS ARGN)
         tessary_draw_glyphs(${target} ${sheet} bmp)
-        tessary_add_resource(${target} ${name} BITMAP ${drawn})
+        tessary_add_resource(${target} ${resource} BITMAP ${drawn})
     endforeach()
 endfunction()
 
 function(tessary_add_cursors target)
     foreach(sheet IN LISTS ARGN)
         tessary_draw_glyphs(${target} ${sheet} cur --cursor)
-        tessary_add_resource(${target} ${name} CURSOR ${drawn})
+        tessary_add_resource(${target} ${resource} CURSOR ${drawn})
     endforeach()
 endfunction()
 
-# Has SHEET drawn as a file of the given type. Sets `drawn` to its path and `name` to the resource's name.
+# Has SHEET drawn as a file of the given type. Sets `drawn` to its path and `resource` to the resource's name.
 function(tessary_draw_glyphs target sheet extension)
     cmake_path(ABSOLUTE_PATH sheet)
     cmake_path(GET sheet STEM stem)
@@ -88,8 +88,8 @@ function(tessary_draw_glyphs target sheet extension)
         COMMENT "Drawing glyphs ${stem}"
         VERBATIM)
     set(drawn ${file} PARENT_SCOPE)
-    string(TOUPPER ${stem} name)
-    set(name ${name} PARENT_SCOPE)
+    string(TOUPPER ${stem} resource)
+    set(resource ${resource} PARENT_SCOPE)
 endfunction()
 
 # Embeds FILE in a program; or in every program that links a static library, which would lose a resource of its own.
