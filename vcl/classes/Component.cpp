@@ -25,6 +25,8 @@ TComponent::~TComponent()
     // A constructor that throws comes here without the destroying delete; virtual calls reach this class only.
     if (!IsDestroying())
         TComponent::BeforeDestruction();
+    if (FTracked)
+        TReader::Forget(this);
     if (FOwner)
         FOwner->RemoveComponent(this);
 }

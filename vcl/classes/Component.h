@@ -139,4 +139,5 @@ private:
     std::unique_ptr<std::vector<TComponent*>> FFreeNotifies;
     TComponentState FState;
     TComponentStyle FStyle{csInheritable};
+    bool FTracked = false; // a reader at work holds pointers to it
 };

@@ -1,34 +1,57 @@
 // References between components that a form file names before they exist.
+//
+// A reference to another root, "DataModule1.ImageList1", waits until a root of that name is there. The waiting
+// references are looked through whenever a form has been read, and those of deleted objects are forgotten.
 #pragma once
 
 #include "vcl/classes/Component.h"
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
 struct TPropertyInfo;
 
-// A component of another root, "DataModule1.ImageList1", waits until a root of that name is there. The list is global:
-// it is looked through whenever a form has been read, and forgets what is deleted.
+// Instance's property shall be the component of that name in or beside InstanceRoot.
 struct TFixup {
-    TPersistent* Instance;
+    TPersistent* Instance; // nullptr when it has been deleted
     const TPropertyInfo* Property;
     TComponent* InstanceRoot;
     AnsiString Name;
+    size_t Offset; // in the form
+
+    // Sets the property. Raises an EFormDataError when Value is not of its class.
+    void Resolve(TComponent* Value) const;
 };
 
+// Knows of every object that is deleted while a reference of it waits.
 class TFixupList {
 public:
-    void Add(TPersistent* Instance, const TPropertyInfo* Property, TComponent* InstanceRoot, AnsiString Name)
-    {
-        FItems.push_back({Instance, Property, InstanceRoot, std::move(Name)});
-    }
+    TFixupList();
+    ~TFixupList();
+    TFixupList(const TFixupList&) = delete;
+
+    void Add(TFixup Fixup);
+    // May be changed, but only Add adds.
     std::vector<TFixup>& Items() { return FItems; }
-    void Clear() { FItems.clear(); }
+    void Clear();
+    // Takes those whose instance was deleted out.
+    void Compact();
+
+    // A look at one variable: is any reference of any object waiting?
+    static bool AnyPending() { return FPending != 0; }
+    static void ForgetInstance(const TPersistent* Instance);
 
 private:
+    static inline constinit TFixupList* FFirst = nullptr;
+    static inline constinit size_t FPending = 0;
+
+    TFixupList* FNext;
     std::vector<TFixup> FItems;
 };
+
+// The references that wait for other roots.
+TFixupList& GlobalFixups();
 
 // The component of that name in Root: "Button1", "Frame1.Button1" for one in a frame; Root itself by its own name or by
 // "Owner". nullptr when there is none.
@@ -41,14 +64,13 @@ void UnregisterFindGlobalComponentProc(TFindGlobalComponent Proc);
 // nullptr when no root has that name.
 TComponent* FindGlobalComponent(std::string_view Name);
 
-// Sets the waiting references whose root is there by now. Called when a form has been read and when a root gets its
-// name.
+// Sets the waiting references whose component is there by now. Called when a form has been read.
 void GlobalFixupReferences();
 // The names of the roots that references from Root wait for, each once.
-std::vector<AnsiString> GetFixupReferenceNames(TComponent* Root);
+std::vector<AnsiString> GetFixupReferenceNames(const TComponent* Root);
 // Forgets the waiting references from Root to a root of that name; an empty RootName means all of them.
-void RemoveFixupReferences(TComponent* Root, std::string_view RootName);
+void RemoveFixupReferences(const TComponent* Root, std::string_view RootName);
 // References from Root that wait for OldRootName wait for NewRootName from now on.
-void RedirectFixupReferences(TComponent* Root, std::string_view OldRootName, std::string_view NewRootName);
+void RedirectFixupReferences(const TComponent* Root, std::string_view OldRootName, std::string_view NewRootName);
 // Forgets the waiting references of one object. Deleting an object does this.
-void RemoveFixups(TPersistent* Instance);
+void RemoveFixups(const TPersistent* Instance);

@@ -1,10 +1,17 @@
 #include "vcl/classes/Persistent.h"
 
 #include "vcl/classes/Filer.h"
+#include "vcl/classes/FixupList.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TPersistent::Describe(TClassBuilder<TPersistent>&)
 {}
+
+TPersistent::~TPersistent()
+{
+    if (TFixupList::AnyPending())
+        TFixupList::ForgetInstance(this);
+}
 
 void TPersistent::Assign(TPersistent* Source)
 {

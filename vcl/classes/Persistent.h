@@ -9,6 +9,7 @@ class TPersistent : public TObject {
     VCL_CLASS(TPersistent, TObject)
 public:
     TPersistent() = default;
+    ~TPersistent() override;
 
     // Copies Source's contents. Raises EConvertError "Cannot assign a %s to a %s" when neither class knows how.
     // Assigning nullptr clears what can be cleared.

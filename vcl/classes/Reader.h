@@ -17,6 +17,7 @@
 class TCollection;
 struct TMethodInfo;
 struct TPropertyInfo;
+struct TTypeInfo;
 
 // Handled: reading goes on behind the value, which stays unset.
 using TReaderError = TEvent<void(TReader* Reader, const AnsiString& Message, bool& Handled)>;
@@ -60,7 +61,9 @@ public:
     // Properties and children; called from TComponent::ReadState.
     void ReadData(TComponent* Component);
 
-    // References of components read between the two are set by FixupReferences; ReadRootComponent does all of it.
+    // For whoever calls ReadComponent several times: the references among what is read between BeginReferences and
+    // FixupReferences are set then, and each component's Loaded is called. EndReferences deletes what was made when
+    // FixupReferences was not reached.
     void BeginReferences();
     void FixupReferences();
     void EndReferences();
@@ -130,62 +133,75 @@ public:
     TUnknownPropertyEvent OnUnknownProperty;
 
 private:
-    struct TCreated {
-        TComponent* Component;
-        TComponent* Owner;
-    };
-    class TScope;
+    friend class TComponent;
+    class TSession;
+    class TReadingScope;
 
-    void Attach(size_t Start);
-    void DetachFromStream();
+    // Component is being deleted while readers hold pointers to it.
+    static void Forget(const TComponent* Component);
+
+    void Attach();
+    void LeaveStream();
 
     TComponent* ReadObject(TComponent* Component);
-    TComponent* ReadObjectNamed(TComponent* Component, const TFormPrefix& Prefix, std::string_view ClassName,
-                                std::string_view Name);
-    TComponent* FindAncestor(std::string_view Name, TClass Class);
-    TComponent* CreateComponent(TClass Class);
+    TComponent* FindInherited(std::string_view Name, std::string_view ClassName);
+    TComponent* CreateComponent(TClass Class, const TFormPrefix& Prefix);
     void NameComponent(TComponent* Component, std::string_view Name);
-    TClass FindComponentClass(std::string_view ClassName);
-    void SkipObject();
-    void SkipObjectBody();
-    void SkipProperties();
-    void SkipBytes(size_t Position);
+    void NameRoot(TComponent* Root, std::string_view Name);
+    TClass FindComponentClass(std::string_view ClassName, size_t Position);
+    TClass UnknownClass(std::string_view ClassName, std::string_view Name, size_t Position);
+    void ReadContents(TComponent* Component);
 
     void ReadProperties(TPersistent* Instance);
     void ReadProperty(TPersistent* Instance);
+    void PropertyFailed(TPersistent* Instance, size_t Start, size_t Offset, const AnsiString& Message);
     void ReadPropertyPath(TPersistent* Instance);
     void ReadPropertyValue(TPersistent* Instance, const TPropertyInfo& Property);
-    void ReadOrdinal(TPersistent* Instance, const TPropertyInfo& Property);
-    int64_t ReadNamedInteger(const TPropertyInfo& Property);
-    int64_t ReadSet(const TPropertyInfo& Property);
+    int64_t ReadOrdinal(const TPropertyInfo& Property);
+    int64_t ReadIntegerProperty(const TPropertyInfo& Property);
+    int64_t ReadEnumeration(const TTypeInfo& Type);
+    int64_t ReadSet(const TTypeInfo& Type);
     void ReadObjectProperty(TPersistent* Instance, const TPropertyInfo& Property);
     void ReadMethod(TPersistent* Instance, const TPropertyInfo& Property);
-    void ReadDefined(TPersistent* Instance, std::string_view Name);
-    bool HandleError(const AnsiString& Message);
-    [[noreturn]] void FailProperty(TPersistent* Instance, const AnsiString& Detail, size_t Offset) const;
+    bool ReadDefined(TPersistent* Instance, std::string_view Name);
+    void UnknownProperty(TPersistent* Instance, std::string_view Name);
+
+    double ReadNumber(bool AnyKind);
+    AnsiString TextFromBytes(std::string_view Bytes) const;
+    void SkipObject();
+    void SkipProperties();
+    void SkipList();
+    void MoveTo(size_t Position);
+    void Descend();
+    // For the value whose type has just been read.
     [[noreturn]] void FailValue() const;
 
-    void StartReading(TComponent* Component);
-    void NotifyLoaded();
-    void DiscardCreated() noexcept;
-    bool IsAlive(size_t Index) const;
+    void Track(TComponent* Component);
+    void Discard() noexcept;
+    void Release() noexcept;
+
+    static inline constinit TReader* FFirstActive = nullptr;
+    static inline constinit TReader* FInlineReader = nullptr; // makes a frame just now
+    static inline constinit TClass FInlineClass = nullptr;    // of this class
 
     TStream* FStream;
     std::string FCopy; // what a stream that is not in memory held
     std::string_view FData;
     size_t FBase = 0; // FData's place in the stream
-    TFormCursor FCursor;
+    TFormCursor FCursor{{}};
 
     TComponent* FOwner = nullptr;
     TComponent* FParent = nullptr;
     TComponent* FLookupRoot = nullptr; // the form or frame whose names count
     AnsiString FPropName;
+    std::string_view FDefinedName; // what DefineProperties is asked for; empty when it has been read
     TClass FLastClass = nullptr;
-    std::vector<TCreated> FCreated;
-    std::vector<TComponent*> FLoaded;
+    std::vector<TComponent*> FCreated; // by this reader, nullptr where they are deleted already
+    std::vector<TComponent*> FLoaded;  // to be told when all is read
     TFixupList FFixups;
+    TReader* FNextActive = nullptr;
     int FDepth = 0;
-    bool FReadsReferences = false;
+    bool FActive = false; // between BeginReferences and EndReferences
 };
 
 // Reads the binary form in Stream into Root: its properties, children and fields. Raises as TReader does; what Root had

@@ -81,33 +81,39 @@ public:
     TFindMethodNameEvent OnFindMethodName;
 
 private:
-    struct TAncestry;
-    using TPieces = std::vector<TComponent*>;
+    class TScope;
 
-    TFormPrefix FindAncestorOf(TComponent* Component);
+    TFormPrefix FindAncestor(TComponent* Component);
     void WriteChildren(TComponent* Component);
     void WriteProperty(TPersistent* Instance, const TPropertyInfo& Property);
-    void WriteOrdinal(TPersistent* Instance, const TPropertyInfo& Property);
-    void WriteOrdinalValue(const TPropertyInfo& Property, int64_t Value);
+    const TPropertyInfo* InheritedProperty(const TPropertyInfo& Property) const;
+    void WriteOrdinal(const TPropertyInfo& Property, int64_t Value);
+    void WriteOrdinalProperty(TPersistent* Instance, const TPropertyInfo& Property);
+    void WriteFloatProperty(TPersistent* Instance, const TPropertyInfo& Property);
+    void WriteStringProperty(TPersistent* Instance, const TPropertyInfo& Property);
     void WriteSet(const TTypeInfo& Type, int64_t Bits);
     void WriteObjectProperty(TPersistent* Instance, const TPropertyInfo& Property);
+    void WriteReference(const TPropertyInfo& Property, TComponent* Value);
     void WriteNested(TPersistent* Value, TPersistent* Inherited, const char* Name);
     void WriteMethod(TPersistent* Instance, const TPropertyInfo& Property);
     void WritePropName(std::string_view Name);
     AnsiString ReferenceTo(TComponent* Component) const;
-    bool SameReference(TComponent* Value, TComponent* Inherited) const;
+    bool SameReference(const TComponent* Value, const TComponent* Inherited) const;
+    bool SameCollection(TCollection* Value, TCollection* Inherited) const;
     AnsiString FindMethodName(const TEventBase& Method);
+    void CollectAncestorChild(TComponent* Child) { FAncestorChildren.push_back(Child); }
 
     TStream* FStream;
     std::string FBuffer;
     TFormEncoder FEncoder;
     AnsiString FPropPath; // "Font." inside of a nested object
     TComponent* FRootAncestor = nullptr;
-    TComponent* FLookupRoot = nullptr; // the form or frame whose names need no path
-    TPieces FAncestorChildren;         // the ancestor's children of the object that is written
+    TComponent* FLookupRoot = nullptr;          // what is written as a whole; Root may be a frame in it
+    std::vector<TComponent*> FAncestorChildren; // in the ancestor of the object whose children are written
     size_t FAncestorPos = 0;
     int FChildPos = 0;
     int FDepth = 0;
+    int FUncaught; // exceptions that were on their way when the writer was made
 };
 
 // Writes Component with everything in it as a binary form.

@@ -1,0 +1,435 @@
+#include "vcl/classes/Reader.h"
+
+#include "vcl/classes/CustomMemoryStream.h"
+#include "vcl/system/ClassDescription.h"
+#include "vcl/system/Ident.h"
+#include "vcl/system/Locale.h"
+
+#include <algorithm>
+
+// From the first object to the last reference. Left without Finish, it deletes what was made.
+class TReader::TSession {
+public:
+    explicit TSession(TReader& Reader) : FReader(Reader), FOwns(!Reader.FActive)
+    {
+        if (FOwns)
+            Reader.BeginReferences();
+    }
+    ~TSession()
+    {
+        if (FOwns)
+            FReader.EndReferences();
+    }
+    TSession(const TSession&) = delete;
+
+    void Finish()
+    {
+        if (!FOwns)
+            return;
+        FReader.LeaveStream();
+        FReader.FixupReferences();
+    }
+
+private:
+    TReader& FReader;
+    bool FOwns;
+};
+
+// While the contents of Component are read: whose they are, and where names are looked up.
+class TReader::TReadingScope {
+public:
+    TReadingScope(TReader& Reader, TComponent* Component)
+        : FReader(Reader),
+          FOwner(Reader.FOwner),
+          FParent(Reader.FParent),
+          FLookupRoot(Reader.FLookupRoot)
+    {
+        Reader.FParent = Component->GetChildParent();
+        TComponent* ChildOwner = Component->GetChildOwner();
+        Reader.FOwner = ChildOwner ? ChildOwner : Reader.Root;
+        if (Component->FState.Contains(csInline))
+            Reader.FLookupRoot = Component;
+    }
+    ~TReadingScope()
+    {
+        FReader.FOwner = FOwner;
+        FReader.FParent = FParent;
+        FReader.FLookupRoot = FLookupRoot;
+    }
+    TReadingScope(const TReadingScope&) = delete;
+
+private:
+    TReader& FReader;
+    TComponent* FOwner;
+    TComponent* FParent;
+    TComponent* FLookupRoot;
+};
+
+TReader::TReader(TStream* Stream, int) : CodePage(LegacyCodePage()), FStream(Stream)
+{
+    Attach();
+}
+
+TReader::~TReader()
+{
+    if (FActive)
+        EndReferences();
+    try {
+        LeaveStream();
+    } catch (const Exception&) {
+        // The stream does not move: nobody can rely on its position then, and destructors do not throw.
+    }
+}
+
+void TReader::Attach()
+{
+    int64_t Start = FStream->GetPosition();
+    FBase = static_cast<size_t>(Start);
+    if (auto* Memory = dynamic_cast<TCustomMemoryStream*>(FStream)) {
+        FData = Memory->View();
+        FData.remove_prefix(std::min(FBase, FData.size()));
+    } else {
+        int64_t Size = std::max<int64_t>(FStream->GetSize() - Start, 0);
+        FCopy.resize(static_cast<size_t>(Size));
+        FStream->ReadBuffer(FCopy.data(), Size);
+        FData = FCopy;
+    }
+    FCursor = TFormCursor(FData, FBase);
+}
+
+void TReader::LeaveStream()
+{
+    FStream->SetPosition(static_cast<int64_t>(FCursor.Offset()));
+}
+
+// ---- Sessions
+
+void TReader::BeginReferences()
+{
+    if (FActive)
+        return;
+    FActive = true;
+    FNextActive = FFirstActive;
+    FFirstActive = this;
+    if (!FLookupRoot)
+        FLookupRoot = Root;
+}
+
+void TReader::FixupReferences()
+{
+    // By index: a setter may delete what is in the list.
+    for (size_t I = 0; I < FFixups.Items().size(); ++I) {
+        TFixup Fixup = FFixups.Items()[I];
+        if (!Fixup.Instance)
+            continue;
+        if (OnReferenceName)
+            OnReferenceName(this, Fixup.Name);
+        if (TComponent* Value = FindNestedComponent(Fixup.InstanceRoot, Fixup.Name))
+            Fixup.Resolve(Value);
+        else if (!Fixup.Name.empty())
+            GlobalFixups().Add(std::move(Fixup));
+    }
+    FFixups.Clear();
+    GlobalFixupReferences();
+
+    TReader* Outer = FInlineReader;
+    if (Outer && Outer != this && Root && Root->ClassType() == FInlineClass) {
+        // A frame that is part of a form: the form's own values come before Loaded.
+        for (TComponent* Component : FLoaded)
+            Outer->FLoaded.push_back(Component);
+        FLoaded.clear();
+    }
+    for (size_t I = 0; I < FLoaded.size(); ++I)
+        if (TComponent* Component = FLoaded[I])
+            Component->Loaded();
+    Release();
+}
+
+void TReader::EndReferences()
+{
+    if (!FActive)
+        return;
+    Discard();
+    TReader** Link = &FFirstActive;
+    while (*Link != this)
+        Link = &(*Link)->FNextActive;
+    *Link = FNextActive;
+    FActive = false;
+}
+
+void TReader::Track(TComponent* Component)
+{
+    Component->FTracked = true;
+    if (Component->FState.Contains(csLoading))
+        return;
+    Component->FState << csLoading;
+    FLoaded.push_back(Component);
+}
+
+// Everything is well: the components are nobody's business but their owner's.
+void TReader::Release() noexcept
+{
+    // Those of a frame are still tracked by the form's reader.
+    for (TComponent* Component : FCreated)
+        if (Component && !Component->FState.Contains(csLoading))
+            Component->FTracked = false;
+    for (TComponent* Component : FLoaded)
+        if (Component && !Component->FState.Contains(csLoading))
+            Component->FTracked = false;
+    FCreated.clear();
+    FLoaded.clear();
+    FFixups.Clear();
+    FDepth = 0;
+}
+
+// Something failed: what was made goes, the last first; what was there before is no longer loading.
+void TReader::Discard() noexcept
+{
+    FFixups.Clear();
+    while (!FCreated.empty()) {
+        TComponent* Component = FCreated.back();
+        FCreated.pop_back();
+        delete Component;
+    }
+    for (TComponent* Component : FLoaded)
+        if (Component) {
+            Component->FState >> csLoading >> csReading;
+            Component->FTracked = false;
+        }
+    FLoaded.clear();
+    FDepth = 0;
+}
+
+void TReader::Forget(const TComponent* Component)
+{
+    for (TReader* Reader = FFirstActive; Reader; Reader = Reader->FNextActive) {
+        std::replace(Reader->FCreated.begin(), Reader->FCreated.end(), const_cast<TComponent*>(Component),
+                     static_cast<TComponent*>(nullptr));
+        std::replace(Reader->FLoaded.begin(), Reader->FLoaded.end(), const_cast<TComponent*>(Component),
+                     static_cast<TComponent*>(nullptr));
+    }
+}
+
+// ---- Objects
+
+TComponent* TReader::ReadRootComponent(TComponent* ARoot)
+{
+    ReadSignature();
+    TSession Session(*this);
+    size_t Start = FCursor.Position();
+    ReadPrefix();
+    std::string_view ClassName = FCursor.ReadName();
+    std::string_view Name = FCursor.ReadName();
+    Descend();
+    if (!ARoot) {
+        TClass Class = FindComponentClass(ClassName, Start);
+        if (!Class)
+            Class = UnknownClass(ClassName, Name, Start);
+        if (!Class)
+            FCursor.FailAt("Invalid stream format", Start);
+        ARoot = CreateComponent(Class, {});
+    }
+    Root = ARoot;
+    FLookupRoot = ARoot;
+    FOwner = ARoot;
+    if (!Name.empty())
+        NameRoot(ARoot, Name);
+    Track(ARoot);
+    ReadContents(ARoot);
+    --FDepth;
+    Session.Finish();
+    return ARoot;
+}
+
+TComponent* TReader::ReadComponent(TComponent* Component)
+{
+    TSession Session(*this);
+    TComponent* Result = ReadObject(Component);
+    Session.Finish();
+    return Result;
+}
+
+void TReader::ReadComponents(TComponent* AOwner, TComponent* AParent, const TReadComponentsProc& Proc)
+{
+    Root = AOwner;
+    FOwner = AOwner;
+    FParent = AParent;
+    FLookupRoot = AOwner;
+    TSession Session(*this);
+    while (!EndOfList()) {
+        if (FCursor.Remaining() >= FormSignatureSize &&
+            FData.substr(FCursor.Position(), FormSignatureSize) == FormSignature)
+            ReadSignature();
+        if (TComponent* Component = ReadObject(nullptr))
+            Proc(Component);
+    }
+    ReadListEnd();
+    Session.Finish();
+}
+
+TComponent* TReader::ReadObject(TComponent* Component)
+{
+    size_t Start = FCursor.Position();
+    TFormPrefix Prefix = ReadPrefix();
+    std::string_view ClassName = FCursor.ReadName();
+    std::string_view Name = FCursor.ReadName();
+    Descend();
+    if (!Component && (Prefix.Flags & FilerFlagInherited))
+        Component = FindInherited(Name, ClassName);
+    bool IsNew = !Component;
+    if (IsNew) {
+        TClass Class = FindComponentClass(ClassName, Start);
+        if (!Class)
+            Class = UnknownClass(ClassName, Name, Start);
+        if (!Class) {
+            SkipObject();
+            --FDepth;
+            return nullptr;
+        }
+        Component = CreateComponent(Class, Prefix);
+        if (FParent)
+            Component->SetParentComponent(FParent);
+        NameComponent(Component, Name);
+    } else if (FParent && Component->HasParent() && Component->GetParentComponent() != FParent) {
+        Component->SetParentComponent(FParent);
+    }
+    Track(Component);
+    ReadContents(Component);
+    if ((Prefix.Flags & FilerFlagChildPos) && FParent)
+        FParent->SetChildOrder(Component, Prefix.ChildPos);
+    --FDepth;
+    return Component;
+}
+
+TComponent* TReader::FindInherited(std::string_view Name, std::string_view ClassName)
+{
+    TComponent* Found = FLookupRoot ? FLookupRoot->FindComponent(Name) : nullptr;
+    if (!Found && OnAncestorNotFound)
+        OnAncestorNotFound(this, AnsiString(Name), GetClass(ClassName), Found);
+    if (!Found)
+        throw EFormDataError("Ancestor for '" + AnsiString(Name) + "' not found", FCursor.Offset());
+    return Found;
+}
+
+TComponent* TReader::CreateComponent(TClass Class, const TFormPrefix& Prefix)
+{
+    TComponent* Component = nullptr;
+    if (OnCreateComponent)
+        OnCreateComponent(this, Class, Component);
+    bool Inline = (Prefix.Flags & FilerFlagInline) != 0;
+    if (!Component) {
+        struct TInlineMark {
+            TReader* Reader = FInlineReader;
+            TClass Class = FInlineClass;
+            ~TInlineMark()
+            {
+                FInlineReader = Reader;
+                FInlineClass = Class;
+            }
+        } Restore;
+        FInlineReader = Inline ? this : nullptr;
+        FInlineClass = Class;
+        Component = Class->Create(FOwner);
+    }
+    FCreated.push_back(Component);
+    Track(Component);
+    if (Inline)
+        Component->FState << csInline;
+    return Component;
+}
+
+void TReader::NameComponent(TComponent* Component, std::string_view Name)
+{
+    AnsiString NewName(Name);
+    if (OnSetName)
+        OnSetName(this, Component, NewName);
+    try {
+        Component->SetName(NewName);
+    } catch (const EComponentError& Error) {
+        throw EFormDataError(Error.Message, FCursor.Offset());
+    }
+}
+
+// Two forms of one class may be open at once; the second is Form1_1.
+void TReader::NameRoot(TComponent* ARoot, std::string_view Name)
+{
+    if (ARoot->IsDesigning()) {
+        NameComponent(ARoot, Name);
+        return;
+    }
+    auto IsTaken = [ARoot](const AnsiString& Unique) {
+        TComponent* Global = FindGlobalComponent(Unique);
+        TComponent* Sibling = ARoot->FOwner ? ARoot->FOwner->FindComponent(Unique) : nullptr;
+        return (Global && Global != ARoot) || (Sibling && Sibling != ARoot);
+    };
+    AnsiString Unique(Name);
+    for (int I = 1; !Name.empty() && IsTaken(Unique); ++I)
+        Unique = AnsiString(Name) + "_" + std::to_string(I);
+    NameComponent(ARoot, Unique);
+}
+
+TClass TReader::FindComponentClass(std::string_view ClassName, size_t)
+{
+    if (FLastClass && SameIdent(FLastClass->ClassName(), ClassName) && !OnFindComponentClass)
+        return FLastClass;
+    TClass Class = GetClass(ClassName);
+    if (OnFindComponentClass)
+        OnFindComponentClass(this, AnsiString(ClassName), Class);
+    if (!Class || !Class->InheritsFrom(TComponent::StaticClass()))
+        return nullptr;
+    return FLastClass = Class;
+}
+
+// Returns nullptr when the object is to be left out.
+TClass TReader::UnknownClass(std::string_view ClassName, std::string_view Name, size_t Position)
+{
+    bool Skip = false;
+    if (OnUnknownClass)
+        OnUnknownClass(this, AnsiString(ClassName), AnsiString(Name), Skip);
+    if (!Skip)
+        throw EClassNotFound("Class " + AnsiString(ClassName) + " not found at offset " +
+                             std::to_string(FBase + Position));
+    return nullptr;
+}
+
+void TReader::ReadContents(TComponent* Component)
+{
+    bool WasReading = Component->FState.Contains(csReading);
+    Component->FState << csReading;
+    Component->ReadState(*this);
+    if (!WasReading)
+        Component->FState >> csReading;
+}
+
+void TReader::ReadData(TComponent* Component)
+{
+    ReadProperties(Component);
+    TReadingScope Scope(*this, Component);
+    while (!EndOfList()) {
+        if (IgnoreChildren) {
+            ReadPrefix();
+            FCursor.ReadName();
+            FCursor.ReadName();
+            SkipObject();
+        } else {
+            ReadObject(nullptr);
+        }
+    }
+    ReadListEnd();
+}
+
+void TReader::Descend()
+{
+    if (++FDepth > MaxFormDepth)
+        FCursor.Fail("The objects are nested too deeply");
+}
+
+void ReadRootComponent(TStream& Stream, TComponent* Root)
+{
+    TReader(&Stream).ReadRootComponent(Root);
+}
+
+TComponent* ReadRootComponent(TStream& Stream)
+{
+    return TReader(&Stream).ReadRootComponent(nullptr);
+}

@@ -1,0 +1,266 @@
+// TReader's single values, and how they are skipped.
+#include "vcl/classes/Collection.h"
+#include "vcl/classes/Reader.h"
+#include "vcl/system/Locale.h"
+#include "vcl/system/Utf.h"
+
+#include <cstring>
+#include <limits>
+
+namespace {
+
+AnsiString TextFromUnits(std::string_view Bytes)
+{
+    TWideString Units(Bytes.size() / 2, 0);
+    for (size_t I = 0; I < Units.size(); ++I)
+        Units[I] = static_cast<TWideChar>(LoadLittleEndian<uint16_t>(Bytes.data() + 2 * I));
+    return FromWide(Units);
+}
+
+} // namespace
+
+void TReader::FailValue() const
+{
+    FCursor.FailAt("Invalid property value", FCursor.Position() - 1);
+}
+
+void TReader::CheckValue(TValueType Value)
+{
+    if (ReadValue() != Value)
+        FailValue();
+}
+
+bool TReader::ReadBoolean()
+{
+    TValueType Type = ReadValue();
+    if (Type != vaTrue && Type != vaFalse)
+        FailValue();
+    return Type == vaTrue;
+}
+
+char TReader::ReadChar()
+{
+    size_t Start = FCursor.Position();
+    TWideString Text = ToWide(ReadString());
+    // A character beyond Latin-1 does not fit.
+    if (Text.size() != 1 || Text[0] > 0xFF)
+        FCursor.FailAt("Invalid property value", Start);
+    return static_cast<char>(Text[0]);
+}
+
+int32_t TReader::ReadInteger()
+{
+    size_t Start = FCursor.Position();
+    int64_t Value = ReadInt64();
+    if (Value < std::numeric_limits<int32_t>::min() || Value > std::numeric_limits<uint32_t>::max())
+        FCursor.FailAt("Invalid property value", Start);
+    return static_cast<int32_t>(Value);
+}
+
+int64_t TReader::ReadInt64()
+{
+    TValueType Type = ReadValue();
+    if (!TFormCursor::IsInteger(Type))
+        FailValue();
+    return FCursor.ReadIntegerOf(Type);
+}
+
+// The special kinds are for those who ask for them: a date is no plain number.
+double TReader::ReadNumber(bool AnyKind)
+{
+    TValueType Type = ReadValue();
+    switch (Type) {
+    case vaInt8:
+    case vaInt16:
+    case vaInt32:
+    case vaInt64: return static_cast<double>(FCursor.ReadIntegerOf(Type));
+    case vaExtended: return FCursor.ReadExtended().ToDouble();
+    case vaSingle: return FCursor.ReadSingle();
+    case vaDouble: return FCursor.ReadDouble();
+    case vaCurrency:
+        if (AnyKind)
+            return static_cast<double>(FCursor.ReadInteger<int64_t>()) / 10000;
+        FailValue();
+    case vaDate:
+        if (AnyKind)
+            return FCursor.ReadDouble();
+        FailValue();
+    default: FailValue();
+    }
+}
+
+double TReader::ReadFloat()
+{
+    return ReadNumber(true);
+}
+
+float TReader::ReadSingle()
+{
+    return static_cast<float>(ReadNumber(false));
+}
+
+double TReader::ReadCurrency()
+{
+    return ReadNumber(true);
+}
+
+double TReader::ReadDate()
+{
+    return ReadNumber(true);
+}
+
+AnsiString TReader::ReadIdent()
+{
+    switch (ReadValue()) {
+    case vaIdent: return AnsiString(FCursor.ReadName());
+    case vaFalse: return "False";
+    case vaTrue: return "True";
+    case vaNil: return "nil";
+    case vaNull: return "Null";
+    default: FailValue();
+    }
+}
+
+AnsiString TReader::ReadStr()
+{
+    return AnsiString(FCursor.ReadName());
+}
+
+AnsiString TReader::ReadString()
+{
+    switch (ReadValue()) {
+    case vaString: return TextFromBytes(FCursor.ReadName());
+    case vaLString: return TextFromBytes(FCursor.ReadLongBytes());
+    case vaUTF8String: {
+        std::string_view Bytes = FCursor.ReadLongBytes();
+        // What claims to be UTF-8 and is not gets U+FFFD: everyone else may rely on UTF-8.
+        return IsValidUtf8(Bytes) ? AnsiString(Bytes) : FromWide(ToWide(Bytes));
+    }
+    case vaWString: return TextFromUnits(FCursor.ReadWideBytes());
+    default: FailValue();
+    }
+}
+
+AnsiString TReader::TextFromBytes(std::string_view Bytes) const
+{
+    return IsValidUtf8(Bytes) ? AnsiString(Bytes) : DecodeCodePage(Bytes, CodePage);
+}
+
+void TReader::ReadSignature()
+{
+    if (FCursor.Remaining() < FormSignatureSize || FData.substr(FCursor.Position(), FormSignatureSize) != FormSignature)
+        FCursor.Fail("Invalid stream format");
+    FCursor.ReadSignature();
+}
+
+void TReader::Read(void* Buffer, int Count)
+{
+    if (Count > 0)
+        std::memcpy(Buffer, FCursor.ReadBytes(static_cast<size_t>(Count)).data(), static_cast<size_t>(Count));
+}
+
+void TReader::ReadCollection(TCollection* Collection)
+{
+    struct TUpdate {
+        TCollection* Collection;
+        ~TUpdate() { Collection->EndUpdate(); }
+    };
+    Collection->BeginUpdate();
+    TUpdate Update{Collection};
+    AnsiString PropName = FPropName;
+    Descend();
+    Collection->Clear();
+    while (!EndOfList()) {
+        // A place, which says no more than the order does.
+        if (TFormCursor::IsInteger(NextValue()))
+            ReadInt64();
+        ReadListBegin();
+        ReadProperties(Collection->Add());
+    }
+    ReadListEnd();
+    --FDepth;
+    FPropName = PropName;
+}
+
+// ---- Skipping
+
+void TReader::MoveTo(size_t Position)
+{
+    FCursor = TFormCursor(FData, FBase);
+    FCursor.ReadBytes(Position);
+}
+
+void TReader::SkipValue()
+{
+    TValueType Type = ReadValue();
+    switch (Type) {
+    case vaNull:
+    case vaFalse:
+    case vaTrue:
+    case vaNil: return;
+    case vaList: SkipList(); return;
+    case vaInt8:
+    case vaInt16:
+    case vaInt32:
+    case vaInt64: FCursor.ReadIntegerOf(Type); return;
+    case vaExtended: FCursor.ReadBytes(TExtended::Size); return;
+    case vaSingle: FCursor.ReadBytes(4); return;
+    case vaCurrency:
+    case vaDate:
+    case vaDouble: FCursor.ReadBytes(8); return;
+    case vaString:
+    case vaIdent: FCursor.ReadName(); return;
+    case vaBinary:
+    case vaLString:
+    case vaUTF8String: FCursor.ReadLongBytes(); return;
+    case vaWString: FCursor.ReadWideBytes(); return;
+    case vaSet:
+        while (!FCursor.ReadName().empty()) {
+        }
+        return;
+    case vaCollection:
+        Descend();
+        while (!EndOfList()) {
+            if (TFormCursor::IsInteger(NextValue()))
+                ReadInt64();
+            ReadListBegin();
+            SkipProperties();
+        }
+        ReadListEnd();
+        --FDepth;
+        return;
+    }
+}
+
+void TReader::SkipList()
+{
+    Descend();
+    while (!EndOfList())
+        SkipValue();
+    ReadListEnd();
+    --FDepth;
+}
+
+void TReader::SkipProperties()
+{
+    while (FCursor.PeekByte() != 0) {
+        FCursor.ReadName();
+        SkipValue();
+    }
+    FCursor.ReadByte();
+}
+
+// What follows an object's class and name.
+void TReader::SkipObject()
+{
+    SkipProperties();
+    Descend();
+    while (!EndOfList()) {
+        ReadPrefix();
+        FCursor.ReadName();
+        FCursor.ReadName();
+        SkipObject();
+    }
+    ReadListEnd();
+    --FDepth;
+}
