@@ -7,6 +7,7 @@ class TMainMenu : public TMenu {
     VCL_CLASS(TMainMenu, TMenu)
 public:
     explicit TMainMenu(TComponent* AOwner);
+    void BeforeDestruction() override;
 
     // Shows the bar in Value and takes it out of the window before; nullptr only takes it out.
     void SetWindowHandle(HWND Value) override;
@@ -16,7 +17,7 @@ public:
 
 protected:
     void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
-    HMENU CreateNativeMenu() const override;
+    bool IsMenuBar() const override { return true; }
 
 private:
     void UpdateWindow();

@@ -64,12 +64,14 @@ protected:
     void Notification(TComponent* Component, TOperation Operation) override;
     // An item changed; Source is nullptr for the menu itself.
     virtual void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild);
-    // The kind of native menu for the root item: a bar or a popup.
-    virtual HMENU CreateNativeMenu() const;
+    // The items lie side by side in a bar.
+    virtual bool IsMenuBar() const { return false; }
 
     HWND FWindowHandle = nullptr;
 
 private:
+    HMENU CreateNativeMenu() const;
+
     TMenuItem* FItems;
     TCustomImageList* FImages = nullptr;
     TBiDiMode FBiDiMode = bdLeftToRight;

@@ -90,10 +90,8 @@ public:
     bool CanBeChosen() const;
 
     // Gives each item without an accelerator of its own, or with a repeated one, a free letter, when AutoHotkeys says
-    // so or ForceRethink. True when anything changed.
+    // so or ForceRethink. True when anything changed. The native menu does it before it shows.
     bool RethinkHotkeys(bool ForceRethink = false);
-    // Shows again the separators that have something to separate, and no others. True when anything changed.
-    bool RethinkLines();
 
     // The images that the item's ImageIndex counts in; nullptr when there are none.
     TCustomImageList* GetImageList() const;
@@ -105,6 +103,7 @@ public:
 
     bool AutoCheck = false;
     MENU_ITEM_VALUE(TMenuItemAutoFlag, AutoHotkeys, FAutoHotkeys);
+    // Separators that have nothing to separate do not show.
     MENU_ITEM_VALUE(TMenuItemAutoFlag, AutoLineReduction, FAutoLineReduction);
     // Starts a new column.
     MENU_ITEM_VALUE(TMenuBreak, Break, FBreak);
@@ -132,25 +131,22 @@ public:
     TNotifyEvent OnClick;
 
 protected:
-    void Loaded() override;
     void Notification(TComponent* Component, TOperation Operation) override;
-    // Something about the item changed; the native menu and the menu's OnChange follow.
+    // Something about the item changed; the menu's OnChange follows.
     virtual void MenuChanged(bool Rebuild);
-    void AssignTo(TPersistent* Dest) override;
 
 private:
     friend class TMenu;
 
     void ChangeLook();
-    bool AppearsAt(size_t Index) const;
-    TMenuItem* LastShownBefore(size_t Index) const;
-    void FillItemInfo(MENUITEMINFOW& Info, TWideString& Text);
-    void UpdateNative();
-    void Rebuild();
+    void ChangeShape();
+    void ItemsChanged(bool KindChanged);
+    void UpdateHandle();
     void FillNative();
-    void FreeNative();
+    void FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const;
+    void AppendTo(HMENU Menu);
     void DetachNative(TMenuItem* Item);
-    void NotifyMenu(TMenuItem* Source, bool Rebuild);
+    void FreeNative();
     void TurnSiblingsOff();
     int NewLineAt(int Index);
     TMenuItemAutoFlag Inherit(TMenuItemAutoFlag TMenuItem::* Flag) const;
@@ -173,6 +169,7 @@ private:
     bool FEnabled = true;
     bool FRadioItem = false;
     bool FVisible = true;
+    bool FStale = false; // the native menu is not what the items say
 };
 
 // A new item that nobody but AOwner owns, with the values given.

@@ -1,12 +1,9 @@
 // TPopupList: all popup menus of the program and the hidden window that they share, which gets their commands.
 #pragma once
 
-#include "vcl/classes/InputTypes.h"
-#include "vcl/system/WindowsApi.h"
+#include "vcl/menus/PopupMenu.h"
 
 #include <vector>
-
-class TPopupMenu;
 
 // True: the message is used up.
 using TWindowHook = TEvent<bool(TMessage& Message)>;
@@ -37,11 +34,11 @@ private:
     void WndProc(TMessage& Message);
     bool CallListeners(TMessage& Message);
     bool MenuMessage(TMessage& Message);
+    TPopupMenu* MenuWith(uintptr_t Value, TFindItemKind Kind) const;
 
     HWND FWindow = nullptr;
     std::vector<TPopupMenu*> FMenus;
     std::vector<TWindowHook> FListeners;
-    bool FHintShown = false;
 };
 
 // The one list.

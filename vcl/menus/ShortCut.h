@@ -13,7 +13,7 @@ enum : TShortCut { scNone = 0, scShift = 0x2000, scCtrl = 0x4000, scAlt = 0x8000
 TShortCut ShortCut(uint16_t Key, TShiftState Shift);
 void ShortCutToKey(TShortCut ShortCut, uint16_t& Key, TShiftState& Shift);
 
-// "Ctrl+Shift+S", as menus show it; empty for scNone and for keys without a name.
+// "Shift+Ctrl+S", as menus show it; empty for scNone and for keys without a name.
 AnsiString ShortCutToText(TShortCut ShortCut);
 // The reverse; case does not matter. scNone for what is no such text.
 TShortCut TextToShortCut(std::string_view Text);

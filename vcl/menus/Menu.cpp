@@ -1,0 +1,179 @@
+#include "vcl/menus/Menu.h"
+
+#include "vcl/graphics/ImageList.h"
+#include "vcl/system/ClassBuilder.h"
+
+#include <vector>
+
+void TMenu::Describe(TClassBuilder<TMenu>& Class)
+{
+    Class.Declare<&Self::GetAutoHotkeys, &Self::SetAutoHotkeys>("AutoHotkeys").Default(maAutomatic);
+    Class.Declare<&Self::GetAutoLineReduction, &Self::SetAutoLineReduction>("AutoLineReduction").Default(maAutomatic);
+    Class.Declare<&Self::GetBiDiMode, &Self::SetBiDiMode>("BiDiMode").Default(bdLeftToRight);
+    Class.Declare<&Self::GetImages, &Self::SetImages>("Images");
+    Class.Declare<&Self::OwnerDraw, &Self::OwnerDraw>("OwnerDraw").Default(false);
+    Class.Declare<&Self::ParentBiDiMode, &Self::ParentBiDiMode>("ParentBiDiMode").Default(true);
+    Class.DeclareEvent<&Self::OnChange>("OnChange");
+    Class.Property<&Self::GetItems>("Items").NotStored();
+}
+
+TMenu::TMenu(TComponent* AOwner) : TComponent(AOwner), FItems(new TMenuItem(this))
+{
+    FItems->FMenu = this;
+    FItems->FAutoHotkeys = maAutomatic;
+    FItems->FAutoLineReduction = maAutomatic;
+}
+
+namespace {
+
+template <class Matches>
+TMenuItem* FindBelow(TMenuItem* Item, const Matches& IsWanted)
+{
+    if (IsWanted(Item))
+        return Item;
+    for (int I = 0; I < Item->Count; ++I)
+        if (TMenuItem* Found = FindBelow(Item->Items[I], IsWanted))
+            return Found;
+    return nullptr;
+}
+
+// Opens the submenus that Item lies in, as far as their handlers are concerned. False when Item cannot be chosen.
+bool OpenPathTo(TMenuItem* Item, const TMenu* Menu)
+{
+    std::vector<TMenuItem*> Path;
+    for (TMenuItem* Above = Item->Parent; Above && Above->Parent; Above = Above->Parent)
+        Path.push_back(Above);
+    for (size_t I = Path.size(); I-- > 0;) {
+        if (!Path[I]->CanBeChosen())
+            return false;
+        Path[I]->Click();
+        // The handler may have rebuilt the submenu.
+        if (!FindBelow(Menu->Items, [Item](TMenuItem* Each) { return Each == Item; }))
+            return false;
+    }
+    return Item->CanBeChosen();
+}
+
+} // namespace
+
+TMenuItem* TMenu::FindItem(uintptr_t Value, TFindItemKind Kind) const
+{
+    switch (Kind) {
+    case fkCommand: return FindBelow(FItems, [Value](TMenuItem* Item) { return Item->Command == Value; });
+    case fkHandle:
+        return FindBelow(FItems, [Value](TMenuItem* Item) {
+            return Item->HandleAllocated() && reinterpret_cast<uintptr_t>(Item->FHandle) == Value;
+        });
+    case fkShortCut:
+        if (Value == scNone)
+            return nullptr;
+        return FindBelow(FItems, [Value](TMenuItem* Item) { return Item->ShortCut == Value; });
+    }
+    return nullptr;
+}
+
+bool TMenu::DispatchCommand(uint16_t Command)
+{
+    TMenuItem* Item = FindItem(Command, fkCommand);
+    if (!Item)
+        return false;
+    Item->Click();
+    return true;
+}
+
+bool TMenu::DispatchPopup(HMENU Handle)
+{
+    TMenuItem* Item = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle);
+    if (!Item)
+        return false;
+    Item->Click();
+    // The handler may have deleted the item.
+    if (TMenuItem* Still = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle))
+        Still->UpdateHandle();
+    return true;
+}
+
+bool TMenu::IsShortCut(TShortCut ShortCut)
+{
+    TMenuItem* Item = FindItem(ShortCut, fkShortCut);
+    if (!Item || !OpenPathTo(Item, this))
+        return false;
+    Item->Click();
+    return true;
+}
+
+AnsiString TMenu::HintOf(const TMessage& MenuSelect) const
+{
+    const auto Native = reinterpret_cast<HMENU>(MenuSelect.LParam);
+    const unsigned Flags = static_cast<unsigned>(MenuSelect.WParamHi());
+    if (!Native || (Flags & (MF_SYSMENU | MF_SEPARATOR)))
+        return {};
+    const unsigned Id = static_cast<unsigned>(MenuSelect.WParamLo());
+    TMenuItem* Item = (Flags & MF_POPUP)
+                          ? FindItem(reinterpret_cast<uintptr_t>(GetSubMenu(Native, static_cast<int>(Id))), fkHandle)
+                          : FindItem(Id, fkCommand);
+    if (!Item)
+        return {};
+    const size_t Bar = Item->Hint.find('|');
+    return Bar == AnsiString::npos ? Item->Hint : Item->Hint.substr(Bar + 1);
+}
+
+bool TMenu::IsRightToLeft() const
+{
+    return FBiDiMode != bdLeftToRight && GetSystemMetrics(SM_MIDEASTENABLED) != 0;
+}
+
+void TMenu::SetBiDiMode(TBiDiMode Value)
+{
+    if (FBiDiMode == Value)
+        return;
+    FBiDiMode = Value;
+    ParentBiDiMode = false;
+    FItems->ItemsChanged(false);
+}
+
+void TMenu::SetImages(TCustomImageList* Value)
+{
+    if (FImages == Value)
+        return;
+    if (FImages)
+        FImages->RemoveFreeNotification(this);
+    FImages = Value;
+    if (Value)
+        Value->FreeNotification(this);
+    FItems->ItemsChanged(false);
+}
+
+void TMenu::GetChildren(const TGetChildProc& Proc, TComponent* Root)
+{
+    FItems->GetChildren(Proc, Root);
+}
+
+void TMenu::SetChildOrder(TComponent* Child, int Order)
+{
+    FItems->SetChildOrder(Child, Order);
+}
+
+void TMenu::Loaded()
+{
+    TComponent::Loaded();
+    MenuChanged(this, nullptr, true);
+}
+
+void TMenu::Notification(TComponent* Component, TOperation Operation)
+{
+    TComponent::Notification(Component, Operation);
+    if (Operation == opRemove && Component == FImages)
+        FImages = nullptr;
+}
+
+void TMenu::MenuChanged(TObject*, TMenuItem* Source, bool Rebuild)
+{
+    if (!IsLoading())
+        OnChange(this, Source, Rebuild);
+}
+
+HMENU TMenu::CreateNativeMenu() const
+{
+    return IsMenuBar() ? CreateMenu() : CreatePopupMenu();
+}

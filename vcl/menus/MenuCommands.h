@@ -1,0 +1,12 @@
+// The commands of the program's menu items: 16-bit numbers, each used once.
+#pragma once
+
+#include <cstdint>
+
+// Raises EOutOfResources when all are in use. Commands lie between FirstMenuCommand and LastMenuCommand: above the
+// identifiers of dialog buttons and below the system's own commands.
+uint16_t TakeMenuCommand();
+void ReturnMenuCommand(uint16_t Command);
+
+constexpr uint16_t FirstMenuCommand = 0x0010;
+constexpr uint16_t LastMenuCommand = 0xEFFF;

@@ -1,0 +1,178 @@
+// The native menus behind the items.
+//
+// A native menu that is not on the screen may lag behind its items: it is marked stale and filled anew when it is asked
+// for or about to open.
+
+#include "vcl/menus/Menu.h"
+#include "vcl/menus/MenuItem.h"
+
+#include "vcl/graphics/GraphicErrors.h"
+#include "vcl/system/LiveCount.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr UINT BreakType[] = {0, MFT_MENUBREAK, MFT_MENUBARBREAK};
+
+UINT CommandAt(HMENU Menu, int Position)
+{
+    MENUITEMINFOW Info{};
+    Info.cbSize = sizeof Info;
+    Info.fMask = MIIM_ID;
+    return GetMenuItemInfoW(Menu, static_cast<UINT>(Position), TRUE, &Info) ? Info.wID : 0;
+}
+
+// Looks in this native menu only; the system's own search by command goes into submenus and passes over their items.
+int PositionOf(HMENU Menu, uint16_t Command)
+{
+    for (int I = GetMenuItemCount(Menu); I-- > 0;)
+        if (CommandAt(Menu, I) == Command)
+            return I;
+    return -1;
+}
+
+} // namespace
+
+HMENU TMenuItem::GetHandle()
+{
+    if (!FHandle) {
+        FHandle = FMenu ? FMenu->CreateNativeMenu() : CreatePopupMenu();
+        if (!FHandle)
+            RaiseOutOfResources();
+        CountLiveHandle(+1);
+        FStale = true;
+    }
+    UpdateHandle();
+    return FHandle;
+}
+
+void TMenuItem::UpdateHandle()
+{
+    if (!FHandle || !FStale)
+        return;
+    while (RemoveMenu(FHandle, 0, MF_BYPOSITION)) {
+    }
+    if (!IsDesigning())
+        RethinkHotkeys();
+    FillNative();
+    FStale = false;
+}
+
+void TMenuItem::FillNative()
+{
+    const bool ReduceLines = Inherit(&TMenuItem::FAutoLineReduction) == maAutomatic;
+    TMenuItem* PendingLine = nullptr;
+    bool AnyAbove = false; // since the last separator
+    for (TMenuItem* Item : FItems) {
+        if (!Item->FVisible)
+            continue;
+        if (ReduceLines && Item->IsLine()) {
+            PendingLine = AnyAbove ? Item : PendingLine;
+            AnyAbove = false;
+            continue;
+        }
+        if (PendingLine)
+            PendingLine->AppendTo(FHandle);
+        PendingLine = nullptr;
+        AnyAbove = true;
+        Item->AppendTo(FHandle);
+    }
+}
+
+void TMenuItem::AppendTo(HMENU Menu)
+{
+    MENUITEMINFOW Info;
+    TWideString Text;
+    FillItemInfo(Info, Text);
+    if (!FItems.empty()) {
+        Info.fMask |= MIIM_SUBMENU;
+        Info.hSubMenu = GetHandle();
+    }
+    InsertMenuItemW(Menu, static_cast<UINT>(GetMenuItemCount(Menu)), TRUE, &Info);
+}
+
+void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
+{
+    Info = {};
+    Info.cbSize = sizeof Info;
+    Info.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID;
+    Info.wID = FCommand;
+    Info.fType = BreakType[FBreak];
+    if (FRadioItem)
+        Info.fType |= MFT_RADIOCHECK;
+    TMenu* Menu = GetParentMenu();
+    if (Menu && Menu->IsRightToLeft())
+        Info.fType |= MFT_RIGHTORDER;
+    Info.fState = static_cast<UINT>((FEnabled ? MFS_ENABLED : MFS_DISABLED) | (FChecked ? MFS_CHECKED : 0) |
+                                    (FDefault ? MFS_DEFAULT : 0));
+    if (IsLine()) {
+        Info.fType |= MFT_SEPARATOR;
+        return;
+    }
+    Text = ToWide(FCaption);
+    // The bar of a main menu has no room for shortcuts.
+    const bool IsOnBar = FParent && FParent->FMenu && FParent->FMenu->IsMenuBar();
+    if (FShortCut != scNone && FItems.empty() && !IsOnBar)
+        Text += L'\t' + ToWide(ShortCutToText(FShortCut));
+    Info.fMask |= MIIM_STRING;
+    Info.dwTypeData = Text.data();
+}
+
+// The item's own entry changed in its look, not in its size or kind.
+void TMenuItem::ChangeLook()
+{
+    if (FParent && FParent->FHandle && !FParent->FStale) {
+        const int Position = PositionOf(FParent->FHandle, FCommand);
+        MENUITEMINFOW Info;
+        TWideString Text;
+        FillItemInfo(Info, Text);
+        if (Position >= 0)
+            SetMenuItemInfoW(FParent->FHandle, static_cast<UINT>(Position), TRUE, &Info);
+    }
+    MenuChanged(false);
+}
+
+void TMenuItem::ChangeShape()
+{
+    if (FParent)
+        FParent->FStale = true;
+    MenuChanged(true);
+}
+
+void TMenuItem::ItemsChanged(bool KindChanged)
+{
+    FStale = true;
+    // Its entry gains or loses the submenu.
+    if (KindChanged && FParent)
+        FParent->FStale = true;
+    MenuChanged(true);
+}
+
+void TMenuItem::DetachNative(TMenuItem* Item)
+{
+    if (!FHandle || !Item->FHandle)
+        return; // A plain entry may stay until the menu is filled anew.
+    const int Position = PositionOf(FHandle, Item->FCommand);
+    if (Position >= 0)
+        RemoveMenu(FHandle, static_cast<UINT>(Position), MF_BYPOSITION);
+}
+
+void TMenuItem::FreeNative()
+{
+    if (!FHandle)
+        return;
+    // Submenus are destroyed with a menu; these belong to their items.
+    while (RemoveMenu(FHandle, 0, MF_BYPOSITION)) {
+    }
+    DestroyMenu(FHandle);
+    CountLiveHandle(-1);
+    FHandle = nullptr;
+}
+
+void TMenuItem::MenuChanged(bool Rebuild)
+{
+    TMenu* Menu = GetParentMenu();
+    if (Menu && !Menu->ComponentState.Contains(csDestroying))
+        Menu->MenuChanged(this, FMenu ? nullptr : this, Rebuild);
+}

@@ -1,0 +1,173 @@
+#include "vcl/menus/ShortCut.h"
+
+#include "vcl/system/Ident.h"
+#include "vcl/system/Utf.h"
+#include "vcl/system/WindowsApi.h"
+
+namespace {
+
+struct TKeyName {
+    uint8_t Key;
+    const char* Name;
+};
+
+constexpr TKeyName KeyNames[] = {
+    {VK_BACK, "BkSp"},  {VK_TAB, "Tab"},     {VK_RETURN, "Enter"}, {VK_ESCAPE, "Esc"}, {VK_SPACE, "Space"},
+    {VK_PRIOR, "PgUp"}, {VK_NEXT, "PgDn"},   {VK_END, "End"},      {VK_HOME, "Home"},  {VK_LEFT, "Left"},
+    {VK_UP, "Up"},      {VK_RIGHT, "Right"}, {VK_DOWN, "Down"},    {VK_INSERT, "Ins"}, {VK_DELETE, "Del"},
+};
+
+struct TPrefix {
+    std::string_view Text;
+    TShortCut Flag;
+};
+
+constexpr TPrefix Prefixes[] = {{"Shift+", scShift}, {"Ctrl+", scCtrl}, {"Alt+", scAlt}, {"^", scCtrl}};
+
+// What the keyboard driver calls a key that is not in the table.
+AnsiString SystemKeyName(uint8_t Key)
+{
+    const UINT ScanCode = MapVirtualKeyW(Key, MAPVK_VK_TO_VSC);
+    wchar_t Name[64];
+    const int Length = ScanCode ? GetKeyNameTextW(static_cast<LONG>(ScanCode << 16), Name, 64) : 0;
+    return FromWide({Name, static_cast<size_t>(Length)});
+}
+
+AnsiString KeyName(uint8_t Key)
+{
+    for (const TKeyName& Entry : KeyNames)
+        if (Entry.Key == Key)
+            return Entry.Name;
+    if ((Key >= '0' && Key <= '9') || (Key >= 'A' && Key <= 'Z'))
+        return AnsiString(1, static_cast<char>(Key));
+    if (Key >= VK_NUMPAD0 && Key <= VK_NUMPAD9)
+        return "Num " + std::to_string(Key - VK_NUMPAD0);
+    if (Key >= VK_F1 && Key <= VK_F24)
+        return "F" + std::to_string(Key - VK_F1 + 1);
+    const bool IsModifier = Key == VK_SHIFT || Key == VK_CONTROL || Key == VK_MENU;
+    return IsModifier ? AnsiString() : SystemKeyName(Key);
+}
+
+bool IsDown(int Key)
+{
+    return GetKeyState(Key) < 0;
+}
+
+} // namespace
+
+TShortCut ShortCut(uint16_t Key, TShiftState Shift)
+{
+    if (Key > 0xFF)
+        return scNone;
+    TShortCut Result = Key;
+    if (Shift.Contains(ssShift))
+        Result |= scShift;
+    if (Shift.Contains(ssCtrl))
+        Result |= scCtrl;
+    if (Shift.Contains(ssAlt))
+        Result |= scAlt;
+    return Result;
+}
+
+void ShortCutToKey(TShortCut ShortCut, uint16_t& Key, TShiftState& Shift)
+{
+    Key = ShortCut & 0xFF;
+    Shift = {};
+    if (ShortCut & scShift)
+        Shift << ssShift;
+    if (ShortCut & scCtrl)
+        Shift << ssCtrl;
+    if (ShortCut & scAlt)
+        Shift << ssAlt;
+}
+
+AnsiString ShortCutToText(TShortCut ShortCut)
+{
+    const AnsiString Name = KeyName(static_cast<uint8_t>(ShortCut));
+    if (Name.empty())
+        return {};
+    AnsiString Text;
+    for (const TPrefix& Prefix : Prefixes)
+        if ((ShortCut & Prefix.Flag) && Prefix.Text != "^")
+            Text += Prefix.Text;
+    return Text + Name;
+}
+
+TShortCut TextToShortCut(std::string_view Text)
+{
+    TShortCut Flags = 0;
+    for (bool Found = true; Found;) {
+        Found = false;
+        for (const TPrefix& Prefix : Prefixes)
+            if (Text.size() > Prefix.Text.size() && SameIdent(Text.substr(0, Prefix.Text.size()), Prefix.Text)) {
+                Flags |= Prefix.Flag;
+                Text.remove_prefix(Prefix.Text.size());
+                Found = true;
+            }
+    }
+    if (Text.empty())
+        return scNone;
+    for (int Key = VK_BACK; Key <= 0xFF; ++Key)
+        if (SameIdent(KeyName(static_cast<uint8_t>(Key)), Text))
+            return static_cast<TShortCut>(Flags | Key);
+    return scNone;
+}
+
+TShortCut KeyMessageToShortCut(const TMessage& Message)
+{
+    constexpr intptr_t AltPressed = 0x20000000;
+    TShiftState Shift;
+    if (IsDown(VK_SHIFT))
+        Shift << ssShift;
+    if (IsDown(VK_CONTROL))
+        Shift << ssCtrl;
+    if (Message.LParam & AltPressed)
+        Shift << ssAlt;
+    return ShortCut(static_cast<uint16_t>(Message.WParam), Shift);
+}
+
+namespace {
+
+// The place of the letter that the last single & marks, or npos.
+size_t FindHotkey(std::string_view Caption)
+{
+    size_t Found = std::string_view::npos;
+    for (size_t I = 0; I + 1 < Caption.size(); ++I)
+        if (Caption[I] == '&') {
+            ++I;
+            if (Caption[I] != '&')
+                Found = I;
+        }
+    return Found;
+}
+
+size_t CharacterSize(char First)
+{
+    const auto Byte = static_cast<uint8_t>(First);
+    return Byte < 0x80 ? 1 : Byte < 0xE0 ? 2 : Byte < 0xF0 ? 3 : 4;
+}
+
+} // namespace
+
+AnsiString GetHotkey(std::string_view Caption)
+{
+    const size_t Place = FindHotkey(Caption);
+    if (Place == std::string_view::npos)
+        return {};
+    TWideString Letter = ToWide(Caption.substr(Place, CharacterSize(Caption[Place])));
+    CharUpperBuffW(Letter.data(), static_cast<DWORD>(Letter.size()));
+    return FromWide(Letter);
+}
+
+AnsiString StripHotkey(std::string_view Caption)
+{
+    AnsiString Result;
+    for (size_t I = 0; I < Caption.size(); ++I) {
+        if (Caption[I] == '&' && I + 1 < Caption.size() && Caption[I + 1] == '&')
+            Result += Caption[I++];
+        else if (Caption[I] == '&')
+            continue;
+        Result += Caption[I];
+    }
+    return Result;
+}

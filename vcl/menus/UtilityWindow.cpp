@@ -1,0 +1,89 @@
+#include "vcl/menus/UtilityWindow.h"
+
+#include "vcl/graphics/GraphicErrors.h"
+#include "vcl/system/LiveCount.h"
+#include "vcl/system/Utf.h"
+
+#include <memory>
+
+namespace {
+
+constexpr wchar_t ClassName[] = L"TessaryUtilityWindow";
+
+LRESULT CALLBACK UtilityProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam)
+{
+    if (Msg == WM_NCCREATE) {
+        auto* Create = reinterpret_cast<CREATESTRUCTW*>(LParam);
+        SetWindowLongPtrW(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Create->lpCreateParams));
+    }
+    auto* Method = reinterpret_cast<TWndMethod*>(GetWindowLongPtrW(Window, GWLP_USERDATA));
+    if (!Method)
+        return DefWindowProcW(Window, Msg, WParam, LParam);
+
+    TMessage Message{.Msg = Msg, .WParam = WParam, .LParam = LParam};
+    try {
+        if (Msg == WM_NCCREATE || Msg == WM_CREATE || Msg == WM_NCCALCSIZE)
+            DefaultWindowProc(Window, Message); // the caller does not have the handle yet
+        else
+            (*Method)(Message);
+    } catch (...) {
+        ReportException(Method->Data());
+    }
+    return Message.Result;
+}
+
+void RegisterUtilityClass()
+{
+    static const bool Registered = [] {
+        WNDCLASSW Class{};
+        Class.lpfnWndProc = &UtilityProc;
+        Class.hInstance = GetModuleHandleW(nullptr);
+        Class.lpszClassName = ClassName;
+        return RegisterClassW(&Class) != 0;
+    }();
+    (void)Registered;
+}
+
+void ShowExceptionBox(TObject*)
+{
+    try {
+        throw;
+    } catch (const EAbort&) {
+        // Silent by its meaning.
+    } catch (const std::exception& E) {
+        MessageBoxW(nullptr, TWideText(E.what()).c_str(), nullptr, MB_OK | MB_ICONERROR | MB_TASKMODAL);
+    } catch (...) {
+        MessageBoxW(nullptr, L"Unknown exception", nullptr, MB_OK | MB_ICONERROR | MB_TASKMODAL);
+    }
+}
+
+} // namespace
+
+TExceptionReport ReportException = &ShowExceptionBox;
+
+HWND AllocateHWnd(const TWndMethod& Method)
+{
+    RegisterUtilityClass();
+    auto Holder = std::make_unique<TWndMethod>(Method);
+    HWND Window = CreateWindowExW(WS_EX_TOOLWINDOW, ClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                  GetModuleHandleW(nullptr), Holder.get());
+    if (!Window)
+        RaiseOutOfResources();
+    Holder.release();
+    CountLiveHandle(+1);
+    return Window;
+}
+
+void DeallocateHWnd(HWND Window)
+{
+    if (!Window)
+        return;
+    std::unique_ptr<TWndMethod> Holder(reinterpret_cast<TWndMethod*>(SetWindowLongPtrW(Window, GWLP_USERDATA, 0)));
+    DestroyWindow(Window);
+    CountLiveHandle(-1);
+}
+
+void DefaultWindowProc(HWND Window, TMessage& Message)
+{
+    Message.Result = DefWindowProcW(Window, Message.Msg, Message.WParam, Message.LParam);
+}
