@@ -48,11 +48,13 @@ public:
     bool HandleAllocated() const;
     // The handle becomes the caller's, who deletes it; the bitmap is empty then. nullptr when it is empty already.
     HBITMAP ReleaseHandle();
-    // Setting bmDDB makes a bitmap of the screen's format; its pixels are still to be had with ScanLine.
+    // bmDDB: of the screen's format (pfDevice) or monochrome. ScanLine works with both.
     TBitmapHandleType GetHandleType() const;
+    void SetHandleType(TBitmapHandleType Value);
+    PROPERTY(TBitmapHandleType, HandleType);
 
     // pfDevice: 32 bits. pfCustom cannot be set ("Invalid pixel format").
-    TPixelFormat GetPixelFormat() const { return FPixelFormat; }
+    TPixelFormat GetPixelFormat() const { return FMonochrome ? pf1bit : FPixelFormat; }
     void SetPixelFormat(TPixelFormat Value);
     PROPERTY(TPixelFormat, PixelFormat);
     // One bit a pixel, black and white. Drawing a colour picture on it makes the pixels of its background colour white.
@@ -111,6 +113,7 @@ private:
     // The image for writing: shared with nobody, nothing derived from it.
     TBitmapImage& OwnImage();
     void SetImage(std::shared_ptr<TBitmapImage> Image, TPixelFormat Format);
+    std::shared_ptr<TBitmapImage> NewImage(int AWidth, int AHeight, TPixelFormat Format, bool Monochrome);
     void LoadResource(HINSTANCE Instance, const wchar_t* ResName, const AnsiString& Shown);
 
     std::shared_ptr<TBitmapImage> FImage; // nullptr: empty
@@ -121,5 +124,5 @@ private:
     int FHeight = 0;
     TPixelFormat FPixelFormat = pfDevice;
     TTransparentMode FTransparentMode = tmAuto;
-    bool FMonochrome = false;
+    bool FMonochrome = false; // of the device-dependent kind; FPixelFormat is pfDevice
 };

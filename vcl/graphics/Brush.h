@@ -55,7 +55,7 @@ public:
     PROPERTY(TBitmap*, Bitmap);
 
     // Whether text and broken lines over this brush get an opaque background.
-    bool IsSolid() const { return FStyle == bsSolid && !FAdopted; }
+    bool IsSolid() const { return FStyle == bsSolid && !GetBitmap(); }
 
 private:
     mutable TSharedBrush FShared; // empty, or possibly of a system colour's former value

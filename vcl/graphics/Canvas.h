@@ -116,7 +116,7 @@ public:
 
     // The pen position moves to the end of the text.
     void TextOut(int X, int Y, std::string_view Text);
-    // Clipped to R, which the brush fills unless its style is bsClear.
+    // Clipped to R, which is filled with the brush's colour unless its style is bsClear.
     void TextRect(const TRect& R, int X, int Y, std::string_view Text);
     TSize TextExtent(std::string_view Text);
     int TextWidth(std::string_view Text) { return TextExtent(Text).cx; }
@@ -137,6 +137,8 @@ protected:
     HDC RequireHandle();
 
 private:
+    friend class TGraphic;
+
     template <class Operation>
     void Paint(TCanvasState Required, Operation&& Operate);
     void SelectObjects(TCanvasState Missing);

@@ -90,8 +90,8 @@ TColor StringToColor(const AnsiString& Text);
 // False, with the result unchanged, when there is no such colour or name.
 bool ColorToIdent(int64_t Color, AnsiString& Ident);
 bool IdentToColor(std::string_view Ident, int64_t& Color);
-// Calls Proc with each colour's name, in the documented order: the sixteen basic ones, four more, the system's, and
-// clNone and clDefault.
+// Calls Proc with the name of each colour: the sixteen basic ones, four more, then the system's, clNone and clDefault
+// by name.
 void GetColorValues(const TEvent<void(const AnsiString& Name)>& Proc);
 
 extern const TIdentMap ColorIdents;

@@ -10,7 +10,7 @@ class TStream;
 class TGraphic : public TPersistent {
     VCL_CLASS(TGraphic, TPersistent)
 public:
-    // No picture: width and height are 0 and it draws nothing.
+    // No picture: it draws nothing.
     virtual bool GetEmpty() const = 0;
     PROPERTY_READ(bool, Empty);
     // In pixels. Setting raises EInvalidGraphicOperation where the picture has a fixed size.
@@ -56,6 +56,8 @@ protected:
     // Into R of the canvas, stretched. Only called when the picture is not empty.
     virtual void Draw(TCanvas* Canvas, const TRect& R) = 0;
     virtual void Changed(TObject* Sender);
+    // What Draw draws on. The canvas's font, pen and brush need not be selected there.
+    static HDC Context(TCanvas* Canvas);
 
 private:
     bool FModified = false;

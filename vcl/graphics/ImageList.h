@@ -1,37 +1,20 @@
-// TImageList: images of one size, in one of the system's image lists. TChangeLink: tells users of a list of changes.
+// TImageList: images of one size, in one of the system's image lists.
 #pragma once
 
 #include "vcl/classes/Component.h"
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/ChangeLink.h"
 #include "vcl/graphics/Icon.h"
+#include "vcl/graphics/MaskedImage.h"
 
 #include <vector>
-
-class TCustomImageList;
 
 VCL_ENUM(TDrawingStyle, dsFocus, dsSelected, dsNormal, dsTransparent);
 VCL_ENUM(TImageType, itImage, itMask);
 VCL_ENUM(TColorDepth, cdDefault, cdDeviceDependent, cd4Bit, cd8Bit, cd16Bit, cd24Bit, cd32Bit);
 
-// Belongs to whoever uses an image list; OnChange tells that the images changed. Either may be destroyed first.
-class TChangeLink : public TObject {
-public:
-    ~TChangeLink() override;
-
-    // nullptr once the list is gone.
-    TCustomImageList* GetSender() const { return FSender; }
-    PROPERTY_READ(TCustomImageList*, Sender);
-    void Change();
-
-    TNotifyEvent OnChange; // the sender is the list
-
-private:
-    friend class TCustomImageList;
-
-    TCustomImageList* FSender = nullptr;
-};
-
+// Images are drawn from copies that are kept ready, with one call and no detour through the system's image list.
 class TCustomImageList : public TComponent {
     VCL_CLASS(TCustomImageList, TComponent)
 public:
@@ -63,7 +46,7 @@ public:
     void Delete(int Index);
     void Clear();
 
-    int GetCount() const;
+    int GetCount() const { return FHandle ? ImageList_GetImageCount(FHandle) : 0; }
     PROPERTY_READ(int, Count);
     // The image drawn on the list's background colour.
     void GetBitmap(int Index, TBitmap* Image);
@@ -87,7 +70,7 @@ public:
     // Images that are added at a time when the list grows.
     int AllocBy = 4;
     // clNone: images are drawn transparently.
-    TColor GetBkColor() const;
+    TColor GetBkColor() const { return FBkColor; }
     void SetBkColor(TColor Value);
     PROPERTY(TColor, BkColor);
     // What dsFocus and dsSelected blend with; clNone: nothing, clDefault: the highlight colour.
@@ -133,15 +116,22 @@ protected:
 private:
     void CreateHandle();
     void FreeHandle();
-    void SetNewDimensions(HIMAGELIST Handle);
+    void Reset();
     void CheckIndex(int Index) const;
-    void InsertMoved(int Index, int Added);
+    void Update(bool Done, const char* Action);
+    void InsertLast(int Index, int FirstAdded);
+    // The images as they are drawn, one below the other.
+    const TMaskedImage& Prepared(int Index);
+    void DrawDisabled(HDC Target, int X, int Y, int Index);
     void ReadData(TStream* Stream);
     void WriteData(TStream* Stream);
+    bool HasData(TFiler& Filer);
 
     HIMAGELIST FHandle = nullptr;
     std::vector<TChangeLink*> FClients;
     std::vector<uint8_t> FFile; // what was read, until the first change
+    TMaskedImage FPrepared;
+    std::vector<bool> FReady; // which of FPrepared are
     int FWidth = 16;
     int FHeight = 16;
     int FUpdateCount = 0;

@@ -17,6 +17,8 @@ public:
     // The pixels of TransparentColor (system colours and palette-relative ones are resolved) are left out; clNone keeps
     // them all. An empty bitmap gives an image that draws nothing.
     TMaskedImage(TBitmap* Bitmap, TColor TransparentColor);
+    // All left out; for filling through Pixels.
+    TMaskedImage(int Width, int Height);
     TMaskedImage(TMaskedImage&&) = default;
     TMaskedImage& operator=(TMaskedImage&&) = default;
     ~TMaskedImage();
@@ -32,9 +34,12 @@ public:
     // The part at Source stretched to Dest, each pixel drawn or left out as a whole.
     void Stretch(HDC Target, const TRect& Dest, const TRect& Source) const;
 
-    // The pixels, the top row first, as $AARRGGBB: $FF on top where the pixel is drawn, 0 where it is left out. For
-    // those who make variants of the image (disabled, hot); they may be changed, with the colours multiplied by alpha.
-    uint32_t* Pixels() { return FPixels; }
+    // The pixels, the top row first, as $AARRGGBB: $FF on top where the pixel is drawn, 0 where it is left out. They
+    // may be changed, to make variants of the image (disabled, hot) or half transparent ones; the colours are
+    // multiplied by alpha.
+    uint32_t* Pixels();
+    // The context that holds the image, to draw on it by other means; alpha is then to be set in Pixels.
+    HDC Context() { return FContext.Get(); }
 
 private:
     TMemoryDC FContext;
