@@ -234,7 +234,7 @@ void TWinControl::CNKeyDown(TWMKey& Message)
     TWinControl* Form = ParentFormControl();
     if (Wanted == 0 || !Form || Perform(CM_WANTSPECIALKEY, Message.WParam) != 0)
         return;
-    if ((static_cast<unsigned>(Perform(WM_GETDLGCODE)) & (Wanted | DLGC_WANTALLKEYS)) != 0)
+    if ((static_cast<unsigned>(Perform(WM_GETDLGCODE)) & Wanted) != 0)
         return;
     if (Form->Perform(CM_DIALOGKEY, Message.WParam, Message.LParam) != 0)
         Message.Result = 1;
@@ -246,7 +246,7 @@ void TWinControl::CNKeyUp(TWMKey& Message)
         return;
     unsigned Wanted = WantedBy(Message.CharCode);
     if (Wanted != 0 && Perform(CM_WANTSPECIALKEY, Message.WParam) == 0 &&
-        (static_cast<unsigned>(Perform(WM_GETDLGCODE)) & (Wanted | DLGC_WANTALLKEYS)) == 0 &&
+        (static_cast<unsigned>(Perform(WM_GETDLGCODE)) & Wanted) == 0 &&
         Message.CharCode == VK_TAB)
         Message.Result = 1;
 }

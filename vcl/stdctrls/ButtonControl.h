@@ -11,6 +11,7 @@ public:
     bool AccessibleDefaultAction() override;
 
 protected:
+    // For the controls that can be checked.
     virtual bool GetChecked() const { return false; }
     virtual void SetChecked(bool) {}
     PROPERTY(bool, Checked);

@@ -1,6 +1,7 @@
 #include "vcl/stdctrls/CustomLabel.h"
 
 #include "vcl/controls/WinControl.h"
+#include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TCustomLabel::Describe(TClassBuilder<TCustomLabel>& Class)
@@ -24,18 +25,6 @@ TCustomLabel::TCustomLabel(TComponent* AOwner) : TGraphicControl(AOwner)
     SetBounds(0, 0, 65, 17);
     TControl::SetAutoSize(true);
 }
-
-namespace {
-
-// Texts are measured on a context of their own, which is there before the label has a window to stand on. It lives as
-// long as the program.
-HDC MeasureContext()
-{
-    static const HDC Context = CreateCompatibleDC(nullptr);
-    return Context;
-}
-
-} // namespace
 
 unsigned TCustomLabel::TextFlags() const
 {

@@ -4,12 +4,16 @@
 #include "vcl/controls/ControlTypes.h"
 
 VCL_ENUM(TAlignment, taLeftJustify, taRightJustify, taCenter);
-VCL_ENUM(TLeftRight, lrLeft, lrRight);
 VCL_ENUM(TTextLayout, tlTop, tlCenter, tlBottom);
 VCL_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, scTrack, scTop, scBottom, scEndScroll);
 VCL_ENUM(TScrollStyle, ssNone, ssHorizontal, ssVertical, ssBoth);
 VCL_ENUM(TEditCharCase, ecNormal, ecUpperCase, ecLowerCase);
 VCL_ENUM(TCheckBoxState, cbUnchecked, cbChecked, cbGrayed);
+VCL_ENUM(TListBoxStyle, lbStandard, lbOwnerDrawFixed, lbOwnerDrawVariable, lbVirtual, lbVirtualOwnerDraw);
+VCL_ENUM(TComboBoxStyle, csDropDown, csSimple, csDropDownList, csOwnerDrawFixed, csOwnerDrawVariable);
+VCL_ENUM(TStaticBorderStyle, sbsNone, sbsSingle, sbsSunken);
+// A check mark stands on one side of its text: taLeftJustify or taRightJustify. taCenter counts as the latter.
+using TLeftRight = TAlignment;
 
 // The system's numbers for DrawText, by alignment.
 constexpr unsigned DrawTextAlignment(TAlignment Alignment)
