@@ -261,6 +261,7 @@ private:
     friend class TAligner;
     friend class TControlCanvas;
     friend class TDragManager;
+    friend class TFormFocus;
     friend class TMouse;
     friend class TWindowPainter;
 

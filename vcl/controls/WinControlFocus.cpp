@@ -9,7 +9,8 @@ bool TWinControl::CanFocus() const
 {
     if (!ParentFormControl() && !FParentWindow)
         return false;
-    for (const TControl* Control = this; Control; Control = Control->GetParent())
+    // The form itself does not count: its active control can be chosen before it shows.
+    for (const TControl* Control = this; Control->GetParent(); Control = Control->GetParent())
         if (!Control->GetVisible() || !Control->GetEnabled())
             return false;
     return true;
