@@ -1,82 +1,12 @@
 // formconv: converts form files between text and binary.
 
+#include "tools/formconv/Command.h"
 #include "tools/formconv/Console.h"
-#include "tools/formconv/Conversion.h"
-#include "tools/formconv/FormFiles.h"
 
-#include <cstdio>
-#include <exception>
-#include <string>
-#include <vector>
-
-namespace {
-
-constexpr const char* Usage =
-    "usage: formconv --binary IN OUT\n"
-    "       formconv --resource IN OUT\n"
-    "       formconv --text [--lf] IN OUT\n"
-    "\n"
-    "Converts a form to binary, to binary with a resource header, or to text, whichever of these it is.\n"
-    "IN and OUT may be -, standard input and output. Lines of text end with CR LF, or with --lf with LF alone.\n";
-
-struct TOptions {
-    TFormTarget Target = TFormTarget::Text;
-    std::string LineEnd = "\r\n";
-    std::string Input;
-    std::string Output;
-};
-
-bool ReadOptions(std::vector<std::string> Words, TOptions& Options)
-{
-    if (Words.empty())
-        return false;
-    if (Words[0] == "--binary")
-        Options.Target = TFormTarget::Binary;
-    else if (Words[0] == "--resource")
-        Options.Target = TFormTarget::Resource;
-    else if (Words[0] != "--text")
-        return false;
-    Words.erase(Words.begin());
-    if (Options.Target == TFormTarget::Text && !Words.empty() && Words[0] == "--lf") {
-        Options.LineEnd = "\n";
-        Words.erase(Words.begin());
-    }
-    if (Words.size() != 2)
-        return false;
-    Options.Input = Words[0];
-    Options.Output = Words[1];
-    return true;
-}
-
-int Fail(const std::string& Message)
-{
-    std::fputs((Message + "\n").c_str(), stderr);
-    return 1;
-}
-
-int Run(const TOptions& Options)
-{
-    const std::string Name = Options.Input == "-" ? "<stdin>" : Options.Input;
-    const TConversionResult Result = ConvertForm(ReadWholeFile(Options.Input), Name, Options.Target, Options.LineEnd);
-    if (!Result.Done)
-        return Fail(Result.Error);
-    WriteWholeFile(Options.Output, Result.Output);
-    return 0;
-}
-
-} // namespace
+#include <iostream>
 
 int main(int Count, char** Arguments)
 {
-    try {
-        TOptions Options;
-        if (!ReadOptions(CommandLineWords(Count, Arguments), Options)) {
-            std::fputs(Usage, stderr);
-            return 1;
-        }
-        UseBinaryConsole();
-        return Run(Options);
-    } catch (const std::exception& Error) {
-        return Fail(Error.what());
-    }
+    UseBinaryConsole();
+    return RunFormconv(CommandLineWords(Count, Arguments), std::cerr);
 }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int Bias = 16383;
 constexpr int MaxExponent = 0x7FFF;
+constexpr std::uint64_t IntegerBit = std::uint64_t{1} << 63;
 constexpr int MinScale = 1 - Bias - 63; // the exponent of the last bit of the smallest numbers
 constexpr int MaxKeptDigits = 80;
 
@@ -103,6 +104,9 @@ TExtended TExtended::FromDouble(double Value)
     const auto Sign = static_cast<std::uint16_t>(std::signbit(Value) ? 0x8000 : 0);
     if (Value == 0)
         return {0, Sign};
+    if (!std::isfinite(Value))
+        return {std::isinf(Value) ? IntegerBit : IntegerBit | IntegerBit >> 1,
+                static_cast<std::uint16_t>(Sign | MaxExponent)};
     int Exponent = 0;
     const double Fraction = std::frexp(std::fabs(Value), &Exponent); // 0.5 <= Fraction < 1
     const auto Mantissa = static_cast<std::uint64_t>(std::ldexp(Fraction, 53)) << 11;
@@ -126,8 +130,7 @@ double TExtended::ToDouble() const
         return Sign * 0.0;
     const std::uint64_t Kept = Drop == 64 ? 0 : Mantissa >> Drop;
     const std::uint64_t Rest = Mantissa << (64 - Drop);
-    constexpr std::uint64_t Half = std::uint64_t{1} << 63;
-    const bool Up = Rest > Half || (Rest == Half && (Kept & 1) != 0);
+    const bool Up = Rest > IntegerBit || (Rest == IntegerBit && (Kept & 1) != 0);
     return Sign * std::ldexp(static_cast<double>(Kept + (Up ? 1 : 0)), -1074);
 }
 
@@ -140,9 +143,8 @@ bool TExtended::ToInt64(std::int64_t& Value) const
         return false;
     std::uint64_t Whole = Drop < 64 ? Mantissa >> Drop : 0;
     const std::uint64_t Rest = Drop == 0 ? 0 : Drop <= 64 ? Mantissa << (64 - Drop) : 0;
-    constexpr std::uint64_t Half = std::uint64_t{1} << 63;
-    Whole += Rest > Half || (Rest == Half && (Whole & 1) != 0) ? 1 : 0;
-    if (Whole > Half - (IsNegative() ? 0 : 1))
+    Whole += Rest > IntegerBit || (Rest == IntegerBit && (Whole & 1) != 0) ? 1 : 0;
+    if (Whole > IntegerBit - (IsNegative() ? 0 : 1))
         return false;
     Value = static_cast<std::int64_t>(IsNegative() ? 0 - Whole : Whole);
     return true;
@@ -176,7 +178,7 @@ bool TExtended::Parse(std::string_view Spelling, TExtended& Value)
         Quotient = Quotient << 1 | NextBit(Numerator, Denominator);
     const bool Half = NextBit(Numerator, Denominator) != 0;
     if (Half && (!Numerator.IsZero() || (Quotient & 1) != 0) && ++Quotient == 0) {
-        Quotient = std::uint64_t{1} << 63;
+        Quotient = IntegerBit;
         Scale++;
     }
     const int Exponent = Quotient >> 63 != 0 ? Scale + 63 + Bias : 0;

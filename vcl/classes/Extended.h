@@ -28,7 +28,7 @@ struct TExtended {
     static TExtended Load(const char* Bytes);
     void Store(char* Bytes) const;
 
-    // Exact. Value must be finite.
+    // Exact. An infinity or not-a-number stays one.
     static TExtended FromDouble(double Value);
     // The nearest double, ties to even; infinite when the number is too large, zero when it is too small.
     // An infinity or not-a-number stays one.

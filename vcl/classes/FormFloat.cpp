@@ -63,14 +63,14 @@ void AppendScientific(std::string& Output, const TDecimal& Decimal)
     Output.append(std::to_string(Decimal.Point - 1));
 }
 
-// The shorter-looking of the two: fixed from 0.00001 up to the precision.
+// The shorter-looking of the two: fixed from 0.0001 up to the precision.
 void AppendGeneral(std::string& Output, const TDecimal& Decimal)
 {
     if (Decimal.Count == 0) {
         Output.append(Decimal.Negative ? "-0.0" : "0"); // "-0" would be the integer zero
         return;
     }
-    const bool Fixed = Decimal.Point <= GeneralPrecision && Decimal.Point >= -4;
+    const bool Fixed = Decimal.Point <= GeneralPrecision && Decimal.Point >= -3;
     if (Fixed && Decimal.Count - Decimal.Point < Decimals)
         AppendFixed(Output, Decimal, 0);
     else

@@ -45,10 +45,11 @@ bool IsNumber(std::string_view Name)
 // One step of nesting, in depth and in indentation.
 class TFormPrinter::TLevel {
 public:
-    explicit TLevel(TFormPrinter& APrinter) : FPrinter(APrinter)
+    // Start is the place of the object or value.
+    TLevel(TFormPrinter& APrinter, std::size_t Start) : FPrinter(APrinter)
     {
         if (FPrinter.FDepth == MaxFormDepth)
-            FPrinter.FInput.Fail("The form is nested too deeply");
+            FPrinter.FInput.FailAt("The form is nested too deeply", Start);
         FPrinter.FDepth++;
         FPrinter.FIndent += IndentStep;
     }
@@ -82,6 +83,7 @@ void TFormPrinter::Run()
 
 void TFormPrinter::Object()
 {
+    const std::size_t Start = FInput.Position();
     const TFormPrefix Prefix = FInput.ReadPrefix();
     const std::string_view ClassName = ReadIdentifier();
     const bool Named = FInput.PeekByte() != 0;
@@ -98,7 +100,7 @@ void TFormPrinter::Object()
     if ((Prefix.Flags & FilerFlagChildPos) != 0)
         Index(Prefix.ChildPos);
     {
-        const TLevel Level(*this);
+        const TLevel Level(*this, Start);
         Properties();
         for (; FInput.PeekByte() != 0;) {
             NewLine();
@@ -249,7 +251,7 @@ void TFormPrinter::List()
 {
     FOutput.push_back('(');
     {
-        const TLevel Level(*this);
+        const TLevel Level(*this, FInput.Position() - 1);
         while (FInput.PeekType() != vaNull) {
             NewLine();
             Value();
@@ -263,7 +265,7 @@ void TFormPrinter::Collection()
 {
     FOutput.push_back('<');
     {
-        const TLevel Level(*this);
+        const TLevel Level(*this, FInput.Position() - 1);
         while (FInput.PeekType() != vaNull) {
             NewLine();
             FOutput.append("item");
