@@ -91,7 +91,8 @@ TControl::TControl(TComponent* AOwner) : TComponent(AOwner)
 
 TControl::~TControl()
 {
-    SetParent(nullptr);
+    // Only after a constructor that threw; otherwise BeforeDestruction has done it.
+    TControl::SetParent(nullptr);
     TMouse::Forget(this);
 }
 
@@ -100,6 +101,7 @@ void TControl::BeforeDestruction()
     TDragManager::Forget(this);
     TMouse::Forget(this);
     inherited::BeforeDestruction();
+    SetParent(nullptr);
 }
 
 // ---- family

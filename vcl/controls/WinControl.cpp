@@ -10,8 +10,10 @@ TWinControl::TWinControl(TComponent* AOwner) : TControl(AOwner)
 
 TWinControl::~TWinControl()
 {
+    // Only after a constructor that threw; otherwise BeforeDestruction has done it.
     while (GetControlCount() > 0)
         RemoveControl(GetControls(GetControlCount() - 1));
+    TControl::SetParent(nullptr);
     if (FHandle)
         DestroyWindowHandle();
 }
@@ -20,15 +22,11 @@ void TWinControl::BeforeDestruction()
 {
     if (TFormLink* Form = ParentFormLink())
         Form->DefocusControl(this, true);
+    // Children go with their parent, whoever owns them.
+    while (GetControlCount() > 0)
+        delete GetControls(GetControlCount() - 1);
     inherited::BeforeDestruction();
-    // Children of other owners go too.
-    while (GetControlCount() > 0) {
-        TControl* Child = GetControls(GetControlCount() - 1);
-        RemoveControl(Child);
-        delete Child;
-    }
-    if (FHandle)
-        DestroyHandle();
+    DestroyHandle();
 }
 
 AnsiString TWinControl::GetText() const

@@ -1,0 +1,211 @@
+#include "tests/controls/TestWindow.h"
+
+using TreeTest = ControlsTest;
+
+TEST_F(TreeTest, WindowlessControlsComeFirstInTheList)
+{
+    auto* Box = Add<TBox>(&Window, 0, 0, 10, 10);
+    auto* Probe = Add<TProbe>(&Window, 0, 0, 10, 10);
+    ASSERT_EQ(Window.ControlCount, 2);
+    EXPECT_EQ(Window.Controls[0], Probe);
+    EXPECT_EQ(Window.Controls[1], Box);
+    EXPECT_THROW((void)Window.Controls[2], EListError);
+    EXPECT_THROW((void)Window.Controls[-1], EListError);
+}
+
+TEST_F(TreeTest, AControlCannotLieInItself)
+{
+    auto* Outer = Add<TBox>(&Window, 0, 0, 50, 50);
+    auto* Inner = Add<TBox>(Outer, 0, 0, 20, 20);
+    EXPECT_THROW(Outer->Parent = Inner, EInvalidOperation);
+    EXPECT_THROW(Outer->Parent = Outer, EInvalidOperation);
+    EXPECT_EQ(Outer->Parent, &Window);
+}
+
+TEST_F(TreeTest, DeletingAParentDeletesChildrenOfOtherOwners)
+{
+    auto* Box = Add<TBox>(&Window, 0, 0, 50, 50);
+    int64_t Before = LiveObjectCount();
+    auto* Child = new TProbe(nullptr);
+    Child->Parent = Box;
+    EXPECT_GT(LiveObjectCount(), Before);
+    delete Box;
+    EXPECT_LE(LiveObjectCount(), Before);
+    EXPECT_EQ(Window.ControlCount, 0);
+}
+
+TEST_F(TreeTest, FontAndColourFollowTheParentUntilSet)
+{
+    auto* Box = Add<TBox>(&Window, 0, 0, 50, 50);
+    auto* Probe = Add<TProbe>(Box, 0, 0, 10, 10);
+    Window.Font->Size = 14;
+    Window.Color = clRed;
+    EXPECT_EQ(Probe->Font->Size, 14);
+    EXPECT_EQ(Probe->Color, clRed);
+    EXPECT_TRUE(Probe->ParentFont);
+    Box->Font->Size = 20;
+    EXPECT_FALSE(Box->ParentFont);
+    Probe->Color = clBlue;
+    EXPECT_FALSE(Probe->ParentColor);
+    Window.Font->Size = 8;
+    Window.Color = clLime;
+    EXPECT_EQ(Probe->Font->Size, 20);
+    EXPECT_EQ(Probe->Color, clBlue);
+    Probe->ParentColor = true;
+    EXPECT_EQ(Probe->Color, clLime);
+}
+
+TEST_F(TreeTest, WindowsAreCreatedWhenShownAndOnlyThen)
+{
+    auto* Box = Add<TBox>(&Window, 10, 20, 50, 50);
+    auto* Hidden = Add<TBox>(&Window, 0, 0, 50, 50);
+    Hidden->Visible = false;
+    EXPECT_FALSE(Box->HandleAllocated());
+    Window.Open();
+    EXPECT_TRUE(Box->HandleAllocated());
+    EXPECT_TRUE(Box->Showing);
+    EXPECT_FALSE(Hidden->HandleAllocated());
+    EXPECT_EQ(FindControl(Box->Handle), Box);
+    EXPECT_EQ(GetParent(Box->Handle), Window.Handle);
+    Hidden->Visible = true;
+    EXPECT_TRUE(IsWindowVisible(Hidden->Handle));
+    EXPECT_EQ(FindControl(GetDesktopWindow()), nullptr);
+    EXPECT_EQ(FindControl(nullptr), nullptr);
+}
+
+TEST_F(TreeTest, RecreatingAWindowKeepsTextPlaceAndChildren)
+{
+    auto* Box = Add<TBox>(&Window, 10, 20, 50, 50);
+    auto* Inner = Add<TBox>(Box, 1, 2, 10, 10);
+    Box->Caption = "Отмена";
+    Window.Open();
+    HWND Before = Box->Handle;
+    Box->RecreateWnd();
+    EXPECT_NE(Box->Handle, Before);
+    EXPECT_EQ(Box->Created, 2);
+    EXPECT_EQ(Box->Caption, "Отмена");
+    EXPECT_EQ(Box->BoundsRect, TRect(10, 20, 60, 70));
+    EXPECT_TRUE(Inner->HandleAllocated());
+    EXPECT_EQ(GetParent(Inner->Handle), Box->Handle);
+    EXPECT_TRUE(IsWindowVisible(Inner->Handle));
+}
+
+TEST_F(TreeTest, TheWindowsCaptionIsInUnicode)
+{
+    auto* Box = Add<TBox>(&Window, 0, 0, 50, 50);
+    Window.Open();
+    Box->Caption = "日本 Отмена 🙂";
+    wchar_t Text[64];
+    GetWindowTextW(Box->Handle, Text, 64);
+    EXPECT_EQ(std::wstring(Text), L"日本 Отмена 🙂");
+    EXPECT_EQ(Box->Caption, "日本 Отмена 🙂");
+}
+
+TEST_F(TreeTest, LaterSiblingsLieOnTopWhateverTheOrderOfTheirWindows)
+{
+    auto* Low = Add<TBox>(&Window, 0, 0, 50, 50);
+    auto* High = Add<TBox>(&Window, 0, 0, 50, 50);
+    Low->Visible = false;
+    Window.Open();
+    Low->Visible = true; // its window is created last
+    EXPECT_EQ(GetTopWindow(Window.Handle), High->Handle);
+    Low->BringToFront();
+    EXPECT_EQ(GetTopWindow(Window.Handle), Low->Handle);
+    EXPECT_EQ(Window.Controls[1], Low);
+    Low->SendToBack();
+    EXPECT_EQ(GetTopWindow(Window.Handle), High->Handle);
+}
+
+TEST_F(TreeTest, WindowProcCanBeHookedAndUnhookedInAnyOrderWithTheWindowRecreated)
+{
+    auto* Box = Add<TBox>(&Window, 0, 0, 50, 50);
+    Window.Open();
+    int Seen = 0;
+    TWndMethod Before = Box->WindowProc;
+    Box->WindowProc = [&Seen, Before](TMessage& Message) {
+        Seen += Message.Msg == WM_USER + 1;
+        Before(Message);
+    };
+    SendMessageW(Box->Handle, WM_USER + 1, 0, 0);
+    Box->RecreateWnd();
+    SendMessageW(Box->Handle, WM_USER + 1, 0, 0);
+    Box->Perform(WM_USER + 1);
+    EXPECT_EQ(Seen, 3);
+    Box->WindowProc = Before;
+    Box->Perform(WM_USER + 1);
+    EXPECT_EQ(Seen, 3);
+}
+
+TEST_F(TreeTest, TabOrderFollowsItsNumbers)
+{
+    auto* A = Add<TBox>(&Window, 0, 0, 10, 10);
+    auto* B = Add<TBox>(&Window, 0, 0, 10, 10);
+    auto* C = Add<TBox>(&Window, 0, 0, 10, 10);
+    EXPECT_EQ(A->TabOrder, 0);
+    EXPECT_EQ(C->TabOrder, 2);
+    C->TabOrder = 0;
+    EXPECT_EQ(A->TabOrder, 1);
+    EXPECT_EQ(B->TabOrder, 2);
+    A->TabOrder = 99;
+    EXPECT_EQ(A->TabOrder, 2);
+    A->TabOrder = -1;
+    EXPECT_EQ(A->TabOrder, 2);
+}
+
+TEST_F(TreeTest, FindNextControlGoesRoundAndSkipsWhatCannotHaveTheFocus)
+{
+    auto* A = Add<TBox>(&Window, 0, 0, 10, 10);
+    auto* B = Add<TBox>(&Window, 0, 0, 10, 10);
+    auto* Inner = Add<TBox>(B, 0, 0, 5, 5);
+    auto* C = Add<TBox>(&Window, 0, 0, 10, 10);
+    for (TBox* Box : {A, Inner, C})
+        Box->TabStop = true;
+    Window.Open();
+    EXPECT_EQ(Window.FindNextControl(A, true, true, false), Inner);
+    EXPECT_EQ(Window.FindNextControl(Inner, true, true, false), C);
+    EXPECT_EQ(Window.FindNextControl(C, true, true, false), A);
+    EXPECT_EQ(Window.FindNextControl(A, false, true, false), C);
+    EXPECT_EQ(Window.FindNextControl(nullptr, true, true, false), A);
+    C->Enabled = false;
+    EXPECT_EQ(Window.FindNextControl(A, false, true, false), Inner);
+    EXPECT_EQ(Window.FindNextControl(A, true, false, true), B);
+}
+
+TEST_F(TreeTest, AnExceptionInAHandlerGoesToTheHostAndTheWindowLivesOn)
+{
+    struct THost : TFormHost {
+        void HandleException(TObject* Object) override
+        {
+            Sender = Object;
+            try {
+                throw;
+            } catch (const Exception& E) {
+                Message = E.Message;
+            }
+        }
+        TObject* Sender = nullptr;
+        AnsiString Message;
+    } Host;
+    auto* Box = Add<TBox>(&Window, 0, 0, 50, 50);
+    Window.Open();
+    TFormHost* Before = TFormHost::Install(&Host);
+    Box->OnClick = [](TObject*) { throw EConvertError("broken"); };
+    SendMessageW(Box->Handle, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageW(Box->Handle, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    TFormHost::Install(Before);
+    EXPECT_EQ(Host.Sender, Box);
+    EXPECT_EQ(Host.Message, "broken");
+    EXPECT_TRUE(IsWindow(Box->Handle));
+}
+
+TEST_F(TreeTest, AcceleratorsAreTheLetterBehindASingleAmpersand)
+{
+    EXPECT_TRUE(IsAccel('o', "&Open"));
+    EXPECT_TRUE(IsAccel('O', "&Open"));
+    EXPECT_FALSE(IsAccel('p', "&Open"));
+    EXPECT_FALSE(IsAccel('o', "Open"));
+    EXPECT_TRUE(IsAccel('b', "R&&D &budget"));
+    EXPECT_FALSE(IsAccel('d', "R&&D"));
+    EXPECT_FALSE(IsAccel('&', "Last&"));
+    EXPECT_TRUE(IsAccel(0x043E, "&Отмена")); // small о for capital О
+}
