@@ -75,7 +75,7 @@ public:
     // ---- focus
 
     virtual bool CanFocus() const;
-    bool Focused() const;
+    virtual bool Focused() const;
     // Raises EInvalidOperation "Cannot focus a disabled or invisible window".
     virtual void SetFocus();
     bool GetTabStop() const { return FTabStop; }

@@ -253,7 +253,14 @@ bool TWinControl::ReflectNotification(TMessage& Message)
     case WM_DRAWITEM: Child = reinterpret_cast<DRAWITEMSTRUCT*>(Message.LParam)->hwndItem; break;
     case WM_COMPAREITEM: Child = reinterpret_cast<COMPAREITEMSTRUCT*>(Message.LParam)->hwndItem; break;
     case WM_DELETEITEM: Child = reinterpret_cast<DELETEITEMSTRUCT*>(Message.LParam)->hwndItem; break;
-    case WM_MEASUREITEM: return false; // names no window; the parent finds the control by its identifier
+    case WM_MEASUREITEM: {
+        // Names no window: controls that measure items have their handle as their identifier.
+        auto* Item = reinterpret_cast<MEASUREITEMSTRUCT*>(Message.LParam);
+        if (Item->CtlType == ODT_MENU)
+            return false;
+        Child = reinterpret_cast<HWND>(static_cast<intptr_t>(static_cast<int32_t>(Item->CtlID)));
+        break;
+    }
     case WM_PARENTNOTIFY:
         if (Message.WParamLo() != WM_CREATE && Message.WParamLo() != WM_DESTROY)
             return false;

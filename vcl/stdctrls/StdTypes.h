@@ -9,7 +9,7 @@ VCL_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, sc
 VCL_ENUM(TScrollStyle, ssNone, ssHorizontal, ssVertical, ssBoth);
 VCL_ENUM(TEditCharCase, ecNormal, ecUpperCase, ecLowerCase);
 VCL_ENUM(TCheckBoxState, cbUnchecked, cbChecked, cbGrayed);
-VCL_ENUM(TListBoxStyle, lbStandard, lbOwnerDrawFixed, lbOwnerDrawVariable, lbVirtual, lbVirtualOwnerDraw);
+VCL_ENUM(TListBoxStyle, lbStandard, lbOwnerDrawFixed, lbOwnerDrawVariable);
 VCL_ENUM(TComboBoxStyle, csDropDown, csSimple, csDropDownList, csOwnerDrawFixed, csOwnerDrawVariable);
 VCL_ENUM(TStaticBorderStyle, sbsNone, sbsSingle, sbsSunken);
 // A check mark stands on one side of its text: taLeftJustify or taRightJustify. taCenter counts as the latter.
@@ -21,6 +21,15 @@ constexpr unsigned DrawTextAlignment(TAlignment Alignment)
     constexpr unsigned Flags[] = {0 /* DT_LEFT */, 2 /* DT_RIGHT */, 1 /* DT_CENTER */};
     return Flags[Alignment];
 }
+
+// How an item is to be drawn, by the system's ODS_ numbers.
+VCL_ENUM(TOwnerDrawStateFlag, odSelected, odGrayed, odDisabled, odChecked, odFocused, odDefault, odHotLight, odInactive,
+         odNoAccel, odNoFocusRect, odReserved1, odReserved2, odComboBoxEdit);
+using TOwnerDrawState = Set<TOwnerDrawStateFlag>;
+// Index is -1 for what a list without items, or an empty combo box, shows.
+using TDrawItemEvent = TEvent<void(TWinControl* Control, int Index, const TRect& Rect, TOwnerDrawState State)>;
+// Height is the usual one, for the handler to change.
+using TMeasureItemEvent = TEvent<void(TWinControl* Control, int Index, int& Height)>;
 
 // A scroll bar's steps: 1 to 32767.
 using TScrollBarInc = int;
