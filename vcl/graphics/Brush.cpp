@@ -35,7 +35,7 @@ void TBrush::Assign(TPersistent* Source)
     bool Equal = FColor == Brush->FColor && FStyle == Brush->FStyle && !FAdopted && !Brush->FAdopted;
     if (Equal || Brush == this)
         return;
-    FShared = Brush->FShared;
+    TSharedBrush Old = std::exchange(FShared, Brush->FShared); // a canvas lets go of it in Changed
     FColor = Brush->FColor;
     FStyle = Brush->FStyle;
     FAdopted = Brush->FAdopted;
@@ -63,11 +63,19 @@ void TBrush::SetHandle(HBRUSH Value)
     else if (Found.lbStyle == BS_HOLLOW)
         Style = bsClear;
     bool HasColor = Found.lbStyle == BS_SOLID || Found.lbStyle == BS_HATCHED;
-    FShared = TSharedBrush::Adopt({Found.lbColor, Style}, Value);
+    TSharedBrush Old = std::exchange(FShared, TSharedBrush::Adopt({Found.lbColor, Style}, Value));
     FAdopted = true;
     FStyle = Style;
     if (HasColor)
         FColor = TColor(Found.lbColor);
+    Changed();
+}
+
+// A handle that came from outside stands for the old value. It is deleted after a canvas has let go of it.
+void TBrush::ChangedValue()
+{
+    TSharedBrush Old = FAdopted ? std::move(FShared) : TSharedBrush();
+    FAdopted = false;
     Changed();
 }
 
@@ -78,8 +86,7 @@ void TBrush::SetColor(TColor Value)
     FColor = Value;
     if (FStyle == bsClear)
         FStyle = bsSolid;
-    FAdopted = false;
-    Changed();
+    ChangedValue();
 }
 
 void TBrush::SetStyle(TBrushStyle Value)
@@ -87,8 +94,7 @@ void TBrush::SetStyle(TBrushStyle Value)
     if ((FStyle == Value && !FAdopted) || Value > bsDiagCross)
         return;
     FStyle = Value;
-    FAdopted = false;
-    Changed();
+    ChangedValue();
 }
 
 TBitmap* TBrush::GetBitmap() const
@@ -99,17 +105,16 @@ TBitmap* TBrush::GetBitmap() const
 void TBrush::SetBitmap(TBitmap* Value)
 {
     if (!Value || Value->GetEmpty()) {
-        if (!GetBitmap())
-            return;
-        FAdopted = false;
-    } else {
-        TBrushKey Key = {0, bsSolid, Value};
-        HBRUSH Pattern = TBrushKind::Create(Key);
-        if (!Pattern)
-            RaiseOutOfResources();
-        FShared = TSharedBrush::Adopt(Key, Pattern);
-        FAdopted = true;
-        FStyle = bsSolid;
+        if (GetBitmap())
+            ChangedValue();
+        return;
     }
+    TBrushKey Key = {0, bsSolid, Value};
+    HBRUSH Pattern = TBrushKind::Create(Key);
+    if (!Pattern)
+        RaiseOutOfResources();
+    TSharedBrush Old = std::exchange(FShared, TSharedBrush::Adopt(Key, Pattern));
+    FAdopted = true;
+    FStyle = bsSolid;
     Changed();
 }

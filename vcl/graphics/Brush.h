@@ -58,6 +58,8 @@ public:
     bool IsSolid() const { return FStyle == bsSolid && !GetBitmap(); }
 
 private:
+    void ChangedValue();
+
     mutable TSharedBrush FShared; // empty, or possibly of a system colour's former value
     TColor FColor = clWhite;
     TBrushStyle FStyle = bsSolid;

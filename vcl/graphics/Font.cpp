@@ -51,10 +51,10 @@ TFontKey MakeDefaultKey()
     return Key;
 }
 
-// Kept in use, so that making a font with default values only counts a reference.
+// Kept, so that making a font with default values only counts a reference.
 const TSharedFont& DefaultFont()
 {
-    static const TSharedFont& Font = *new TSharedFont(MakeDefaultKey());
+    static const TSharedFont& Font = *new TSharedFont(TSharedFont::Keep(MakeDefaultKey()));
     return Font;
 }
 
@@ -131,7 +131,7 @@ void TFont::Assign(TPersistent* Source)
     }
     if (FShared == Font->FShared && FColor == Font->FColor && FPixelsPerInch == Font->FPixelsPerInch)
         return;
-    FShared = Font->FShared;
+    TSharedFont Old = std::exchange(FShared, Font->FShared);
     FColor = Font->FColor;
     if (FPixelsPerInch != Font->FPixelsPerInch && Font->FPixelsPerInch != 0) {
         TFontKey Key = FShared.Key();
@@ -149,7 +149,8 @@ void TFont::Modify(Change&& Apply)
     Apply(Key);
     if (Key == FShared.Key())
         return;
-    FShared = TSharedFont(Key);
+    // What a canvas has selected is let go of in Changed.
+    TSharedFont Old = std::exchange(FShared, TSharedFont(Key));
     Changed();
 }
 
@@ -162,7 +163,7 @@ void TFont::SetHandle(HFONT Value)
     // What follows the name's terminating zero may be anything.
     PutFaceName(Key, Found.lfFaceName);
     std::memcpy(&Key, &Found, offsetof(LOGFONTW, lfFaceName));
-    FShared = TSharedFont::Adopt(Key, Value);
+    TSharedFont Old = std::exchange(FShared, TSharedFont::Adopt(Key, Value));
     Changed();
 }
 

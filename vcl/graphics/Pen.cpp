@@ -55,7 +55,7 @@ void TPen::Assign(TPersistent* Source)
                  !FAdopted && !Pen->FAdopted;
     if (Equal || Pen == this)
         return;
-    FShared = Pen->FShared;
+    TSharedPen Old = std::exchange(FShared, Pen->FShared); // a canvas lets go of it in Changed
     FColor = Pen->FColor;
     FWidth = Pen->FWidth;
     FStyle = Pen->FStyle;
@@ -79,11 +79,19 @@ void TPen::SetHandle(HPEN Value)
     TPenKey Found;
     if (GetHandle() == Value || !ReadPen(Value, Found))
         return;
-    FShared = TSharedPen::Adopt(Found, Value);
+    TSharedPen Old = std::exchange(FShared, TSharedPen::Adopt(Found, Value));
     FAdopted = true;
     FColor = TColor(Found.Color);
     FWidth = Found.Width;
     FStyle = Found.Style <= PS_INSIDEFRAME ? TPenStyle(Found.Style) : psSolid;
+    Changed();
+}
+
+// A handle that came from outside stands for the old value. It is deleted after a canvas has let go of it.
+void TPen::ChangedValue()
+{
+    TSharedPen Old = FAdopted ? std::move(FShared) : TSharedPen();
+    FAdopted = false;
     Changed();
 }
 
@@ -92,8 +100,7 @@ void TPen::SetColor(TColor Value)
     if (FColor == Value)
         return;
     FColor = Value;
-    FAdopted = false;
-    Changed();
+    ChangedValue();
 }
 
 void TPen::SetMode(TPenMode Value)
@@ -109,8 +116,7 @@ void TPen::SetStyle(TPenStyle Value)
     if (FStyle == Value || Value > psInsideFrame)
         return;
     FStyle = Value;
-    FAdopted = false;
-    Changed();
+    ChangedValue();
 }
 
 void TPen::SetWidth(int Value)
@@ -118,6 +124,5 @@ void TPen::SetWidth(int Value)
     if (FWidth == Value || Value < 0)
         return;
     FWidth = Value;
-    FAdopted = false;
-    Changed();
+    ChangedValue();
 }

@@ -56,6 +56,8 @@ public:
     PROPERTY(int, Width);
 
 private:
+    void ChangedValue();
+
     mutable TSharedPen FShared; // empty, or possibly of a system colour's former value
     TColor FColor = clBlack;
     int FWidth = 1;

@@ -27,6 +27,16 @@ public:
     }
     ~TSharedHandle() { Release(); }
 
+    // A value that is always at hand; does not count as in use.
+    static TSharedHandle Keep(const TKey& Key)
+    {
+        TSharedHandle Kept;
+        Kept.FEntry = Cache().Find(Key);
+        Kept.FEntry->Kept = 1;
+        Kept.FEntry->References++;
+        return Kept;
+    }
+
     // Owns a handle made elsewhere. Copies share it; nobody else does.
     static TSharedHandle Adopt(const TKey& Key, THandle Handle)
     {
@@ -61,6 +71,7 @@ private:
         TKey Key;
         THandle Handle = nullptr;
         uint32_t References = 0;
+        uint32_t Kept = 0; // of these, references that do not count
         bool Shared = false;
         TEntry* Newer = nullptr; // of the idle ones
         TEntry* Older = nullptr;
@@ -137,7 +148,7 @@ private:
 
     void AddRef() const
     {
-        if (!FEntry || ++FEntry->References > 1)
+        if (!FEntry || ++FEntry->References > 1 + FEntry->Kept)
             return;
         if (FEntry->Handle)
             CountLiveHandle(+1);
@@ -147,12 +158,13 @@ private:
 
     void Release()
     {
-        if (!FEntry || --FEntry->References > 0)
+        if (!FEntry || --FEntry->References > FEntry->Kept)
             return;
         if (FEntry->Handle)
             CountLiveHandle(-1);
         if (FEntry->Shared) {
-            Cache().Idle(FEntry);
+            if (!FEntry->Kept)
+                Cache().Idle(FEntry);
             return;
         }
         if (FEntry->Handle)
