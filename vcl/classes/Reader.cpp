@@ -220,9 +220,9 @@ TComponent* TReader::ReadRootComponent(TComponent* ARoot)
     ReadPrefix();
     std::string_view ClassName = FCursor.ReadName();
     std::string_view Name = FCursor.ReadName();
-    Descend();
+    Descend(Start);
     if (!ARoot) {
-        TClass Class = FindComponentClass(ClassName, Start);
+        TClass Class = FindComponentClass(ClassName);
         if (!Class)
             Class = UnknownClass(ClassName, Name, Start);
         if (!Class)
@@ -233,7 +233,7 @@ TComponent* TReader::ReadRootComponent(TComponent* ARoot)
     FLookupRoot = ARoot;
     FOwner = ARoot;
     if (!Name.empty())
-        NameRoot(ARoot, Name);
+        NameRoot(ARoot, Name, Start);
     Track(ARoot);
     ReadContents(ARoot);
     --FDepth;
@@ -273,12 +273,12 @@ TComponent* TReader::ReadObject(TComponent* Component)
     TFormPrefix Prefix = ReadPrefix();
     std::string_view ClassName = FCursor.ReadName();
     std::string_view Name = FCursor.ReadName();
-    Descend();
+    Descend(Start);
     if (!Component && (Prefix.Flags & FilerFlagInherited))
-        Component = FindInherited(Name, ClassName);
+        Component = FindInherited(Name, ClassName, Start);
     bool IsNew = !Component;
     if (IsNew) {
-        TClass Class = FindComponentClass(ClassName, Start);
+        TClass Class = FindComponentClass(ClassName);
         if (!Class)
             Class = UnknownClass(ClassName, Name, Start);
         if (!Class) {
@@ -289,7 +289,7 @@ TComponent* TReader::ReadObject(TComponent* Component)
         Component = CreateComponent(Class, Prefix);
         if (FParent)
             Component->SetParentComponent(FParent);
-        NameComponent(Component, Name);
+        NameComponent(Component, Name, Start);
     } else if (FParent && Component->HasParent() && Component->GetParentComponent() != FParent) {
         Component->SetParentComponent(FParent);
     }
@@ -301,13 +301,13 @@ TComponent* TReader::ReadObject(TComponent* Component)
     return Component;
 }
 
-TComponent* TReader::FindInherited(std::string_view Name, std::string_view ClassName)
+TComponent* TReader::FindInherited(std::string_view Name, std::string_view ClassName, size_t Start)
 {
     TComponent* Found = FLookupRoot ? FLookupRoot->FindComponent(Name) : nullptr;
     if (!Found && OnAncestorNotFound)
         OnAncestorNotFound(this, AnsiString(Name), GetClass(ClassName), Found);
     if (!Found)
-        throw EFormDataError("Ancestor for '" + AnsiString(Name) + "' not found", FCursor.Offset());
+        throw EFormDataError("Ancestor for '" + AnsiString(Name) + "' not found", FBase + Start);
     return Found;
 }
 
@@ -338,7 +338,7 @@ TComponent* TReader::CreateComponent(TClass Class, const TFormPrefix& Prefix)
     return Component;
 }
 
-void TReader::NameComponent(TComponent* Component, std::string_view Name)
+void TReader::NameComponent(TComponent* Component, std::string_view Name, size_t Start)
 {
     AnsiString NewName(Name);
     if (OnSetName)
@@ -346,15 +346,15 @@ void TReader::NameComponent(TComponent* Component, std::string_view Name)
     try {
         Component->SetName(NewName);
     } catch (const EComponentError& Error) {
-        throw EFormDataError(Error.Message, FCursor.Offset());
+        throw EFormDataError(Error.Message, FBase + Start);
     }
 }
 
 // Two forms of one class may be open at once; the second is Form1_1.
-void TReader::NameRoot(TComponent* ARoot, std::string_view Name)
+void TReader::NameRoot(TComponent* ARoot, std::string_view Name, size_t Start)
 {
     if (ARoot->IsDesigning()) {
-        NameComponent(ARoot, Name);
+        NameComponent(ARoot, Name, Start);
         return;
     }
     auto IsTaken = [ARoot](const AnsiString& Unique) {
@@ -365,10 +365,10 @@ void TReader::NameRoot(TComponent* ARoot, std::string_view Name)
     AnsiString Unique(Name);
     for (int I = 1; !Name.empty() && IsTaken(Unique); ++I)
         Unique = AnsiString(Name) + "_" + std::to_string(I);
-    NameComponent(ARoot, Unique);
+    NameComponent(ARoot, Unique, Start);
 }
 
-TClass TReader::FindComponentClass(std::string_view ClassName, size_t)
+TClass TReader::FindComponentClass(std::string_view ClassName)
 {
     if (FLastClass && SameIdent(FLastClass->ClassName(), ClassName) && !OnFindComponentClass)
         return FLastClass;
@@ -381,14 +381,14 @@ TClass TReader::FindComponentClass(std::string_view ClassName, size_t)
 }
 
 // Returns nullptr when the object is to be left out.
-TClass TReader::UnknownClass(std::string_view ClassName, std::string_view Name, size_t Position)
+TClass TReader::UnknownClass(std::string_view ClassName, std::string_view Name, size_t Start)
 {
     bool Skip = false;
     if (OnUnknownClass)
         OnUnknownClass(this, AnsiString(ClassName), AnsiString(Name), Skip);
     if (!Skip)
         throw EClassNotFound("Class " + AnsiString(ClassName) + " not found at offset " +
-                             std::to_string(FBase + Position));
+                             std::to_string(FBase + Start));
     return nullptr;
 }
 
@@ -418,10 +418,10 @@ void TReader::ReadData(TComponent* Component)
     ReadListEnd();
 }
 
-void TReader::Descend()
+void TReader::Descend(size_t Start)
 {
     if (++FDepth > MaxFormDepth)
-        FCursor.Fail("The objects are nested too deeply");
+        FCursor.FailAt("The objects are nested too deeply", Start);
 }
 
 void ReadRootComponent(TStream& Stream, TComponent* Root)

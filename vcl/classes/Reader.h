@@ -143,13 +143,14 @@ private:
     void Attach();
     void LeaveStream();
 
+    // Start is where the object or value begins, for messages.
     TComponent* ReadObject(TComponent* Component);
-    TComponent* FindInherited(std::string_view Name, std::string_view ClassName);
+    TComponent* FindInherited(std::string_view Name, std::string_view ClassName, size_t Start);
     TComponent* CreateComponent(TClass Class, const TFormPrefix& Prefix);
-    void NameComponent(TComponent* Component, std::string_view Name);
-    void NameRoot(TComponent* Root, std::string_view Name);
-    TClass FindComponentClass(std::string_view ClassName, size_t Position);
-    TClass UnknownClass(std::string_view ClassName, std::string_view Name, size_t Position);
+    void NameComponent(TComponent* Component, std::string_view Name, size_t Start);
+    void NameRoot(TComponent* ARoot, std::string_view Name, size_t Start);
+    TClass FindComponentClass(std::string_view ClassName);
+    TClass UnknownClass(std::string_view ClassName, std::string_view Name, size_t Start);
     void ReadContents(TComponent* Component);
 
     void ReadProperties(TPersistent* Instance);
@@ -172,7 +173,7 @@ private:
     void SkipProperties();
     void SkipList();
     void MoveTo(size_t Position);
-    void Descend();
+    void Descend(size_t Start);
     // For the value whose type has just been read.
     [[noreturn]] void FailValue() const;
 

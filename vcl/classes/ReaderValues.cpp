@@ -168,7 +168,7 @@ void TReader::ReadCollection(TCollection* Collection)
     Collection->BeginUpdate();
     TUpdate Update{Collection};
     AnsiString PropName = FPropName;
-    Descend();
+    Descend(FCursor.Position());
     Collection->Clear();
     while (!EndOfList()) {
         // A place, which says no more than the order does.
@@ -219,7 +219,7 @@ void TReader::SkipValue()
         }
         return;
     case vaCollection:
-        Descend();
+        Descend(FCursor.Position());
         while (!EndOfList()) {
             if (TFormCursor::IsInteger(NextValue()))
                 ReadInt64();
@@ -234,7 +234,7 @@ void TReader::SkipValue()
 
 void TReader::SkipList()
 {
-    Descend();
+    Descend(FCursor.Position());
     while (!EndOfList())
         SkipValue();
     ReadListEnd();
@@ -254,7 +254,7 @@ void TReader::SkipProperties()
 void TReader::SkipObject()
 {
     SkipProperties();
-    Descend();
+    Descend(FCursor.Position());
     while (!EndOfList()) {
         ReadPrefix();
         FCursor.ReadName();
