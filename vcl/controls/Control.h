@@ -21,6 +21,7 @@ public:
     explicit TControl(TComponent* AOwner);
     ~TControl() override;
     void BeforeDestruction() override;
+    void SetName(const AnsiString& Value) override;
 
     // ---- place
 
@@ -233,7 +234,6 @@ protected:
     void Loaded() override;
     void Notification(TComponent* Component, TOperation Operation) override;
     void ReadState(TReader& Reader) override;
-    void SetName(const AnsiString& Value) override;
     virtual void VisibleChanging() {}
     // Asks the parent to lay its children out again, if this control takes part.
     void RequestAlign();
