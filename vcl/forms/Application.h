@@ -67,7 +67,7 @@ public:
     void ProcessMessages();
     // Handles one message; waits for it when there is none.
     void HandleMessage();
-    // As when the program has nothing to do: OnIdle, then waits for a message.
+    // What the program does when it has nothing to do: OnIdle, then it waits for a message.
     void DoApplicationIdle();
 
     // ---- exceptions
@@ -81,6 +81,7 @@ public:
     // The hidden window that owns the forms other than the main form.
     HWND GetHandle();
     PROPERTY_READ(HWND, Handle);
+    bool HandleAllocated() const { return FHandle != nullptr; }
     TForm* GetMainForm() const { return FMainForm; }
     PROPERTY_READ(TForm*, MainForm);
     // False: Run does not show the main form.
@@ -105,7 +106,7 @@ public:
     // Texts are UTF-8; Flags are MB_ constants, the result is an ID constant. The program's windows are disabled while
     // the box is open.
     int MessageBox(std::string_view Text, std::string_view Caption, unsigned Flags = MB_OK);
-    // Moves on to the next control, as when a control deals with a modal loop of its own.
+    // Around every modal loop, for OnModalBegin and OnModalEnd.
     void ModalStarted();
     void ModalFinished();
 
@@ -128,6 +129,8 @@ public:
     int HintPause = 500;
     int HintShortPause = 50;
     int HintHidePause = 2500;
+    // The class of hint windows: THintWindow when nullptr, or a descendant.
+    TClass HintWindowClass = nullptr;
     // The hint of the control at a screen position, at once.
     void ActivateHint(const TPoint& CursorPos);
     void CancelHint();
@@ -170,10 +173,11 @@ private:
     bool ProcessMessage();
     void Dispatch(MSG& Msg);
     bool IsKeyMessage(MSG& Msg);
-    void Idle();
+    bool IsShortCut(TWinControl* Control, TWMKey& Message);
     void WndProc(TMessage& Message);
     bool CallHooks(TMessage& Message);
     void ActivateApp(bool Active);
+    void MainFormResized(bool Minimized);
     // Form is to be deleted when the handlers that run now are done.
     void ReleaseLater(TCustomForm* Form);
     void FreeReleased(int Level);

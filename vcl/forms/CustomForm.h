@@ -11,10 +11,9 @@
 #include "vcl/forms/FormTypes.h"
 #include "vcl/forms/ScrollingWinControl.h"
 #include "vcl/graphics/Icon.h"
+#include "vcl/menus/MainMenu.h"
 
 class TBitmap;
-class TMainMenu;
-class TMenuItem;
 
 class TCustomForm : public TScrollingWinControl, public TFormLink {
     VCL_CLASS(TCustomForm, TScrollingWinControl)
@@ -28,8 +27,8 @@ public:
 
     // ---- showing and closing
 
+    // Visible and in front of the other forms.
     void Show();
-    void Hide() { Visible = false; }
     // Shows the form and returns when ModalResult is set or the form is closed; the program's other windows are
     // disabled for so long. Raises EInvalidOperation "Cannot make a visible window modal".
     virtual TModalResult ShowModal();
@@ -41,12 +40,14 @@ public:
     virtual bool CloseQuery();
     // Deletes the form once the event handlers that are running now have returned, nested message loops or not.
     void Release();
+    // While the form is read, the change waits until OnCreate has been.
     void SetVisible(bool Value) override;
-    void BringToFront();
+    // Raises EInvalidOperation "Cannot focus a disabled or invisible window".
     void SetFocus() override;
 
     // ---- the form's window
 
+    // Can be changed while the form shows, as can BorderStyle and FormStyle.
     TBorderIcons GetBorderIcons() const { return FBorderIcons; }
     void SetBorderIcons(TBorderIcons Value);
     PROPERTY(TBorderIcons, BorderIcons);
@@ -63,6 +64,7 @@ public:
     TWindowState GetWindowState() const { return FWindowState; }
     void SetWindowState(TWindowState Value);
     PROPERTY(TWindowState, WindowState);
+    // Where the form first shows.
     TPosition GetPosition() const { return FPosition; }
     void SetPosition(TPosition Value);
     PROPERTY(TPosition, Position);
@@ -70,6 +72,7 @@ public:
     bool GetAlphaBlend() const { return FAlphaBlend; }
     void SetAlphaBlend(bool Value);
     PROPERTY(bool, AlphaBlend);
+    // 0 is invisible, 255 opaque.
     uint8_t GetAlphaBlendValue() const { return FAlphaBlendValue; }
     void SetAlphaBlendValue(uint8_t Value);
     PROPERTY(uint8_t, AlphaBlendValue);
@@ -84,20 +87,21 @@ public:
     TIcon* GetIcon() { return &FIcon; }
     void SetIcon(TIcon* Value) { FIcon.Assign(Value); }
     PROPERTY(TIcon*, Icon);
+    // Shown unless BorderStyle is bsDialog or bsNone or the form lies in another.
     TMainMenu* GetMenu() const { return FMenu; }
     void SetMenu(TMainMenu* Value);
     PROPERTY(TMainMenu*, Menu);
-    // The size without the frame. Before there is a window the frame is computed.
+    // Without the frame, which is computed while there is no window.
     TRect GetClientRect() const override;
-    void SetBounds(int ALeft, int ATop, int AWidth, int AHeight) override;
 
     // ---- controls on the form
 
     // The control that has the focus when the form is active. Setting it to one that is disabled or invisible raises
     // EInvalidOperation "Cannot focus a disabled or invisible window".
     TWinControl* GetActiveControl() const override { return FFocus.Active(); }
-    void SetActiveControl(TWinControl* Control) override;
+    void SetActiveControl(TWinControl* Control) override { FFocus.SetActive(Control); }
     PROPERTY(TWinControl*, ActiveControl);
+    // The form's window, or one inside, has the keyboard.
     bool GetActive() const;
     PROPERTY_READ(bool, Active);
     // Keys go to the form's key events before the control's.
@@ -109,7 +113,7 @@ public:
     void FocusControl(TWinControl* Control) override;
     bool IsDesignMessage(TControl* Sender, TMessage& Message) override;
     bool WantKey(TWinControl* Sender, TMessage& Message) override;
-    // True when a shortcut of the form, its menus or the application is used up.
+    // True when OnShortCut or an item of the form's menu has used the key up.
     virtual bool IsShortCut(TWMKey& Message);
 
     TDesignerHook* GetDesigner() const { return FDesigner; }
@@ -125,19 +129,23 @@ public:
     TBitmap* GetFormImage();
     TFormState GetFormState() const { return FFormState; }
     PROPERTY_READ(TFormState, FormState);
-    // How forms that keep old orders raise OnCreate. Kept only.
-    bool OldCreateOrder = false;
     AnsiString HelpFile;
     int PixelsPerInch;
     bool Scaled = true;
-    TPrintScale PrintScale = poProportional;
-    bool ScreenSnap = false;
-    int SnapBuffer = 10;
+
+    // Kept for form files; nothing depends on them yet.
+    bool OldCreateOrder = false;
     bool UseDockManager = false;
     bool DockSite = false;
-    // The items that MDI child windows and embedded objects add to; kept for these.
-    TMenuItem* WindowMenu = nullptr;
-    TMenuItem* ObjectMenuItem = nullptr;
+    bool ScreenSnap = false;
+    int SnapBuffer = 10;
+    TPrintScale PrintScale = poProportional;
+    TMenuItem* GetWindowMenu() const { return FWindowMenu; }
+    void SetWindowMenu(TMenuItem* Value);
+    PROPERTY(TMenuItem*, WindowMenu);
+    TMenuItem* GetObjectMenuItem() const { return FObjectMenuItem; }
+    void SetObjectMenuItem(TMenuItem* Value);
+    PROPERTY(TMenuItem*, ObjectMenuItem);
 
     TNotifyEvent OnActivate;
     TCloseEvent OnClose;
@@ -167,81 +175,76 @@ protected:
     void CreateParams(TCreateParams& Params) override;
     void CreateWnd() override;
     void DestroyWnd() override;
-    void WndProc(TMessage& Message) override;
-    void DefaultHandler(TMessage& Message) override;
     void PaintWindow(HDC DC) override;
     bool PaintsItself() const override { return true; }
-    void AdjustClientRect(TRect& Rect) const override;
+    void ReadState(TReader& Reader) override;
     void Loaded() override;
     void Notification(TComponent* Component, TOperation Operation) override;
     void ValidateRename(TComponent* Component, std::string_view CurName, std::string_view NewName) override;
-    TComponent* GetChildOwner() const override { return nullptr; }
 
 private:
     friend class TApplication;
-    friend class TFormFocus;
-    friend class TFormWindow;
     friend void LoadForm(TCustomForm* Form);
 
     void WMActivate(TMessage& Message);
     void WMClose(TMessage& Message);
     void WMCommand(TWMCommand& Message);
     void WMGetMinMaxInfo(TMessage& Message);
+    void WMHelp(TMessage& Message);
     void WMInitMenuPopup(TMessage& Message);
     void WMMenuSelect(TMessage& Message);
-    void WMNCCreate(TMessage& Message);
     void WMNCCalcSize(TMessage& Message);
     void WMNCPaint(TMessage& Message);
     void WMQueryEndSession(TMessage& Message);
-    void WMShowWindow(TMessage& Message);
+    void WMSetCursor(TMessage& Message);
     void WMSize(TWMSize& Message);
-    void WMSysCommand(TMessage& Message);
     void CMActivate(TMessage& Message);
     void CMDeactivate(TMessage& Message);
-    void CMColorChanged(TMessage& Message);
-    void CMCtl3DChanged(TMessage& Message);
     void CMDialogKey(TCMDialogKey& Message);
-    void CMFontChanged(TMessage& Message);
     void CMIconChanged(TMessage& Message);
-    void CMMenuChanged(TMessage& Message);
-    void CMRelease(TMessage& Message);
     void CMShowingChanged(TMessage& Message);
-    void CMTextChanged(TMessage& Message);
 
-    void BeginModal();
+    void FinishCreation();
     void CloseModal();
-    void EndCreation();
+    TModalResult RunModal(HWND Above);
     void ShowWindowNow();
     void HideWindowNow();
+    void ActivateNext();
+    void PlaceForShowing();
+    TRect StartMonitor() const;
+    void UpdateFrame();
     void UpdateMenu();
     void UpdateLayer();
-    void ApplyPosition();
-    HICON IconHandle();
+    void UpdateIcon();
+    bool ShowsMenu() const;
+    void ReplaceReference(TComponent* Before, TComponent* After);
     void IconChanged(TObject* Sender);
     int TextHeight();
-    void ReadIgnored(TReader* Reader);
     void ReadTextHeight(TReader* Reader);
     void WriteTextHeight(TWriter* Writer);
-    void ReadPixelsPerInch(TReader* Reader);
     void WritePixelsPerInch(TWriter* Writer);
+    void ReadIgnoreFont(TReader* Reader);
 
-    int GetFormClientWidth() const { return GetClientWidth(); }
-    int GetFormClientHeight() const { return GetClientHeight(); }
+    void SetReadClientWidth(int Value);
+    void SetReadClientHeight(int Value);
+    void ApplyReadClientSize();
     bool IsAutoScrollStored() const;
-    bool IsClientSizeStored() const { return !IsFormSizeStored(); }
     bool IsFormSizeStored() const;
-    bool IsFormColorStored() const { return Color != clBtnFace; }
-    bool IsIconStored() const;
+    bool IsClientSizeStored() const { return !IsFormSizeStored(); }
+    bool IsIconStored() const { return !FIcon.Empty; }
 
     TControlCanvas FCanvas;
     TFormFocus FFocus;
     TIcon FIcon;
     TMainMenu* FMenu = nullptr;
+    TMenuItem* FWindowMenu = nullptr;
+    TMenuItem* FObjectMenuItem = nullptr;
     TDesignerHook* FDesigner = nullptr;
     TFormState FFormState;
     TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
+    TPoint FReadClientSize{-1, -1}; // as the form file says; -1: it does not
+    int FReadTextHeight = 0;        // 0: not read
     int FBorderWidth = 0;
-    int FTextHeight = 0; // as read; 0: not read
     TColor FTransparentColorValue = clBlack;
     TFormBorderStyle FBorderStyle = bsSizeable;
     TFormStyle FFormStyle = fsNormal;
@@ -250,6 +253,7 @@ private:
     uint8_t FAlphaBlendValue = 255;
     bool FAlphaBlend = false;
     bool FTransparentColor = false;
+    bool FPlaced = false; // has shown where Position says
 };
 
 // The form that Control stands on: the outermost one, or with TopForm false the innermost. nullptr when there is none.

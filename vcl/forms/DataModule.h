@@ -16,10 +16,10 @@ public:
     bool OldCreateOrder = false;
 
     // The place and size of the module's window in the designer, in pixels.
-    int DesignLeft = 0;
-    int DesignTop = 0;
-    int DesignWidth = 0;
-    int DesignHeight = 0;
+    int HorizontalOffset = 0;
+    int VerticalOffset = 0;
+    int Height = 0;
+    int Width = 0;
 
     TNotifyEvent OnCreate;
     TNotifyEvent OnDestroy;

@@ -2,15 +2,18 @@
 #pragma once
 
 #include "vcl/controls/ControlTypes.h"
+#include "vcl/system/WindowsApi.h"
 
+class TComponent;
 class TCustomForm;
 
 class TFormFocus {
 public:
     explicit TFormFocus(TCustomForm* Form) : FForm(Form) {}
 
-    // The active control; nullptr when it is the form itself.
+    // The control that has the focus when the form is active; nullptr when that is the form itself.
     TWinControl* Active() const { return FActive; }
+    // Raises EInvalidOperation when Control cannot be it.
     void SetActive(TWinControl* Control);
     // A control of the form has the focus now: CM_EXIT and CM_ENTER go to what is left and entered, CM_FOCUSCHANGED to
     // the whole form. False when a handler has moved the focus on.
@@ -20,17 +23,17 @@ public:
     void SetWindowFocus();
     // The first control in tab order becomes active, if none is.
     void SelectFirst();
-    // Component is going away.
-    void Forget(const TComponent* Component);
-    // The application has another active form now: the focus stays remembered, but the controls are told of the exit
-    // only when another one of this form is entered.
-    TWinControl* Focused() const { return FFocused; }
+    // Control is going away.
+    void Forget(const TComponent* Control);
 
 private:
-    bool LeaveUpTo(TWinControl* Control);
+    bool ActivateForm();
+    bool LeaveFor(TWinControl* Control);
     bool EnterDownTo(TWinControl* Control);
+    bool StillOn(HWND Focus, const TWinControl* Control) const;
 
     TCustomForm* FForm;
-    TWinControl* FActive = nullptr;  // what will have the focus when the form is active
+    TWinControl* FActive = nullptr;
     TWinControl* FFocused = nullptr; // the last one that was told CM_ENTER
+    TWinControl* FTarget = nullptr;  // the one that is getting the focus now
 };

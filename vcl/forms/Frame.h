@@ -16,7 +16,7 @@ protected:
     void CreateParams(TCreateParams& Params) override;
 
 private:
-    void ReadIgnored(TReader* Reader);
+    void ReadDesignPixels(TReader* Reader);
 };
 
 // A descendant's constructor ends with LoadForm(this).

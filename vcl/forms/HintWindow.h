@@ -15,7 +15,7 @@ public:
     virtual void ActivateHintData(const TRect& R, const AnsiString& Hint, void* Data);
     // Takes the window off the screen.
     void ReleaseHandle() { DestroyHandle(); }
-    bool IsShowing() const { return HandleAllocated() && IsWindowVisible(const_cast<THintWindow*>(this)->GetHandle()); }
+    bool IsShowing();
 
 protected:
     void CreateParams(TCreateParams& Params) override;

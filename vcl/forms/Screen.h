@@ -51,8 +51,8 @@ public:
     void SetCursor(TCursor Value);
     PROPERTY(TCursor, Cursor);
     // A slot's cursor; the arrow for a slot that nobody set, nullptr for crNone. A cursor that is set is the screen's
-    // from then on, and is destroyed with it or when another takes its place. Slots up to 0 are the system's: setting
-    // one raises EInvalidOperation, and the caller keeps the cursor.
+    // from then on, and is destroyed with it or when another takes its place; nullptr brings the slot's own back. Slots
+    // above 0 are the application's; setting one of the system's replaces that.
     HCURSOR GetCursors(int Index) const;
     void SetCursors(int Index, HCURSOR Value);
     PROPERTY_INDEXED(HCURSOR, Cursors);
@@ -73,7 +73,7 @@ public:
 
     // ---- forms
 
-    // nullptr when the program is not active or its active window is no form.
+    // The form that has the keyboard, or will have it when the program is active again; nullptr when that is no form.
     TForm* GetActiveForm() const;
     TCustomForm* GetActiveCustomForm() const { return FActiveCustomForm; }
     TWinControl* GetActiveControl() const { return FActiveControl; }
@@ -94,7 +94,7 @@ public:
     PROPERTY_READ(int, DataModuleCount);
     PROPERTY_INDEXED_READ(TDataModule*, DataModules);
     // Forms between these two lay nothing out.
-    void DisableAlign() { ++FAlignLevel; }
+    void DisableAlign();
     void EnableAlign();
     void Realign();
 
@@ -102,7 +102,7 @@ public:
     TNotifyEvent OnActiveFormChange;
 
 private:
-    friend class TApplication;
+    friend class TApplicationHost;
     friend class TCustomForm;
     friend class TDataModule;
     friend class TFormFocus;
@@ -110,6 +110,7 @@ private:
     void AddForm(TCustomForm* Form);
     void RemoveForm(TCustomForm* Form);
     void SetActive(TCustomForm* Form, TWinControl* Control);
+    void Forget(const TComponent* Control);
     void ReportActive();
 
     std::vector<TCustomForm*> FCustomForms;

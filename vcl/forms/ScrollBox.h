@@ -18,7 +18,6 @@ protected:
 
 private:
     void CMCtl3DChanged(TMessage& Message);
-    void WMNCHitTest(TMessage& Message);
 
     TBorderStyle FBorderStyle = bsSingle;
 };

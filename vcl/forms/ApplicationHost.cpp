@@ -1,0 +1,58 @@
+#include "vcl/forms/ApplicationHost.h"
+
+#include "vcl/forms/Application.h"
+#include "vcl/forms/HintController.h"
+#include "vcl/forms/Screen.h"
+#include "vcl/menus/UtilityWindow.h"
+
+namespace {
+
+TExceptionReport DefaultReport = nullptr;
+
+void ReportToApplication(TObject* Sender)
+{
+    Application->HandleException(Sender);
+}
+
+} // namespace
+
+TApplicationHost::TApplicationHost(TApplication& Application)
+    : FApplication(Application),
+      FBefore(TFormHost::Install(this))
+{
+    DefaultReport = ReportException;
+    ReportException = &ReportToApplication;
+    PopupList->OnHint = [this](const AnsiString& Hint) { FApplication.Hint = Hint; };
+}
+
+TApplicationHost::~TApplicationHost()
+{
+    PopupList->OnHint = nullptr;
+    ReportException = DefaultReport;
+    TFormHost::Install(FBefore);
+}
+
+void TApplicationHost::HandleException(TObject* Sender)
+{
+    FApplication.HandleException(Sender);
+}
+
+HCURSOR TApplicationHost::CursorHandle(TCursor Cursor)
+{
+    return Screen->Cursors[Screen->Cursor != crDefault ? Screen->Cursor : Cursor];
+}
+
+void TApplicationHost::HotControlChanged(TControl*, TControl* New)
+{
+    FApplication.FHints->HotControlChanged(New);
+}
+
+void TApplicationHost::CancelHint()
+{
+    FApplication.CancelHint();
+}
+
+HWND TApplicationHost::MainHandle()
+{
+    return FApplication.Handle;
+}

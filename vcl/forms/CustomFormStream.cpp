@@ -1,0 +1,101 @@
+// Forms in form files.
+#include "vcl/classes/Reader.h"
+#include "vcl/classes/Writer.h"
+#include "vcl/forms/CustomForm.h"
+
+void TCustomForm::ReadState(TReader& Reader)
+{
+    FReadClientSize = {-1, -1};
+    TScrollingWinControl::ReadState(Reader);
+    // Frame and menu are known now; the controls' anchors count from the size that comes out.
+    ApplyReadClientSize();
+}
+
+void TCustomForm::Loaded()
+{
+    ApplyReadClientSize();
+    TScrollingWinControl::Loaded();
+}
+
+void TCustomForm::SetReadClientWidth(int Value)
+{
+    if (ControlState.Contains(csReadingState))
+        FReadClientSize.X = Value;
+    else
+        ClientWidth = Value;
+}
+
+void TCustomForm::SetReadClientHeight(int Value)
+{
+    if (ControlState.Contains(csReadingState))
+        FReadClientSize.Y = Value;
+    else
+        ClientHeight = Value;
+}
+
+void TCustomForm::ApplyReadClientSize()
+{
+    if (FReadClientSize.X >= 0)
+        ClientWidth = FReadClientSize.X;
+    if (FReadClientSize.Y >= 0)
+        ClientHeight = FReadClientSize.Y;
+}
+
+bool TCustomForm::IsAutoScrollStored() const
+{
+    return GetAutoScroll() != (FBorderStyle == bsSizeable || FBorderStyle == bsSizeToolWin);
+}
+
+// A form that scrolls has an outer size, others are as large as their content.
+bool TCustomForm::IsFormSizeStored() const
+{
+    auto* Self = const_cast<TCustomForm*>(this);
+    return GetAutoScroll() || Self->HorzScrollBar->Range != 0 || Self->VertScrollBar->Range != 0;
+}
+
+void TCustomForm::GetChildren(const TGetChildProc& Proc, TComponent* Root)
+{
+    TScrollingWinControl::GetChildren(Proc, Root);
+    if (Root != this)
+        return;
+    for (int I = 0; I < ComponentCount; ++I)
+        if (!Components[I]->HasParent())
+            Proc(Components[I]);
+}
+
+void TCustomForm::DefineProperties(TFiler& Filer)
+{
+    TScrollingWinControl::DefineProperties(Filer);
+    auto* Ancestor = As<TCustomForm>(Filer.Ancestor);
+    Filer.DefineProperty("PixelsPerInch", nullptr, {this, &TCustomForm::WritePixelsPerInch},
+                         !Ancestor || Ancestor->PixelsPerInch != PixelsPerInch);
+    Filer.DefineProperty("TextHeight", {this, &TCustomForm::ReadTextHeight}, {this, &TCustomForm::WriteTextHeight},
+                         !Ancestor || Ancestor->TextHeight() != TextHeight());
+    Filer.DefineProperty("IgnoreFontProperty", {this, &TCustomForm::ReadIgnoreFont}, nullptr, false);
+}
+
+// The height of a line of the form's font, as the form was designed with; for scaling.
+int TCustomForm::TextHeight()
+{
+    return FReadTextHeight > 0 ? FReadTextHeight : static_cast<int>(Canvas->TextExtent("0").cy);
+}
+
+void TCustomForm::ReadTextHeight(TReader* Reader)
+{
+    FReadTextHeight = Reader->ReadInteger();
+}
+
+void TCustomForm::WriteTextHeight(TWriter* Writer)
+{
+    Writer->WriteInteger(TextHeight());
+}
+
+void TCustomForm::WritePixelsPerInch(TWriter* Writer)
+{
+    Writer->WriteInteger(PixelsPerInch);
+}
+
+void TCustomForm::ReadIgnoreFont(TReader* Reader)
+{
+    Reader->ReadBoolean();
+}

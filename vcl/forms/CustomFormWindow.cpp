@@ -1,0 +1,404 @@
+// The window of a form: frame, place, state, menu, icon.
+#include "vcl/forms/Application.h"
+#include "vcl/forms/CustomForm.h"
+#include "vcl/forms/Form.h"
+#include "vcl/forms/FormFrame.h"
+#include "vcl/forms/Screen.h"
+#include "vcl/graphics/Brush.h"
+
+#include <algorithm>
+
+namespace {
+
+// What the window's life and its content decide, not the form's properties.
+constexpr DWORD LivingStyles = WS_VISIBLE | WS_DISABLED | WS_MINIMIZE | WS_MAXIMIZE | WS_HSCROLL | WS_VSCROLL;
+constexpr DWORD LivingExStyles = WS_EX_LAYERED | WS_EX_TOPMOST;
+
+} // namespace
+
+void TCustomForm::CreateParams(TCreateParams& Params)
+{
+    TScrollingWinControl::CreateParams(Params);
+    const bool IsChild = Parent || ParentWindow;
+    const TFormFrame Frame = TFormFrame::Of(FBorderStyle, FBorderIcons, IsChild);
+    Params.Style = (Params.Style & ~static_cast<DWORD>(WS_TABSTOP)) | Frame.Style | WS_CLIPCHILDREN;
+    Params.ExStyle |= Frame.ExStyle;
+    if (IsChild)
+        return;
+    Params.Style &= ~static_cast<DWORD>(WS_CHILD);
+    const bool IsMain = Application->BecomesMainForm(this);
+    Params.WndParent = IsMain ? nullptr : Application->Handle;
+    if (IsMain)
+        Params.ExStyle |= WS_EX_APPWINDOW;
+    if (FFormStyle == fsStayOnTop)
+        Params.ExStyle |= WS_EX_TOPMOST;
+    if (FPlaced || IsDesigning())
+        return;
+    if (FPosition == poDefault || FPosition == poDefaultPosOnly)
+        Params.X = Params.Y = CW_USEDEFAULT;
+    const bool CanResize = FBorderStyle == bsSizeable || FBorderStyle == bsSizeToolWin;
+    if (CanResize && (FPosition == poDefault || FPosition == poDefaultSizeOnly))
+        Params.Width = Params.Height = CW_USEDEFAULT;
+}
+
+void TCustomForm::CreateWnd()
+{
+    TScrollingWinControl::CreateWnd();
+    UpdateMenu();
+    UpdateIcon();
+    if (FAlphaBlend || FTransparentColor)
+        UpdateLayer();
+}
+
+void TCustomForm::DestroyWnd()
+{
+    // A window takes its menu with it.
+    SetControlFlag(csDestroyingHandle, true);
+    if (FMenu)
+        FMenu->WindowHandle = nullptr;
+    TScrollingWinControl::DestroyWnd();
+}
+
+// The frame follows the properties while the window lives.
+void TCustomForm::UpdateFrame()
+{
+    if (!HandleAllocated())
+        return;
+    HWND Window = Handle;
+    TCreateParams Params;
+    CreateParams(Params);
+    const auto Style = static_cast<DWORD>(GetWindowLongW(Window, GWL_STYLE));
+    const auto ExStyle = static_cast<DWORD>(GetWindowLongW(Window, GWL_EXSTYLE));
+    SetWindowLongW(Window, GWL_STYLE, static_cast<LONG>((Params.Style & ~LivingStyles) | (Style & LivingStyles)));
+    SetWindowLongW(Window, GWL_EXSTYLE,
+                   static_cast<LONG>((Params.ExStyle & ~LivingExStyles) | (ExStyle & LivingExStyles)));
+    UpdateMenu();
+    SetWindowPos(Window, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    if (Showing)
+        RedrawWindow(Window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void TCustomForm::SetBorderIcons(TBorderIcons Value)
+{
+    if (FBorderIcons == Value)
+        return;
+    FBorderIcons = Value;
+    UpdateFrame();
+}
+
+void TCustomForm::SetBorderStyle(TFormBorderStyle Value)
+{
+    if (FBorderStyle == Value)
+        return;
+    FBorderStyle = Value;
+    // Forms that the user cannot size have no use for scroll bars, unless told otherwise.
+    AutoScroll = Value == bsSizeable || Value == bsSizeToolWin;
+    UpdateFrame();
+    UpdateIcon();
+}
+
+void TCustomForm::SetBorderWidth(int Value)
+{
+    Value = std::max(Value, 0);
+    if (FBorderWidth == Value)
+        return;
+    FBorderWidth = Value;
+    UpdateFrame();
+}
+
+void TCustomForm::SetFormStyle(TFormStyle Value)
+{
+    if (FFormStyle == Value)
+        return;
+    FFormStyle = Value;
+    if (HandleAllocated() && !Parent)
+        SetWindowPos(Handle, Value == fsStayOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void TCustomForm::SetWindowState(TWindowState Value)
+{
+    constexpr int Commands[] = {SW_SHOWNORMAL, SW_MINIMIZE, SW_SHOWMAXIMIZED};
+    if (FWindowState == Value)
+        return;
+    FWindowState = Value;
+    if (Showing && !IsDesigning())
+        ShowWindow(Handle, Commands[Value]);
+}
+
+TRect TCustomForm::GetClientRect() const
+{
+    if (HandleAllocated())
+        return TScrollingWinControl::GetClientRect();
+    const TFormFrame Frame = TFormFrame::Of(FBorderStyle, FBorderIcons, Parent || ParentWindow);
+    const TSize Margins = Frame.Margins(ShowsMenu());
+    return {0, 0, std::max(0, Width - static_cast<int>(Margins.cx) - 2 * FBorderWidth),
+            std::max(0, Height - static_cast<int>(Margins.cy) - 2 * FBorderWidth)};
+}
+
+// ---- place
+
+void TCustomForm::SetPosition(TPosition Value)
+{
+    if (FPosition == Value)
+        return;
+    FPosition = Value;
+    FPlaced = false;
+}
+
+void TCustomForm::PlaceForShowing()
+{
+    if (std::exchange(FPlaced, true) || Parent || IsDesigning())
+        return;
+    TRect Around;
+    TCustomForm* Center = Application->MainForm;
+    switch (FPosition) {
+    case poScreenCenter: Around = Screen->WorkAreaOf(StartMonitor()); break;
+    case poDesktopCenter: Around = Screen->DesktopRect; break;
+    case poOwnerFormCenter:
+        if (auto* OwnerForm = As<TCustomForm>(Owner))
+            Center = OwnerForm;
+        [[fallthrough]];
+    case poMainFormCenter: Around = Center && Center != this ? Center->BoundsRect : Screen->WorkAreaRect; break;
+    default: return;
+    }
+    // The caption stays where the mouse can reach it.
+    const TRect Work = Screen->WorkAreaOf(Around);
+    const int X = std::max<int>(Work.Left, Around.Left + (Around.Width() - Width) / 2);
+    const int Y = std::max<int>(Work.Top, Around.Top + (Around.Height() - Height) / 2);
+    SetBounds(X, Y, Width, Height);
+}
+
+// A rectangle on the display that DefaultMonitor names.
+TRect TCustomForm::StartMonitor() const
+{
+    TCustomForm* Near = nullptr;
+    if (DefaultMonitor == dmMainForm)
+        Near = Application->MainForm;
+    else if (DefaultMonitor == dmActiveForm)
+        Near = Screen->ActiveCustomForm;
+    if (Near && Near != this && Near->Visible)
+        return Near->BoundsRect;
+    return DefaultMonitor == dmDesktop ? BoundsRect : Rect(0, 0, 1, 1);
+}
+
+void TCustomForm::WMSize(TWMSize& Message)
+{
+    if (IsDestroying() || ControlState.Contains(csDestroyingHandle)) {
+        DefaultHandler(Message);
+        return;
+    }
+    if (!IsDesigning()) {
+        if (Message.WParam == SIZE_RESTORED)
+            FWindowState = wsNormal;
+        else if (Message.WParam == SIZE_MINIMIZED)
+            FWindowState = wsMinimized;
+        else if (Message.WParam == SIZE_MAXIMIZED)
+            FWindowState = wsMaximized;
+    }
+    Inherited(Message);
+    if (Application->MainForm == this)
+        Application->MainFormResized(Message.WParam == SIZE_MINIMIZED);
+}
+
+void TCustomForm::WMGetMinMaxInfo(TMessage& Message)
+{
+    Inherited(Message);
+    auto& Info = *reinterpret_cast<MINMAXINFO*>(Message.LParam);
+    const TSizeConstraints* Limits = Constraints;
+    auto Limit = [](LONG& Field, int Value) {
+        if (Value > 0)
+            Field = Value;
+    };
+    Limit(Info.ptMinTrackSize.x, Limits->GetMinWidth());
+    Limit(Info.ptMinTrackSize.y, Limits->GetMinHeight());
+    Limit(Info.ptMaxTrackSize.x, Limits->GetMaxWidth());
+    Limit(Info.ptMaxTrackSize.y, Limits->GetMaxHeight());
+}
+
+// ---- the rim
+
+void TCustomForm::WMNCCalcSize(TMessage& Message)
+{
+    Inherited(Message);
+    InflateRect(*reinterpret_cast<TRect*>(Message.LParam), -FBorderWidth, -FBorderWidth);
+}
+
+void TCustomForm::WMNCPaint(TMessage& Message)
+{
+    Inherited(Message);
+    if (FBorderWidth == 0)
+        return;
+    TRect Window;
+    GetWindowRect(Handle, &Window);
+    const TPoint Origin = ClientOrigin - Window.TopLeft();
+    TRect Inner = ClientRect;
+    OffsetRect(Inner, Origin.X, Origin.Y);
+    TRect Outer = Inner;
+    InflateRect(Outer, FBorderWidth, FBorderWidth);
+    HDC DC = GetWindowDC(Handle);
+    ExcludeClipRect(DC, Inner.Left, Inner.Top, Inner.Right, Inner.Bottom);
+    FillRect(DC, &Outer, GetBrush()->Handle);
+    ReleaseDC(Handle, DC);
+}
+
+// ---- layers
+
+void TCustomForm::SetAlphaBlend(bool Value)
+{
+    if (FAlphaBlend == Value)
+        return;
+    FAlphaBlend = Value;
+    UpdateLayer();
+}
+
+void TCustomForm::SetAlphaBlendValue(uint8_t Value)
+{
+    if (FAlphaBlendValue == Value)
+        return;
+    FAlphaBlendValue = Value;
+    UpdateLayer();
+}
+
+void TCustomForm::SetTransparentColor(bool Value)
+{
+    if (FTransparentColor == Value)
+        return;
+    FTransparentColor = Value;
+    UpdateLayer();
+}
+
+void TCustomForm::SetTransparentColorValue(TColor Value)
+{
+    if (FTransparentColorValue == Value)
+        return;
+    FTransparentColorValue = Value;
+    UpdateLayer();
+}
+
+void TCustomForm::UpdateLayer()
+{
+    if (!HandleAllocated() || IsDesigning())
+        return;
+    const LONG ExStyle = GetWindowLongW(Handle, GWL_EXSTYLE);
+    if (!FAlphaBlend && !FTransparentColor) {
+        SetWindowLongW(Handle, GWL_EXSTYLE, ExStyle & ~WS_EX_LAYERED);
+        RedrawWindow(Handle, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE | RDW_ALLCHILDREN);
+        return;
+    }
+    SetWindowLongW(Handle, GWL_EXSTYLE, ExStyle | WS_EX_LAYERED);
+    SetLayeredWindowAttributes(
+        Handle, ColorToRGB(FTransparentColorValue), FAlphaBlendValue,
+        static_cast<DWORD>((FAlphaBlend ? LWA_ALPHA : 0) | (FTransparentColor ? LWA_COLORKEY : 0)));
+}
+
+// ---- icon
+
+void TCustomForm::IconChanged(TObject*)
+{
+    Perform(CM_ICONCHANGED);
+}
+
+void TCustomForm::CMIconChanged(TMessage&)
+{
+    UpdateIcon();
+}
+
+void TCustomForm::UpdateIcon()
+{
+    if (!HandleAllocated() || (GetWindowLongW(Handle, GWL_STYLE) & WS_CHILD))
+        return;
+    HICON Icon = nullptr;
+    if (FBorderStyle != bsDialog) {
+        Icon = FIcon.Empty ? Application->Icon->Handle : FIcon.Handle;
+        if (!Icon)
+            Icon = LoadIconW(nullptr, IDI_APPLICATION);
+    }
+    SendMessageW(Handle, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(Icon));
+}
+
+// ---- menu
+
+void TCustomForm::SetMenu(TMainMenu* Value)
+{
+    if (FMenu == Value)
+        return;
+    if (FMenu)
+        FMenu->WindowHandle = nullptr;
+    ReplaceReference(FMenu, Value);
+    FMenu = Value;
+    UpdateMenu();
+    // The client size that a form file asks for is the one below the menu.
+    if (IsLoading())
+        ApplyReadClientSize();
+}
+
+bool TCustomForm::ShowsMenu() const
+{
+    return FMenu && !Parent && !ParentWindow && FBorderStyle != bsDialog && FBorderStyle != bsNone;
+}
+
+void TCustomForm::UpdateMenu()
+{
+    if (FMenu && HandleAllocated())
+        FMenu->WindowHandle = ShowsMenu() ? Handle : nullptr;
+}
+
+void TCustomForm::WMCommand(TWMCommand& Message)
+{
+    if (Message.LParam == 0 && FMenu && FMenu->DispatchCommand(static_cast<uint16_t>(Message.ItemID())))
+        return;
+    Inherited(Message);
+}
+
+void TCustomForm::WMInitMenuPopup(TMessage& Message)
+{
+    if (FMenu)
+        FMenu->DispatchPopup(reinterpret_cast<HMENU>(Message.WParam));
+    Inherited(Message);
+}
+
+void TCustomForm::WMMenuSelect(TMessage& Message)
+{
+    Application->Hint = FMenu ? FMenu->HintOf(Message) : AnsiString();
+    Inherited(Message);
+}
+
+// ---- other messages of the window
+
+void TCustomForm::WMActivate(TMessage& Message)
+{
+    if (IsDesigning()) {
+        Inherited(Message);
+        return;
+    }
+    // The system would give the focus to the form itself.
+    const bool Minimized = Message.WParamHi() != 0;
+    if (Message.WParamLo() != WA_INACTIVE && !Minimized)
+        FFocus.SetWindowFocus();
+}
+
+void TCustomForm::WMSetCursor(TMessage& Message)
+{
+    if (Message.LParamLo() == HTCLIENT && Screen->Cursor != crDefault) {
+        ::SetCursor(Screen->Cursors[Screen->Cursor]);
+        Message.Result = 1;
+        return;
+    }
+    Inherited(Message);
+}
+
+void TCustomForm::WMHelp(TMessage& Message)
+{
+    const auto& Info = *reinterpret_cast<HELPINFO*>(Message.LParam);
+    THelpContext Context = 0;
+    if (Info.iContextType == HELPINFO_WINDOW)
+        for (TControl* Each = FindControl(static_cast<HWND>(Info.hItemHandle)); Each && Context == 0;
+             Each = Each->Parent)
+            Context = Each->HelpContext;
+    bool CallHelp = true;
+    if (Context != 0 &&
+        (OnHelp(HELP_CONTEXT, Context, CallHelp) || Application->OnHelp(HELP_CONTEXT, Context, CallHelp)))
+        Message.Result = 1;
+}

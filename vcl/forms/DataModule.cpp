@@ -1,0 +1,86 @@
+#include "vcl/forms/DataModule.h"
+
+#include "vcl/classes/Reader.h"
+#include "vcl/classes/Writer.h"
+#include "vcl/forms/Application.h"
+#include "vcl/forms/Screen.h"
+#include "vcl/system/ClassBuilder.h"
+
+void TDataModule::Describe(TClassBuilder<TDataModule>& Class)
+{
+    Class.Value<&Self::OldCreateOrder>("OldCreateOrder");
+    Class.Event<&Self::OnCreate>("OnCreate");
+    Class.Event<&Self::OnDestroy>("OnDestroy");
+}
+
+TDataModule::TDataModule(TComponent* AOwner) : TComponent(AOwner)
+{
+    Screen->FDataModules.push_back(this);
+    Application->BeingMade(this);
+}
+
+TDataModule::~TDataModule()
+{
+    if (Screen)
+        std::erase(Screen->FDataModules, this);
+}
+
+void TDataModule::BeforeDestruction()
+{
+    SetState(csDestroying, true);
+    DoDestroy();
+    TComponent::BeforeDestruction();
+}
+
+void TDataModule::DoCreate()
+{
+    try {
+        OnCreate(this);
+    } catch (...) {
+        Application->HandleException(this);
+    }
+}
+
+void TDataModule::DoDestroy()
+{
+    try {
+        OnDestroy(this);
+    } catch (...) {
+        Application->HandleException(this);
+    }
+}
+
+void TDataModule::GetChildren(const TGetChildProc& Proc, TComponent* Root)
+{
+    if (Root != this)
+        return;
+    for (int I = 0; I < ComponentCount; ++I)
+        if (!Components[I]->HasParent())
+            Proc(Components[I]);
+}
+
+template <auto Member>
+void TDataModule::ReadPixels(TReader* Reader)
+{
+    this->*Member = Reader->ReadInteger();
+}
+
+template <auto Member>
+void TDataModule::WritePixels(TWriter* Writer)
+{
+    Writer->WriteInteger(this->*Member);
+}
+
+void TDataModule::DefineProperties(TFiler& Filer)
+{
+    TComponent::DefineProperties(Filer);
+    auto* Ancestor = As<TDataModule>(Filer.Ancestor);
+    auto Define = [&]<auto Member>(const char* Name) {
+        Filer.DefineProperty(Name, {this, &TDataModule::ReadPixels<Member>}, {this, &TDataModule::WritePixels<Member>},
+                             this->*Member != (Ancestor ? Ancestor->*Member : 0));
+    };
+    Define.template operator()<&TDataModule::HorizontalOffset>("HorizontalOffset");
+    Define.template operator()<&TDataModule::VerticalOffset>("VerticalOffset");
+    Define.template operator()<&TDataModule::Height>("Height");
+    Define.template operator()<&TDataModule::Width>("Width");
+}

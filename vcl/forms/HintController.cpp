@@ -1,0 +1,164 @@
+#include "vcl/forms/HintController.h"
+
+#include "vcl/controls/WinControl.h"
+#include "vcl/forms/Application.h"
+#include "vcl/forms/Screen.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr UINT_PTR TimerId = 1;
+
+TControl* HintControlOf(TControl* Control)
+{
+    while (Control && !Control->ShowHint)
+        Control = Control->Parent;
+    return Control && !Control->ComponentState.Contains(csDesigning) ? Control : nullptr;
+}
+
+// The nearest hint from Control up.
+AnsiString HintOf(TControl* Control)
+{
+    for (; Control; Control = Control->Parent)
+        if (AnsiString Hint = Control->Hint; !Hint.empty())
+            return Hint;
+    return {};
+}
+
+// How far below its hot spot the cursor reaches, in pixels: the hint starts there.
+int CursorReach()
+{
+    ICONINFO Info{};
+    HCURSOR Cursor = GetCursor();
+    int Reach = GetSystemMetrics(SM_CYCURSOR) / 2;
+    if (!Cursor || !GetIconInfo(Cursor, &Info))
+        return Reach;
+    BITMAP Mask{};
+    if (GetObjectW(Info.hbmMask, sizeof Mask, &Mask)) {
+        const int Height = Info.hbmColor ? Mask.bmHeight : Mask.bmHeight / 2;
+        Reach = std::min(Height - static_cast<int>(Info.yHotspot), Reach + 4);
+    }
+    DeleteObject(Info.hbmMask);
+    if (Info.hbmColor)
+        DeleteObject(Info.hbmColor);
+    return Reach;
+}
+
+} // namespace
+
+THintController::~THintController()
+{
+    Stop();
+}
+
+void THintController::HotControlChanged(TControl* Control)
+{
+    TControl* Owner = HintControlOf(Control);
+    FApplication.Hint = GetLongHint(HintOf(Control));
+    if (Owner && Owner == FControl && FPhase != hpNone && FPhase != hpHidden)
+        return;
+    const bool WasShowing = FPhase == hpShowing;
+    Cancel();
+    FControl = Owner;
+    FPhase = hpNone;
+    if (Owner && FApplication.ShowHint)
+        Start(hpWaiting, WasShowing ? FApplication.HintShortPause : FApplication.HintPause);
+}
+
+void THintController::PointerMoved(const TPoint& Pos)
+{
+    if (FPhase != hpShowing || FCursorRect.Contains(Pos))
+        return;
+    Hide();
+    Start(hpWaiting, FApplication.HintShortPause);
+}
+
+void THintController::Cancel()
+{
+    Stop();
+    Hide();
+    FPhase = hpHidden;
+}
+
+void THintController::Hide()
+{
+    FWindow.reset();
+}
+
+void THintController::Start(TPhase Phase, int Milliseconds)
+{
+    FPhase = Phase;
+    SetTimer(FApplication.Handle, TimerId, static_cast<UINT>(Milliseconds), nullptr);
+}
+
+void THintController::Stop()
+{
+    if (FApplication.HandleAllocated())
+        KillTimer(FApplication.Handle, TimerId);
+}
+
+bool THintController::Timer(uintptr_t Id)
+{
+    if (Id != TimerId)
+        return false;
+    const TPhase Phase = FPhase;
+    Stop();
+    if (Phase == hpShowing && !FReshow) {
+        Cancel();
+        return true;
+    }
+    POINT Pos;
+    if ((Phase == hpWaiting || Phase == hpShowing) && GetCursorPos(&Pos))
+        Activate(Pos);
+    return true;
+}
+
+void THintController::Activate(const TPoint& Pos)
+{
+    TControl* Control = HintControlOf(FindDragTarget(Pos, true));
+    // A program in the background stays quiet.
+    if (!Control || !GetActiveWindow() || !FApplication.ShowHint) {
+        Cancel();
+        return;
+    }
+    FControl = Control;
+    THintInfo Info;
+    Info.HintControl = Control;
+    Info.HintWindowClass = FApplication.HintWindowClass ? FApplication.HintWindowClass : THintWindow::StaticClass();
+    Info.HintPos = {Pos.x, Pos.y + CursorReach()};
+    Info.HintMaxWidth = Screen->Width;
+    Info.HintColor = FApplication.HintColor;
+    Info.CursorRect = Rect(0, 0, Control->Width, Control->Height);
+    Info.CursorPos = Control->ScreenToClient(Pos);
+    Info.HideTimeout = FApplication.HintHidePause;
+    Info.HintStr = GetShortHint(HintOf(Control));
+    if (Ask(Info) && !Info.HintStr.empty())
+        Show(Info);
+    else
+        Cancel();
+}
+
+bool THintController::Ask(THintInfo& Info) const
+{
+    bool CanShow = Info.HintControl->Perform(CM_HINTSHOW, 0, reinterpret_cast<intptr_t>(&Info)) == 0;
+    FApplication.OnShowHint(Info.HintStr, CanShow, Info);
+    return CanShow && Info.HintControl;
+}
+
+void THintController::Show(const THintInfo& Info)
+{
+    const TPoint Origin = Info.HintControl->ClientToScreen({0, 0});
+    FCursorRect = Info.CursorRect;
+    OffsetRect(FCursorRect, Origin.X, Origin.Y);
+
+    if (!FWindow || FWindow->ClassType() != Info.HintWindowClass)
+        FWindow.reset(static_cast<THintWindow*>(Info.HintWindowClass->Create(nullptr)));
+    FWindow->Color = Info.HintColor;
+    TRect R = FWindow->CalcHintRect(Info.HintMaxWidth, Info.HintStr, Info.HintData);
+    OffsetRect(R, Info.HintPos.x, Info.HintPos.y);
+    FWindow->ActivateHintData(R, Info.HintStr, Info.HintData);
+
+    FReshow = Info.ReshowTimeout > 0;
+    Start(hpShowing, FReshow ? Info.ReshowTimeout : Info.HideTimeout);
+}
