@@ -9,8 +9,16 @@ if(NOT CMAKE_CROSSCOMPILING)
     return()
 endif()
 
-set(TESSARY_HOST_DIR ${PROJECT_BINARY_DIR}/host CACHE PATH "Where the tools that the build runs are built")
+set(TESSARY_HOST_DIR ${PROJECT_BINARY_DIR}/host CACHE PATH "A build for this machine, of the tools that the build runs")
 find_program(TESSARY_HOST_COMPILER NAMES clang++-19 clang++ REQUIRED NO_CMAKE_FIND_ROOT_PATH)
+
+if(NOT EXISTS ${TESSARY_HOST_DIR}/CMakeCache.txt)
+    execute_process(
+        COMMAND ${CMAKE_COMMAND} -S ${PROJECT_SOURCE_DIR} -B ${TESSARY_HOST_DIR} -G ${CMAKE_GENERATOR}
+            -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=${TESSARY_HOST_COMPILER} -DTESSARY_BUILD_TESTS=OFF
+        OUTPUT_QUIET
+        COMMAND_ERROR_IS_FATAL ANY)
+endif()
 
 set(programs)
 set(targets)
@@ -24,16 +32,11 @@ foreach(tool IN LISTS TESSARY_HOST_TOOLS)
     endif()
 endforeach()
 
-include(ExternalProject)
-ExternalProject_Add(host_tools
-    SOURCE_DIR ${PROJECT_SOURCE_DIR}
-    BINARY_DIR ${TESSARY_HOST_DIR}
-    CMAKE_ARGS -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=${TESSARY_HOST_COMPILER} -DTESSARY_BUILD_TESTS=OFF
-    BUILD_COMMAND ${CMAKE_COMMAND} --build <BINARY_DIR> --target ${targets}
-    BUILD_BYPRODUCTS ${programs}
-    BUILD_ALWAYS ON
-    LOG_CONFIGURE ON
-    INSTALL_COMMAND "")
+add_custom_target(host_tools
+    COMMAND ${CMAKE_COMMAND} --build ${TESSARY_HOST_DIR} --target ${targets}
+    BYPRODUCTS ${programs}
+    COMMENT "Building the tools that the build runs"
+    USES_TERMINAL)
 foreach(tool IN LISTS targets)
     add_dependencies(Tessary::host_${tool} host_tools)
 endforeach()
