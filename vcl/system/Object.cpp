@@ -3,6 +3,7 @@
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/Ident.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 constinit TMetaClass TObject::MetaClass{"TObject", nullptr, nullptr, nullptr};
@@ -29,6 +30,18 @@ public:
         Collect();
         static std::deque<AnsiString> Names;
         Table().insert_or_assign(Names.emplace_back(Alias), Class);
+    }
+
+    static std::vector<TClass> All()
+    {
+        Collect();
+        std::vector<TClass> Classes;
+        for (const auto& [Name, Class] : Table())
+            if (Name == Class->ClassName())
+                Classes.push_back(Class);
+        std::sort(Classes.begin(), Classes.end(),
+                  [](TClass A, TClass B) { return std::string_view(A->ClassName()) < B->ClassName(); });
+        return Classes;
     }
 
 private:
@@ -70,6 +83,11 @@ TClass FindClass(std::string_view Name)
     if (TClass Class = GetClass(Name))
         return Class;
     throw EClassNotFound("Class " + AnsiString(Name) + " not found");
+}
+
+std::vector<TClass> RegisteredClasses()
+{
+    return TClassRegistry::All();
 }
 
 void RegisterClassAlias(TClass Class, std::string_view Alias)

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 using AnsiString = std::string; // UTF-8
 
@@ -68,6 +69,8 @@ struct TClassRegistration {
 TClass GetClass(std::string_view Name);
 // As GetClass, but raises EClassNotFound "Class %s not found".
 TClass FindClass(std::string_view Name);
+// Every class of the program, in the order of their names.
+std::vector<TClass> RegisteredClasses();
 // Makes Class known under another name as well; form files of renamed classes load so.
 void RegisterClassAlias(TClass Class, std::string_view Alias);
 
