@@ -19,63 +19,144 @@ constexpr int MaxKeptDigits = 80;
 
 // The significant digits of a decimal and where its point is: 0.Digits × 10^Point.
 struct TSpelledDecimal {
-    TBigNumber Digits;
+    char Digits[MaxKeptDigits + 1];
     int Count = 0;
     int Point = 0;
     bool Negative = false;
 };
 
+// What stands behind the 'e', limited to what makes every number too small or too large.
+int ReadExponent(std::string_view Spelling)
+{
+    constexpr int Limit = 100'000;
+    const bool Plus = Spelling.starts_with('+');
+    int Exponent = 0;
+    const auto Result = std::from_chars(Spelling.data() + (Plus ? 1 : 0), Spelling.data() + Spelling.size(), Exponent);
+    if (Result.ec == std::errc::result_out_of_range)
+        return Spelling.starts_with('-') ? -Limit : Limit;
+    return std::clamp(Exponent, -Limit, Limit);
+}
+
 TSpelledDecimal ReadDecimal(std::string_view Spelling)
 {
     TSpelledDecimal Decimal;
+    Decimal.Negative = Spelling.starts_with('-');
     bool BehindPoint = false;
     bool Lost = false;
-    std::size_t I = 0;
-    if (!Spelling.empty() && Spelling[0] == '-') {
-        Decimal.Negative = true;
-        I++;
-    }
+    std::size_t I = Decimal.Negative ? 1 : 0;
     for (; I < Spelling.size() && Spelling[I] != 'e' && Spelling[I] != 'E'; I++) {
-        if (Spelling[I] == '.') {
+        const char Digit = Spelling[I];
+        if (Digit == '.') {
             BehindPoint = true;
-            continue;
-        }
-        const auto Digit = static_cast<std::uint32_t>(Spelling[I] - '0');
-        if (Decimal.Count > 0 || Digit != 0) {
-            Decimal.Point += BehindPoint ? 0 : 1;
-            if (Decimal.Count < MaxKeptDigits) {
-                Decimal.Digits.Multiply(10, Digit);
-                Decimal.Count++;
-            } else {
-                Lost = Lost || Digit != 0;
-            }
-        } else {
+        } else if (Decimal.Count == 0 && Digit == '0') {
             Decimal.Point -= BehindPoint ? 1 : 0;
+        } else {
+            Decimal.Point += BehindPoint ? 0 : 1;
+            if (Decimal.Count < MaxKeptDigits)
+                Decimal.Digits[Decimal.Count++] = Digit;
+            else
+                Lost = Lost || Digit != '0';
         }
     }
-    if (Lost) { // what was cut off still decides a tie
-        Decimal.Digits.Multiply(10, 1);
-        Decimal.Count++;
-    }
-    if (I + 1 < Spelling.size()) {
-        const std::size_t First = I + (Spelling[I + 1] == '+' ? 2 : 1);
-        int Exponent = 0;
-        const auto Result = std::from_chars(Spelling.data() + First, Spelling.data() + Spelling.size(), Exponent);
-        if (Result.ec == std::errc::result_out_of_range)
-            Exponent = Spelling[First] == '-' ? -100'000 : 100'000;
-        Decimal.Point += std::clamp(Exponent, -100'000, 100'000);
-    }
+    while (Decimal.Count > 0 && Decimal.Digits[Decimal.Count - 1] == '0')
+        Decimal.Count--;
+    if (Lost) // what was cut off still decides a tie
+        Decimal.Digits[Decimal.Count++] = '1';
+    if (I < Spelling.size())
+        Decimal.Point += ReadExponent(Spelling.substr(I + 1));
     return Decimal;
 }
 
+// A number as Quotient × 2^Scale and what is left below that.
+struct TQuotient {
+    std::uint64_t Quotient = 0; // 64 bits, or fewer for the smallest numbers
+    int Scale = 0;
+    bool Half = false; // the rest is at least half a unit
+    bool More = false; // and not exactly that
+};
+
+// For up to 18 digits, no more of them behind the point. Most numbers in forms are like that.
+TQuotient DivideSmall(const TSpelledDecimal& Decimal)
+{
+    std::uint64_t Remainder = 0;
+    for (int I = 0; I < Decimal.Count; I++)
+        Remainder = Remainder * 10 + static_cast<std::uint64_t>(Decimal.Digits[I] - '0');
+    std::uint64_t Divisor = 1;
+    for (int I = Decimal.Point; I < Decimal.Count; I++)
+        Divisor *= 10;
+
+    TQuotient Result;
+    Result.Quotient = Remainder / Divisor;
+    Remainder %= Divisor;
+    const auto NextBit = [&] {
+        Remainder <<= 1; // Divisor has at most 60 bits
+        const bool Bit = Remainder >= Divisor;
+        Remainder -= Bit ? Divisor : 0;
+        return Bit;
+    };
+    for (; Result.Quotient < IntegerBit; Result.Scale--)
+        Result.Quotient = Result.Quotient << 1 | (NextBit() ? 1 : 0);
+    Result.Half = NextBit();
+    Result.More = Remainder != 0;
+    return Result;
+}
+
 // The next binary digit of Numerator / Denominator, which is below one; Numerator becomes what is left.
-std::uint64_t NextBit(TBigNumber& Numerator, const TBigNumber& Denominator)
+bool NextBit(TBigNumber& Numerator, const TBigNumber& Denominator)
 {
     Numerator.ShiftLeft(1);
     if (TBigNumber::Compare(Numerator, Denominator) < 0)
-        return 0;
+        return false;
     Numerator.Subtract(Denominator);
-    return 1;
+    return true;
+}
+
+TQuotient Divide(const TSpelledDecimal& Decimal)
+{
+    TBigNumber Numerator;
+    for (int I = 0; I < Decimal.Count; I++)
+        Numerator.Multiply(10, static_cast<std::uint32_t>(Decimal.Digits[I] - '0'));
+    TBigNumber Denominator(1);
+    const int Power = Decimal.Point - Decimal.Count;
+    (Power >= 0 ? Numerator : Denominator).MultiplyPowerOf10(std::abs(Power));
+
+    TQuotient Result;
+    Result.Scale = std::max(Numerator.BitLength() - Denominator.BitLength() - 64, MinScale);
+    (Result.Scale >= 0 ? Denominator : Numerator).ShiftLeft(std::abs(Result.Scale));
+    Denominator.ShiftLeft(64);
+    if (TBigNumber::Compare(Numerator, Denominator) >= 0) {
+        Denominator.ShiftLeft(1);
+        Result.Scale++;
+    }
+    for (int Bit = 0; Bit < 64; Bit++)
+        Result.Quotient = Result.Quotient << 1 | (NextBit(Numerator, Denominator) ? 1 : 0);
+    Result.Half = NextBit(Numerator, Denominator);
+    Result.More = !Numerator.IsZero();
+    return Result;
+}
+
+// The number nearest to a decimal; false when it is too large.
+bool Nearest(const TSpelledDecimal& Decimal, TExtended& Value)
+{
+    const auto Sign = static_cast<std::uint16_t>(Decimal.Negative ? 0x8000 : 0);
+    Value = {0, Sign};
+    if (Decimal.Count == 0 || Decimal.Point < -4960)
+        return true;
+    if (Decimal.Point > 4940)
+        return false;
+
+    const int Decimals = Decimal.Count - Decimal.Point;
+    const bool Small = Decimal.Count <= 18 && Decimals >= 0 && Decimals <= 18;
+    TQuotient Parts = Small ? DivideSmall(Decimal) : Divide(Decimal);
+    if (Parts.Half && (Parts.More || (Parts.Quotient & 1) != 0) && ++Parts.Quotient == 0) {
+        Parts.Quotient = IntegerBit;
+        Parts.Scale++;
+    }
+    const int Exponent = Parts.Quotient >= IntegerBit ? Parts.Scale + 63 + Bias : 0;
+    if (Exponent >= MaxExponent)
+        return false;
+    Value = {Parts.Quotient, static_cast<std::uint16_t>(Sign | Exponent)};
+    return true;
 }
 
 } // namespace
@@ -152,50 +233,33 @@ bool TExtended::ToInt64(std::int64_t& Value) const
 
 bool TExtended::Parse(std::string_view Spelling, TExtended& Value)
 {
-    TSpelledDecimal Decimal = ReadDecimal(Spelling);
-    const auto Sign = static_cast<std::uint16_t>(Decimal.Negative ? 0x8000 : 0);
-    Value = {0, Sign};
-    if (Decimal.Count == 0 || Decimal.Point < -4960)
-        return true;
-    if (Decimal.Point > 4940)
-        return false;
-
-    // Value = Numerator / Denominator × 2^Scale, with a quotient of 64 bits, or fewer for the smallest numbers.
-    TBigNumber Numerator = Decimal.Digits;
-    TBigNumber Denominator(1);
-    const int Power = Decimal.Point - Decimal.Count;
-    (Power >= 0 ? Numerator : Denominator).MultiplyPowerOf10(std::abs(Power));
-    int Scale = std::max(Numerator.BitLength() - Denominator.BitLength() - 64, MinScale);
-    (Scale >= 0 ? Denominator : Numerator).ShiftLeft(std::abs(Scale));
-    Denominator.ShiftLeft(64);
-    if (TBigNumber::Compare(Numerator, Denominator) >= 0) {
-        Denominator.ShiftLeft(1);
-        Scale++;
-    }
-
-    std::uint64_t Quotient = 0;
-    for (int Bit = 0; Bit < 64; Bit++)
-        Quotient = Quotient << 1 | NextBit(Numerator, Denominator);
-    const bool Half = NextBit(Numerator, Denominator) != 0;
-    if (Half && (!Numerator.IsZero() || (Quotient & 1) != 0) && ++Quotient == 0) {
-        Quotient = IntegerBit;
-        Scale++;
-    }
-    const int Exponent = Quotient >> 63 != 0 ? Scale + 63 + Bias : 0;
-    if (Exponent >= MaxExponent)
-        return false;
-    Value = {Quotient, static_cast<std::uint16_t>(Sign | Exponent)};
-    return true;
+    return Nearest(ReadDecimal(Spelling), Value);
 }
 
 TDecimal TExtended::Shortest() const
 {
     const double Double = ToDouble();
-    if (std::isfinite(Double) && FromDouble(Double) == *this)
-        return ShortestDecimal(Double);
+    if (!std::isfinite(Double))
+        return ExactShortest();
+    const TDecimal Decimal = ShortestDecimal(Double);
+    if (FromDouble(Double) == *this)
+        return Decimal;
+    // The digits of the nearest double often are this number's too: no other decimal of up to 18 digits can be.
+    TSpelledDecimal Digits;
+    Digits.Count = Decimal.Count;
+    Digits.Point = Decimal.Point;
+    Digits.Negative = Decimal.Negative;
+    std::copy_n(Decimal.Digits, Decimal.Count, Digits.Digits);
+    TExtended Same;
+    if (Nearest(Digits, Same) && Same == *this)
+        return Decimal;
+    return ExactShortest();
+}
 
-    // Steele and White's digit generation: Remainder / Scale is what is left of the number, Margin / Scale is how far
-    // a decimal may be away and still be nearest to this number.
+// Steele and White's digit generation: Remainder / Scale is what is left of the number, Below and Above / Scale are how
+// far a decimal may be away and still be nearest to this number.
+TDecimal TExtended::ExactShortest() const
+{
     const int Exponent = std::max<int>(SignExponent & MaxExponent, 1) - Bias - 63;
     const bool Even = (Mantissa & 1) == 0;
     const bool PowerOf2 = Mantissa << 1 == 0; // the next lower number is only half as far away
@@ -215,13 +279,13 @@ TDecimal TExtended::Shortest() const
     for (TBigNumber* Number : {&Remainder, &Below, &Above})
         Number->MultiplyPowerOf10(-Decimal.Point);
     Scale.MultiplyPowerOf10(Decimal.Point);
-    const auto Reaches = [&] {
+    const auto ReachesNext = [&] {
         TBigNumber Sum = Remainder;
         Sum.Add(Above);
         const int Order = TBigNumber::Compare(Sum, Scale);
         return Order > 0 || (Order == 0 && Even);
     };
-    if (Reaches()) {
+    if (ReachesNext()) {
         Decimal.Point++;
         Scale.Multiply(10);
     }
@@ -233,12 +297,11 @@ TDecimal TExtended::Shortest() const
             Remainder.Subtract(Scale);
         const int Order = TBigNumber::Compare(Remainder, Below);
         const bool Low = Order < 0 || (Order == 0 && Even);
-        const bool High = Reaches();
+        const bool High = ReachesNext();
         Last = Low || High;
         if (High) {
-            TBigNumber Twice = Remainder;
-            Twice.ShiftLeft(1);
-            Digit += !Low || TBigNumber::Compare(Twice, Scale) > 0 ? 1 : 0;
+            Remainder.ShiftLeft(1);
+            Digit += !Low || TBigNumber::Compare(Remainder, Scale) > 0 ? 1 : 0;
         }
         Decimal.Digits[Decimal.Count++] = Digit;
     }

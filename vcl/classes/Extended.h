@@ -45,6 +45,9 @@ struct TExtended {
     TDecimal Shortest() const;
 
     bool operator==(const TExtended&) const = default;
+
+private:
+    TDecimal ExactShortest() const;
 };
 
 // The shortest digits that give a finite double back.

@@ -93,10 +93,11 @@ void SpellExtended(std::string& Output, const TExtended& Value)
 void SpellDouble(std::string& Output, double Value)
 {
     const std::size_t Start = Output.size();
-    const TDecimal Shortest = ShortestDecimal(Value);
-    const int Digits = std::min(DoublePrecision, Decimals + Shortest.Point);
+    TDecimal Rounded = RoundedDecimal(Value, DoublePrecision);
+    const int Digits = Decimals + Rounded.Point;
     if (Digits > 0) {
-        const TDecimal Rounded = RoundedDecimal(Value, Digits);
+        if (Digits < DoublePrecision)
+            Rounded = RoundedDecimal(Value, Digits);
         if (Rounded.Point > DoublePrecision)
             AppendScientific(Output, Rounded);
         else
@@ -105,7 +106,7 @@ void SpellDouble(std::string& Output, double Value)
             return;
         Output.resize(Start);
     }
-    AppendFixed(Output, Shortest, Decimals);
+    AppendFixed(Output, ShortestDecimal(Value), Decimals);
 }
 
 void SpellSingle(std::string& Output, float Value)
