@@ -92,7 +92,8 @@ void TComponent::SetReference(bool Enable)
     if (!FOwner || FName.empty())
         return;
     const TFieldInfo* Field = FOwner->ClassType()->Description().FindField(FName);
-    if (Field && InheritsFrom(Field->Class))
+    // On the way out of a destructor the object no longer knows its class.
+    if (Field && (!Enable || InheritsFrom(Field->Class)))
         Field->Set(FOwner, Enable ? this : nullptr);
 }
 

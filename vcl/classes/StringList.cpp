@@ -133,6 +133,22 @@ void TStringList::Exchange(int Index1, int Index2)
     Changed();
 }
 
+void TStringList::Move(int CurIndex, int NewIndex)
+{
+    CheckIndex(CurIndex);
+    CheckIndex(NewIndex);
+    if (CurIndex == NewIndex)
+        return;
+    Changing();
+    auto From = FItems.begin() + CurIndex;
+    auto To = FItems.begin() + NewIndex;
+    if (From < To)
+        std::rotate(From, From + 1, To + 1);
+    else
+        std::rotate(To, From, From + 1);
+    Changed();
+}
+
 int TStringList::IndexOf(const AnsiString& S) const
 {
     int Index;

@@ -34,6 +34,7 @@ public:
     void Delete(int Index) override;
     void Clear() override;
     void Exchange(int Index1, int Index2) override;
+    void Move(int CurIndex, int NewIndex) override;
     int IndexOf(const AnsiString& S) const override;
 
     // Looks a text up in a sorted list. Index receives its place, or the one where it would stand. Raises
