@@ -46,8 +46,8 @@ struct TBmpFile {
     uint32_t Compression = 0;
     uint32_t ColorsUsed = 0;
     uint32_t HeaderSize = 40; // 12: the old kind
-    TBytes Colors;            // masks or palette
-    TBytes Pixels;
+    TBytes Colors = {};       // masks or palette
+    TBytes Pixels = {};
     int Planes = 1;
     int OffsetShift = 0; // added to the place of the pixels
     uint32_t SizeImage = 0;

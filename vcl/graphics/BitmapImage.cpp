@@ -230,9 +230,9 @@ void TBitmapImage::Dormant()
 {
     if (!FHandle)
         return;
-    if (File.empty())
-        File = EncodeBitmap(*this);
+    std::vector<uint8_t> Encoded = EncodeBitmap(*this);
     Changing();
+    File = std::move(Encoded);
     FreeContext();
     FHandle.Reset();
     FBits = nullptr;
@@ -289,8 +289,8 @@ void TBitmapImage::Changing()
         FMasked = TMaskedImage();
         FMaskedColor = CLR_INVALID;
     }
-    if (FHandle)
-        File.clear();
+    Need(); // from the file, for the last time
+    File.clear();
 }
 
 const TMaskedImage& TBitmapImage::Masked(TBitmap* Bitmap, COLORREF Color)

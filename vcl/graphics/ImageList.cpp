@@ -229,12 +229,25 @@ bool TCustomImageList::ResourceLoad(HINSTANCE Instance, const AnsiString& ResNam
     return AddMasked(&Bitmap, MaskColor) >= 0;
 }
 
+// The images between the two places close up. The system's own exchange of images is not to be relied on, so this goes
+// through a place at the end.
+void TCustomImageList::MoveImage(int From, int To)
+{
+    int Spare = GetCount();
+    int Step = To > From ? 1 : -1;
+    ImageList_SetImageCount(FHandle, static_cast<UINT>(Spare + 1));
+    ImageList_Copy(FHandle, Spare, FHandle, From, ILCF_MOVE);
+    for (; From != To; From += Step)
+        ImageList_Copy(FHandle, From, FHandle, From + Step, ILCF_MOVE);
+    ImageList_Copy(FHandle, To, FHandle, Spare, ILCF_MOVE);
+    ImageList_SetImageCount(FHandle, static_cast<UINT>(Spare));
+}
+
 // Brings the images that were just added at the end to Index, in their order.
 void TCustomImageList::InsertLast(int Index, int FirstAdded)
 {
     for (int From = FirstAdded; FirstAdded >= 0 && From < GetCount(); ++From, ++Index)
-        for (int At = From; At > Index; --At)
-            ImageList_Copy(FHandle, At - 1, FHandle, At, ILCF_SWAP);
+        MoveImage(From, Index);
     Update(FirstAdded >= 0, "insert into");
 }
 
@@ -276,7 +289,7 @@ void TCustomImageList::ReplaceMasked(int Index, TBitmap* NewImage, TColor MaskCo
     CheckIndex(Index);
     int Added = AddMasked(NewImage, MaskColor);
     if (Added >= 0) {
-        ImageList_Copy(FHandle, Index, FHandle, Added, ILCF_SWAP);
+        ImageList_Copy(FHandle, Index, FHandle, Added, ILCF_MOVE);
         while (GetCount() > Added)
             ImageList_Remove(FHandle, Added);
     }
@@ -294,9 +307,7 @@ void TCustomImageList::Move(int CurIndex, int NewIndex)
 {
     CheckIndex(CurIndex);
     CheckIndex(NewIndex);
-    int Step = NewIndex > CurIndex ? 1 : -1;
-    for (; CurIndex != NewIndex; CurIndex += Step)
-        ImageList_Copy(FHandle, CurIndex + Step, FHandle, CurIndex, ILCF_SWAP);
+    MoveImage(CurIndex, NewIndex);
     Change();
 }
 

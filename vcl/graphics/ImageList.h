@@ -119,9 +119,11 @@ private:
     void Reset();
     void CheckIndex(int Index) const;
     void Update(bool Done, const char* Action);
+    void MoveImage(int From, int To);
     void InsertLast(int Index, int FirstAdded);
     // The images as they are drawn, one below the other.
-    const TMaskedImage& Prepared(int Index);
+    TMaskedImage& Prepared(int Index);
+    bool SameImages(TCustomImageList& Other);
     void DrawDisabled(HDC Target, int X, int Y, int Index);
     void ReadData(TStream* Stream);
     void WriteData(TStream* Stream);

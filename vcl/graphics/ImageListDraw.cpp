@@ -1,6 +1,8 @@
 // TCustomImageList: drawing its images.
 #include "vcl/graphics/ImageList.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr UINT StyleFlags[] = {ILD_FOCUS, ILD_SELECTED, ILD_NORMAL, ILD_TRANSPARENT};
@@ -25,7 +27,7 @@ void Fill(HDC Context, const TRect& R, int StockBrush)
 } // namespace
 
 // What an image draws on black is its colours multiplied by alpha; how much of a white ground it hides is alpha.
-const TMaskedImage& TCustomImageList::Prepared(int Index)
+TMaskedImage& TCustomImageList::Prepared(int Index)
 {
     int Count = GetCount();
     if (FPrepared.Empty()) {
@@ -50,6 +52,21 @@ const TMaskedImage& TCustomImageList::Prepared(int Index)
     }
     FReady[At] = true;
     return FPrepared;
+}
+
+bool TCustomImageList::SameImages(TCustomImageList& Other)
+{
+    int Count = GetCount();
+    if (Count != Other.GetCount() || FWidth != Other.FWidth || FHeight != Other.FHeight)
+        return false;
+    for (int I = 0; I < Count; ++I) {
+        size_t Size = static_cast<size_t>(FWidth) * static_cast<size_t>(FHeight);
+        const uint32_t* Mine = Prepared(I).Pixels() + Size * static_cast<size_t>(I);
+        const uint32_t* Others = Other.Prepared(I).Pixels() + Size * static_cast<size_t>(I);
+        if (!std::equal(Mine, Mine + Size, Others))
+            return false;
+    }
+    return true;
 }
 
 // The image's shape in the highlight colour, and over it, one pixel up and to the left, in the shadow's.

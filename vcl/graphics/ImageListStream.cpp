@@ -118,12 +118,7 @@ bool TCustomImageList::HasData(TFiler& Filer)
     auto* Ancestor = As<TCustomImageList>(Filer.GetAncestor());
     if (!Ancestor)
         return GetCount() > 0;
-    if (GetCount() == 0 || Ancestor->GetCount() == 0)
-        return GetCount() != Ancestor->GetCount();
-    TComStream Mine({});
-    TComStream Other({});
-    return !ImageList_Write(FHandle, Mine.Get()) || !ImageList_Write(Ancestor->FHandle, Other.Get()) ||
-           Mine.Bytes() != Other.Bytes();
+    return !SameImages(*Ancestor);
 }
 
 void TCustomImageList::DefineProperties(TFiler& Filer)
