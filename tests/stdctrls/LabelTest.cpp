@@ -51,7 +51,7 @@ protected:
     }
     static TSize SizeOf(TControl* Control) { return {Control->Width, Control->Height}; }
 
-    TTestWindow Window;
+    THostWindow Window;
 };
 
 } // namespace

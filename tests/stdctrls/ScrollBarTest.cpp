@@ -28,7 +28,7 @@ protected:
         return Result;
     }
 
-    TTestWindow Window;
+    THostWindow Window;
     TScrollBar* Bar;
     std::vector<int> Changes;
     std::vector<std::pair<TScrollCode, int>> Scrolls;
@@ -71,8 +71,8 @@ TEST_F(ScrollBarTest, RefusesARangeThatIsNone)
 
 TEST_F(ScrollBarTest, FormFilesMayGiveTheRangeInAnyOrder)
 {
-    TTestWindow Form;
-    ReadFormText(&Form, "object Form: TTestWindow\n"
+    THostWindow Form;
+    ReadFormText(&Form, "object Form: THostWindow\n"
                         "  object Bar: TScrollBar\n"
                         "    Max = -10\n    Min = -50\n    PageSize = 0\n    Position = -20\n"
                         "  end\n"

@@ -7,6 +7,9 @@
 
 // Handles what is in the message queue, and returns.
 void PumpMessages();
+// From here on ProcessMessages does that: an application's own loop, which knows more than the system's. nullptr: the
+// system's again.
+void UseMessageLoop(void (*ProcessMessages)());
 // Handles messages until Condition is true. False when that has not happened within the time.
 bool PumpUntil(const std::function<bool()>& Condition, int Milliseconds = 5000);
 

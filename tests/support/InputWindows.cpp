@@ -6,8 +6,14 @@
 
 namespace {
 
+void (*MessageLoop)() = nullptr;
+
 void HandleMessages()
 {
+    if (MessageLoop) {
+        MessageLoop();
+        return;
+    }
     MSG Message;
     while (PeekMessageW(&Message, nullptr, 0, 0, PM_REMOVE)) {
         TranslateMessage(&Message);
@@ -46,6 +52,11 @@ LONG Normalized(int Pixel, int Size)
 void PumpMessages()
 {
     HandleMessages();
+}
+
+void UseMessageLoop(void (*ProcessMessages)())
+{
+    MessageLoop = ProcessMessages;
 }
 
 bool PumpUntil(const std::function<bool()>& Condition, int Milliseconds)
