@@ -167,34 +167,59 @@ AnsiString TFormatter::ConvertInteger(const TSpecifier& Specifier, int64_t Value
     return Negative ? "-" + Text : Text;
 }
 
+AnsiString Printed(double Value, std::chars_format Style, int Precision)
+{
+    char Buffer[512];
+    char* End = std::to_chars(Buffer, Buffer + sizeof Buffer, Value, Style, Precision).ptr;
+    return AnsiString(Buffer, End);
+}
+
+// "1.5E+004": at least three digits of exponent.
+AnsiString Scientific(double Value, int Decimals)
+{
+    AnsiString Text = Printed(Value, std::chars_format::scientific, Decimals);
+    size_t E = Text.find('e');
+    Text[E] = 'E';
+    while (Text.size() < E + 5)
+        Text.insert(E + 2, 1, '0');
+    return Text;
+}
+
+// As short as possible: fixed from 0.00001 on as long as the digits suffice, else "1.5E20".
+AnsiString General(double Value, int Digits)
+{
+    AnsiString Text = Printed(Value, std::chars_format::scientific, Digits - 1);
+    size_t E = Text.find('e');
+    int Exponent = 0;
+    std::from_chars(Text.data() + E + (Text[E + 1] == '+' ? 2 : 1), Text.data() + Text.size(), Exponent);
+    bool Fixed = Exponent >= -5 && Exponent < Digits;
+    Text = Fixed ? Printed(Value, std::chars_format::fixed, Digits - 1 - Exponent) : Text.substr(0, E);
+    if (Text.find('.') != Text.npos) {
+        Text.erase(Text.find_last_not_of('0') + 1);
+        if (Text.back() == '.')
+            Text.pop_back();
+    }
+    return Fixed ? Text : Text + "E" + std::to_string(Exponent);
+}
+
 AnsiString TFormatter::ConvertFloat(const TSpecifier& Specifier, double Value) const
 {
     if (std::isnan(Value))
         return "NAN";
     if (std::isinf(Value))
         return Value < 0 ? "-INF" : "INF";
-    char Type = Specifier.Type;
-    int Precision = Specifier.Precision;
-    if (Precision < 0)
-        Precision = Type == 'e' ? 14 : Type == 'g' ? 15 : 2;
-    else if (Type == 'e')
-        Precision = std::max(Precision - 1, 0); // counts the digits, not the decimals
-    else if (Type == 'g')
-        Precision = std::clamp(Precision, 1, 17);
-    Precision = std::min(Precision, 99);
-    char Buffer[512];
-    auto Style = Type == 'e'   ? std::chars_format::scientific
-                 : Type == 'g' ? std::chars_format::general
-                               : std::chars_format::fixed;
-    char* End = std::to_chars(Buffer, Buffer + sizeof Buffer, Value, Style, Precision).ptr;
-    AnsiString Text(Buffer, End);
-    std::replace(Text.begin(), Text.end(), 'e', 'E');
-    if (Type == 'n') {
-        size_t Point = std::min(Text.find('.'), Text.size());
-        size_t First = Text[0] == '-' ? 1 : 0;
-        for (size_t I = Point; I > First + 3; I -= 3)
-            Text.insert(I - 3, 1, ',');
-    }
+    int Precision = std::min(Specifier.Precision, 99);
+    // These two count the digits, not the decimals.
+    if (Specifier.Type == 'e')
+        return Scientific(Value, Precision < 0 ? 14 : std::max(Precision - 1, 0));
+    if (Specifier.Type == 'g')
+        return General(Value, Precision < 0 ? 15 : std::clamp(Precision, 1, 17));
+    AnsiString Text = Printed(Value, std::chars_format::fixed, Precision < 0 ? 2 : Precision);
+    if (Specifier.Type != 'n')
+        return Text;
+    size_t First = Text[0] == '-' ? 1 : 0;
+    for (size_t I = std::min(Text.find('.'), Text.size()); I > First + 3; I -= 3)
+        Text.insert(I - 3, 1, ',');
     return Text;
 }
 
