@@ -22,12 +22,13 @@ TApplicationHost::TApplicationHost(TApplication& Application)
 {
     DefaultReport = ReportException;
     ReportException = &ReportToApplication;
-    PopupList->OnHint = [this](const AnsiString& Hint) { FApplication.Hint = Hint; };
+    // Static objects are not made in order: PopupList may not be set yet.
+    TPopupList::Get().OnHint = [this](const AnsiString& Hint) { FApplication.Hint = Hint; };
 }
 
 TApplicationHost::~TApplicationHost()
 {
-    PopupList->OnHint = nullptr;
+    TPopupList::Get().OnHint = nullptr;
     ReportException = DefaultReport;
     TFormHost::Install(FBefore);
 }
