@@ -272,8 +272,7 @@ TEST(Bitmap, MonochromeBitmapsAreCopiedOnWriteToo)
     EXPECT_EQ(B.PixelFormat, pf1bit);
 }
 
-// --- Transparency
-// -----------------------------------------------------------------------------------------------------
+// --- Transparency --------------------------------------------------------------------------------
 
 TEST(Bitmap, TheTransparentColorIsThatOfTheLowerLeftPixel)
 {
@@ -350,8 +349,7 @@ TEST(Bitmap, AssignCopiesTransparency)
     EXPECT_EQ(B.TransparentColor, TColor(clLime | PaletteRelative));
 }
 
-// --- The rest
-// ---------------------------------------------------------------------------------------------------------
+// --- The rest ------------------------------------------------------------------------------------
 
 TEST(Bitmap, TellsOfChanges)
 {

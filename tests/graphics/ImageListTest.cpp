@@ -302,8 +302,7 @@ TEST_F(ImageList, SharedImagesStayTheSystems)
     ImageList_Destroy(System);
 }
 
-// --- Form files
-// -------------------------------------------------------------------------------------------------------
+// --- Form files ----------------------------------------------------------------------------------
 
 TEST_F(ImageList, RoundTripsThroughFormFiles)
 {

@@ -177,8 +177,7 @@ TEST(Brush, TakesOverAHandle)
     EXPECT_EQ(GetObjectType(Handle), 0u);
 }
 
-// --- The shared handles
-// -----------------------------------------------------------------------------------------------
+// --- The shared handles --------------------------------------------------------------------------
 
 TEST(SharedHandle, GoingThroughTheSameColorsMakesNothingNew)
 {

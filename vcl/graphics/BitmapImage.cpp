@@ -66,7 +66,7 @@ BITMAPINFOHEADER DibHeader(int Width, int Height, int BitCount, DWORD Compressio
     return Header;
 }
 
-// --- Images with an open context, the last used first -------------------------------------------------------------
+// --- Images with an open context, the last used first --------------------------------------------
 
 struct TBitmapImage::TContexts {
     static constexpr int Limit = 64;
@@ -134,8 +134,7 @@ void TBitmapImage::Detach(TBitmapCanvas* Canvas)
         Attach(nullptr);
 }
 
-// --- Making images
-// ----------------------------------------------------------------------------------------------------
+// --- Making images -------------------------------------------------------------------------------
 
 TBitmapImage::TBitmapImage(int Width, int Height, TPixelFormat Format, TPalette Palette)
     : FWidth(Width),
@@ -238,8 +237,7 @@ void TBitmapImage::Dormant()
     FBits = nullptr;
 }
 
-// --- Access
-// -----------------------------------------------------------------------------------------------------------
+// --- Access --------------------------------------------------------------------------------------
 
 HBITMAP TBitmapImage::Handle()
 {
@@ -302,8 +300,7 @@ const TMaskedImage& TBitmapImage::Masked(TBitmap* Bitmap, COLORREF Color)
     return FMasked;
 }
 
-// --- Copies
-// -----------------------------------------------------------------------------------------------------------
+// --- Copies --------------------------------------------------------------------------------------
 
 std::shared_ptr<TBitmapImage> TBitmapImage::Copy(int Width, int Height, TPixelFormat Format, COLORREF Fill)
 {

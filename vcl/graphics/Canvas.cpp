@@ -72,8 +72,7 @@ TCanvas::~TCanvas()
     DeselectHandles();
 }
 
-// --- The context and what is selected in it
-// ---------------------------------------------------------------------------
+// --- The context and what is selected in it ------------------------------------------------------
 
 HDC TCanvas::GetHandle()
 {
@@ -186,8 +185,7 @@ void TCanvas::Paint(TCanvasState Required, Operation&& Operate)
     Changed();
 }
 
-// --- Lines and shapes
-// -------------------------------------------------------------------------------------------------
+// --- Lines and shapes ----------------------------------------------------------------------------
 
 TPoint TCanvas::GetPenPos()
 {
@@ -280,8 +278,7 @@ void TCanvas::Pie(int X1, int Y1, int X2, int Y2, int X3, int Y3, int X4, int Y4
           [&](HDC Context) { ::Pie(Context, X1, Y1, X2, Y2, X3, Y3, X4, Y4); });
 }
 
-// --- Areas
-// ------------------------------------------------------------------------------------------------------------
+// --- Areas ---------------------------------------------------------------------------------------
 
 void TCanvas::FillRect(const TRect& R)
 {
@@ -308,8 +305,7 @@ void TCanvas::DrawFocusRect(const TRect& R)
     Paint({csHandleValid, csBrushValid}, [&](HDC Context) { ::DrawFocusRect(Context, &R); });
 }
 
-// --- Pictures
-// ---------------------------------------------------------------------------------------------------------
+// --- Pictures ------------------------------------------------------------------------------------
 
 void TCanvas::Draw(int X, int Y, TGraphic* Graphic)
 {
@@ -358,8 +354,7 @@ void TCanvas::BrushCopy(const TRect& Dest, TBitmap* Bitmap, const TRect& Source,
     });
 }
 
-// --- Text
-// -------------------------------------------------------------------------------------------------------------
+// --- Text ----------------------------------------------------------------------------------------
 
 void TCanvas::TextOut(int X, int Y, std::string_view Text)
 {

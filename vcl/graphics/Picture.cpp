@@ -174,8 +174,7 @@ AnsiString TPicture::GraphicFilter(TClass Class)
     return All.empty() ? All : "All (" + All + ")|" + All + Each;
 }
 
-// --- Form files
-// -------------------------------------------------------------------------------------------------------
+// --- Form files ----------------------------------------------------------------------------------
 
 bool TPicture::HasData(TFiler& Filer) const
 {
