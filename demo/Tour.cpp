@@ -1,0 +1,178 @@
+#include "demo/Tour.h"
+
+#include "demo/Main.h"
+#include "glyphs/toolbar16.h"
+
+namespace {
+
+constexpr int Patience = 10000; // milliseconds for one condition
+
+// Handles messages until Condition holds. What names it in the exception.
+void WaitFor(std::string_view What, const std::function<bool()>& Condition)
+{
+    const ULONGLONG Deadline = GetTickCount64() + Patience;
+    for (;;) {
+        Application->ProcessMessages();
+        if (Condition())
+            return;
+        if (GetTickCount64() >= Deadline)
+            throw Exception(Format("The tour waits in vain: %s", What));
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+    }
+}
+
+void SendMouse(DWORD Flags, LONG X = 0, LONG Y = 0)
+{
+    INPUT Input = {};
+    Input.type = INPUT_MOUSE;
+    Input.mi.dwFlags = Flags;
+    Input.mi.dx = X;
+    Input.mi.dy = Y;
+    SendInput(1, &Input, sizeof(Input));
+}
+
+// A pixel in the units of absolute movements: the middle of what the system rounds to it.
+LONG Normalized(int Pixel, int Size)
+{
+    return static_cast<LONG>((int64_t{Pixel} * 65536 + 32768) / Size);
+}
+
+void MovePointer(const TPoint& Target)
+{
+    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Normalized(Target.x, GetSystemMetrics(SM_CXSCREEN)),
+              Normalized(Target.y, GetSystemMetrics(SM_CYSCREEN)));
+    WaitFor("the pointer to move", [&] {
+        TPoint Now;
+        return GetCursorPos(&Now) && Now == Target;
+    });
+}
+
+// A picture of the screen does not have the pointer in it.
+void DrawPointer(TCanvas* Canvas, const TRect& Window)
+{
+    CURSORINFO Info = {};
+    Info.cbSize = sizeof(Info);
+    ICONINFO Icon = {};
+    if (!GetCursorInfo(&Info) || !GetIconInfo(Info.hCursor, &Icon))
+        return;
+    const TPoint At(Info.ptScreenPos.x - Icon.xHotspot - Window.Left, Info.ptScreenPos.y - Icon.yHotspot - Window.Top);
+    DrawIconEx(Canvas->Handle, At.x, At.y, Info.hCursor, 0, 0, 0, nullptr, DI_NORMAL);
+    DeleteObject(Icon.hbmMask);
+    if (Icon.hbmColor)
+        DeleteObject(Icon.hbmColor);
+}
+
+bool IsHintShowing()
+{
+    HWND Window = FindWindowW(L"THintWindow", nullptr);
+    return Window && IsWindowVisible(Window);
+}
+
+} // namespace
+
+void TTour::Run()
+{
+    FForm->Show();
+    MovePointer({GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2});
+    WaitFor("the window to be active", [this] { return FForm->Active; });
+    TakePicture("start");
+    ShowButtons();
+    ShowMagnifier();
+    ShowSwitches();
+}
+
+void TTour::ShowButtons()
+{
+    PointAt(FForm->OpenButton);
+    TakePicture("hot");
+    WaitFor("a hint", IsHintShowing);
+    TakePicture("hint");
+    Press();
+    TakePicture("pressed");
+    Release();
+
+    Click(FForm->ItalicButton);
+    WaitFor("a latched button", [this] { return FForm->ItalicButton->Down; });
+    Click(FForm->AlignCenterButton);
+    WaitFor("the group's other button to come up", [this] { return !FForm->AlignLeftButton->Down; });
+    Click(FForm->BulletsButton);
+    WaitFor("a latched list button", [this] { return FForm->BulletsButton->Down; });
+    TakePicture("latched");
+
+    PointAt(FForm->PasteButton);
+    TakePicture("disabled");
+}
+
+void TTour::ShowMagnifier()
+{
+    const int Cell = tgSpelling;
+    for (int Step = 0; Step < Cell; ++Step)
+        Click(FForm->NextButton);
+    WaitFor("the strip to move on", [this] { return FForm->CellScroll->Position == Cell; });
+    TakePicture("magnifier");
+}
+
+void TTour::ShowSwitches()
+{
+    Click(FForm->SampleLeft);
+    WaitFor("the sample to latch", [this] { return FForm->SampleLeft->Down; });
+    Click(FForm->LayoutLeft);
+    WaitFor("the other layout", [this] { return FForm->SampleLeft->Layout == blGlyphLeft; });
+    Click(FForm->FlatSwitch);
+    WaitFor("raised samples", [this] { return !FForm->SampleLeft->Flat; });
+    TakePicture("raised-samples");
+    Click(FForm->EnabledSwitch);
+    WaitFor("disabled samples", [this] { return !FForm->SampleLeft->Enabled; });
+    TakePicture("disabled-samples");
+}
+
+// ---- what a user does
+
+void TTour::PointAt(TControl* Control)
+{
+    PointAt(Control, Control->Width / 2, Control->Height / 2);
+}
+
+void TTour::PointAt(TControl* Control, int X, int Y)
+{
+    MovePointer(Control->ClientToScreen({X, Y}));
+    WaitFor("a control to notice the pointer", [Control] { return TMouse::HotControl() == Control; });
+}
+
+void TTour::Press()
+{
+    SendMouse(MOUSEEVENTF_LEFTDOWN);
+    WaitFor("a control to take the mouse", [] { return TMouse::CaptureControl() != nullptr; });
+}
+
+void TTour::Release()
+{
+    SendMouse(MOUSEEVENTF_LEFTUP);
+    WaitFor("the mouse to be free", [] { return TMouse::CaptureControl() == nullptr; });
+}
+
+void TTour::Click(TControl* Control)
+{
+    PointAt(Control);
+    Press();
+    Release();
+}
+
+// ---- and sees
+
+void TTour::TakePicture(std::string_view Name)
+{
+    Application->ProcessMessages();
+    GdiFlush();
+    TRect Window;
+    GetWindowRect(FForm->Handle, &Window);
+
+    TBitmap Picture;
+    Picture.PixelFormat = pf24bit;
+    Picture.SetSize(Window.Width(), Window.Height());
+    HDC Screen = GetDC(nullptr);
+    BitBlt(Picture.Canvas->Handle, 0, 0, Window.Width(), Window.Height(), Screen, Window.Left, Window.Top, SRCCOPY);
+    ReleaseDC(nullptr, Screen);
+    DrawPointer(Picture.Canvas, Window);
+    Picture.SaveToFile(Format("%s/%.2d-%s.bmp", FFolder, ++FPictures, Name));
+}
