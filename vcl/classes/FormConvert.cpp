@@ -45,13 +45,17 @@ void ConvertStream(TStream& Input, TStream& Output, TConvert Convert)
 
 std::size_t FormTextToBinary(std::string_view Text, std::string& Output)
 {
-    return Complete(Output, [&] { return TFormCompiler(Text, Output).Run(); });
+    return Complete(Output, [&] {
+        Output.reserve(Output.size() + Text.size() * 3 / 4); // usually enough
+        return TFormCompiler(Text, Output).Run();
+    });
 }
 
 std::size_t FormBinaryToText(std::string_view Binary, std::string& Output, const TFormTextOptions& Options)
 {
     return Complete(Output, [&] {
         const std::size_t Header = ResourceHeaderSize(Binary);
+        Output.reserve(Output.size() + Binary.size() * 2); // usually enough
         TFormCursor Input(Binary.substr(Header), Header);
         TFormPrinter(Input, Output, Options).Run();
         return Input.Offset();
