@@ -7,8 +7,6 @@
 
 // Handles what is in the message queue, and returns.
 void PumpMessages();
-// From here on Handle does that, such as Application->ProcessMessages with its keys and hints; nullptr: a plain loop.
-void UsePump(void (*Handle)());
 // From here on ProcessMessages does that: an application's own loop, which knows more than the system's. nullptr: the
 // system's again.
 void UseMessageLoop(void (*ProcessMessages)());

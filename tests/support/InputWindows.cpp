@@ -59,11 +59,6 @@ void UseMessageLoop(void (*ProcessMessages)())
     MessageLoop = ProcessMessages;
 }
 
-void UsePump(void (*Handle)())
-{
-    Pump = Handle;
-}
-
 bool PumpUntil(const std::function<bool()>& Condition, int Milliseconds)
 {
     const ULONGLONG Deadline = GetTickCount64() + Milliseconds;
