@@ -5,13 +5,13 @@
 #include "vcl/controls/CustomControl.h"
 
 // A top-level window without a caption, in a colour of its own. It need not be shown for painting into a picture.
-class TTestWindow : public TCustomControl {
-    VCL_CLASS(TTestWindow, TCustomControl)
+class THostWindow : public TCustomControl {
+    VCL_CLASS(THostWindow, TCustomControl)
 public:
     static constexpr TColor BackgroundColor = TColor(0x40A0E0);
 
     // 300 by 200 pixels; its window exists.
-    explicit TTestWindow(TComponent* AOwner = nullptr);
+    explicit THostWindow(TComponent* AOwner = nullptr);
 
     // Shows the window above all others and waits until it is painted.
     void ShowNow();
@@ -25,5 +25,5 @@ protected:
 // windowless control; a window has at least its background.
 TPixelImage PaintToBitmap(TControl* Control);
 
-// What the screen shows of the control's window or place.
+// What the window on the screen shows of the control.
 TPixelImage ScreenPixels(TControl* Control);

@@ -4,35 +4,37 @@
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/system/ClassBuilder.h"
 
-void TTestWindow::Describe(TClassBuilder<TTestWindow>&)
+void THostWindow::Describe(TClassBuilder<THostWindow>&)
 {}
 
-TTestWindow::TTestWindow(TComponent* AOwner) : TCustomControl(AOwner)
+THostWindow::THostWindow(TComponent* AOwner) : TCustomControl(AOwner)
 {
     ControlStyle = ControlStyle + TControlStyle{csAcceptsControls};
     SetBounds(100, 100, 300, 200);
     Color = BackgroundColor;
+    Visible = false;
+    ParentWindow = GetDesktopWindow(); // makes it a window that can be shown
     HandleNeeded();
 }
 
-void TTestWindow::CreateParams(TCreateParams& Params)
+void THostWindow::CreateParams(TCreateParams& Params)
 {
     inherited::CreateParams(Params);
     Params.Style = WS_POPUP | WS_CLIPCHILDREN;
     Params.ExStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
 }
 
-void TTestWindow::Paint()
+void THostWindow::Paint()
 {
     Canvas->Brush->Color = Color;
     Canvas->FillRect(ClientRect);
 }
 
-void TTestWindow::ShowNow()
+void THostWindow::ShowNow()
 {
-    ::ShowWindow(Handle, SW_SHOW);
+    Visible = true;
     SetForegroundWindow(Handle);
-    UpdateWindow(Handle);
+    Update();
     PumpMessages();
 }
 
@@ -51,10 +53,13 @@ TPixelImage PaintToBitmap(TControl* Control)
 
 TPixelImage ScreenPixels(TControl* Control)
 {
-    const TPoint Origin = Control->ClientToScreen(TPoint(0, 0));
+    // Read through the window: the screen itself may follow a moment later.
+    auto* Window = As<TWinControl>(Control);
+    const TPoint Origin = Window ? TPoint() : TPoint(Control->Left, Control->Top);
+    HWND Handle = (Window ? Window : Control->Parent)->Handle;
     TPixelImage Image(Control->Width, Control->Height);
-    HDC Screen = GetDC(nullptr);
-    BitBlt(Image.DC(), 0, 0, Image.Width(), Image.Height(), Screen, Origin.x, Origin.y, SRCCOPY);
-    ReleaseDC(nullptr, Screen);
+    HDC Context = GetDC(Handle);
+    BitBlt(Image.DC(), 0, 0, Image.Width(), Image.Height(), Context, Origin.x, Origin.y, SRCCOPY);
+    ReleaseDC(Handle, Context);
     return Image;
 }
