@@ -3,7 +3,6 @@
 #include "vcl/system/Ident.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace {
 bool BeforeNumber(const TMessageInfo& Entry, uint32_t Number)
@@ -64,38 +63,35 @@ void TClassDescription::AddMessage(const TMessageInfo& Message)
 
 void TClassDescription::Seal()
 {
-    FByName.assign(std::bit_ceil(FPublished.size() * 2 + 1), nullptr);
-    for (const TPropertyInfo* Property : FPublished) {
-        size_t Slot = IdentHash(Property->Name) & (FByName.size() - 1);
-        while (FByName[Slot])
-            Slot = (Slot + 1) & (FByName.size() - 1);
-        FByName[Slot] = Property;
-    }
+    FPropertyIndex.Reset(FPublished.size());
+    for (const TPropertyInfo* Property : FPublished)
+        FPropertyIndex.Add(*Property);
+    FFieldIndex.Reset(FFields.size());
+    for (const TFieldInfo& Field : FFields)
+        FFieldIndex.Add(Field);
+    FMethodIndex.Reset(FMethods.size());
+    for (const TMethodInfo& Method : FMethods)
+        FMethodIndex.Add(Method);
 }
 
 const TPropertyInfo* TClassDescription::FindProperty(std::string_view Name) const
 {
-    for (size_t Slot = IdentHash(Name) & (FByName.size() - 1); FByName[Slot]; Slot = (Slot + 1) & (FByName.size() - 1))
-        if (SameIdent(FByName[Slot]->Name, Name))
-            return FByName[Slot];
-    return nullptr;
+    return FPropertyIndex.Find(Name);
 }
 
 const TFieldInfo* TClassDescription::FindField(std::string_view Name) const
 {
     for (const TClassDescription* Class = this; Class; Class = Class->FParent)
-        for (const TFieldInfo& Field : Class->FFields)
-            if (SameIdent(Field.Name, Name))
-                return &Field;
+        if (const TFieldInfo* Field = Class->FFieldIndex.Find(Name))
+            return Field;
     return nullptr;
 }
 
 const TMethodInfo* TClassDescription::FindMethod(std::string_view Name) const
 {
     for (const TClassDescription* Class = this; Class; Class = Class->FParent)
-        for (const TMethodInfo& Method : Class->FMethods)
-            if (SameIdent(Method.Name, Name))
-                return &Method;
+        if (const TMethodInfo* Method = Class->FMethodIndex.Find(Name))
+            return Method;
     return nullptr;
 }
 

@@ -2,6 +2,7 @@
 // description serves form streaming, dispatch by number, the object inspector and creation by name.
 #pragma once
 
+#include "vcl/system/IdentIndex.h"
 #include "vcl/system/TypeInfo.h"
 
 #include <deque>
@@ -113,8 +114,10 @@ private:
     const TClassDescription* FParent;
     std::deque<TPropertyInfo> FOwn;
     std::vector<const TPropertyInfo*> FPublished;
-    std::vector<const TPropertyInfo*> FByName; // open-addressing table over FPublished; size is a power of two
-    std::vector<TMessageInfo> FMessages;       // by number, the ancestors' included
-    std::vector<TFieldInfo> FFields;           // the class's own
-    std::vector<TMethodInfo> FMethods;         // the class's own
+    std::vector<TMessageInfo> FMessages; // by number, the ancestors' included
+    std::vector<TFieldInfo> FFields;     // the class's own
+    std::vector<TMethodInfo> FMethods;   // the class's own
+    TIdentIndex<TPropertyInfo> FPropertyIndex;
+    TIdentIndex<TFieldInfo> FFieldIndex;
+    TIdentIndex<TMethodInfo> FMethodIndex;
 };
