@@ -16,18 +16,19 @@ LRESULT CALLBACK UtilityProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam
         auto* Create = reinterpret_cast<CREATESTRUCTW*>(LParam);
         SetWindowLongPtrW(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Create->lpCreateParams));
     }
-    auto* Method = reinterpret_cast<TWndMethod*>(GetWindowLongPtrW(Window, GWLP_USERDATA));
-    if (!Method)
+    auto* Held = reinterpret_cast<TWndMethod*>(GetWindowLongPtrW(Window, GWLP_USERDATA));
+    if (!Held)
         return DefWindowProcW(Window, Msg, WParam, LParam);
+    const TWndMethod Method = *Held; // the method may end the window
 
     TMessage Message{.Msg = Msg, .WParam = WParam, .LParam = LParam};
     try {
         if (Msg == WM_NCCREATE || Msg == WM_CREATE || Msg == WM_NCCALCSIZE)
             DefaultWindowProc(Window, Message); // the caller does not have the handle yet
         else
-            (*Method)(Message);
+            Method(Message);
     } catch (...) {
-        ReportException(Method->Data());
+        ReportException(Method.Data());
     }
     return Message.Result;
 }
