@@ -30,10 +30,14 @@ public:
     {
         KillTimer(Window, reinterpret_cast<UINT_PTR>(Timer));
         Running.erase(Timer);
-        if (!Running.empty() || Raising)
-            return;
-        DeallocateHWnd(Window);
-        Window = nullptr;
+        CloseWhenIdle();
+    }
+
+    static void Forget(TTimer* Timer)
+    {
+        for (TRaising* Frame = Raising; Frame; Frame = Frame->Outer)
+            if (Frame->Timer == Timer)
+                Frame->Timer = nullptr;
     }
 
 private:
@@ -50,22 +54,34 @@ private:
     // The handler may stop, restart or delete any timer. The window stays meanwhile.
     static void Raise(TTimer* Timer)
     {
-        ++Raising;
+        TRaising Frame{Timer, Raising};
+        Raising = &Frame;
         try {
             Timer->Timer();
         } catch (...) {
-            ReportException(Running.contains(Timer) ? Timer : nullptr);
+            ReportException(Frame.Timer);
         }
-        --Raising;
-        if (Running.empty() && !Raising) {
-            DeallocateHWnd(Window);
-            Window = nullptr;
-        }
+        Raising = Frame.Outer;
+        CloseWhenIdle();
     }
+
+    static void CloseWhenIdle()
+    {
+        if (!Running.empty() || Raising)
+            return;
+        DeallocateHWnd(Window);
+        Window = nullptr;
+    }
+
+    // The timers whose handlers run now, the innermost first; nullptr for one that was deleted meanwhile.
+    struct TRaising {
+        TTimer* Timer;
+        TRaising* Outer;
+    };
 
     static inline HWND Window = nullptr;
     static inline std::unordered_set<TTimer*> Running;
-    static inline int Raising = 0;
+    static inline TRaising* Raising = nullptr;
 };
 
 TTimer::TTimer(TComponent* AOwner) : TComponent(AOwner)
@@ -76,6 +92,7 @@ TTimer::~TTimer() = default;
 void TTimer::BeforeDestruction()
 {
     Stop();
+    TTimerWindow::Forget(this);
     inherited::BeforeDestruction();
 }
 
