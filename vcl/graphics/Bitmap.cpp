@@ -77,11 +77,6 @@ void TBitmap::Assign(TPersistent* Source)
     SetImage(Drawn.FImage, pfDevice);
 }
 
-void TBitmap::Changed(TObject* Sender)
-{
-    TGraphic::Changed(Sender);
-}
-
 bool TBitmap::GetEmpty() const
 {
     return !FImage;

@@ -102,7 +102,6 @@ public:
 
 protected:
     void Draw(TCanvas* ACanvas, const TRect& R) override;
-    void Changed(TObject* Sender) override;
 
 private:
     friend class TBitmapCanvas;

@@ -2,6 +2,8 @@
 //
 // Coordinates are in pixels of the device context. A text's background and a broken line's gaps are filled with the
 // brush's colour when its style is bsSolid, and left alone otherwise.
+//
+// Canvases, and all that is drawn with or on, belong to the thread of the user interface.
 #pragma once
 
 #include "vcl/graphics/Brush.h"

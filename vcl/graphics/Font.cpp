@@ -51,6 +51,27 @@ TFontKey MakeDefaultKey()
     return Key;
 }
 
+bool HasFace(const wchar_t* Name)
+{
+    TFontHandle Font(CreateFontW(0, 0, 0, 0, 0, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, Name));
+    TMemoryDC Context(CreateCompatibleDC(nullptr));
+    HGDIOBJ Old = SelectObject(Context.Get(), Font.Get());
+    wchar_t Found[LF_FACESIZE] = {};
+    GetTextFaceW(Context.Get(), LF_FACESIZE, Found);
+    SelectObject(Context.Get(), Old);
+    return lstrcmpiW(Found, Name) == 0;
+}
+
+// The bitmap font has the letters of one code page only; where the system has the outline font of the same look and
+// size, that one takes its place.
+const wchar_t* ShownFace(const wchar_t* Name)
+{
+    if (lstrcmpiW(Name, L"MS Sans Serif") != 0)
+        return Name;
+    static const bool HasOutlines = HasFace(L"Microsoft Sans Serif");
+    return HasOutlines ? L"Microsoft Sans Serif" : Name;
+}
+
 // Kept, so that making a font with default values only counts a reference.
 const TSharedFont& DefaultFont()
 {
@@ -105,7 +126,9 @@ size_t TFontKind::Hash(const TFontKey& Key)
 
 HFONT TFontKind::Create(const TFontKey& Key)
 {
-    return CreateFontIndirectW(&Key);
+    TFontKey Shown = Key;
+    PutFaceName(Shown, ShownFace(Key.lfFaceName));
+    return CreateFontIndirectW(&Shown);
 }
 
 void TFont::Describe(TClassBuilder<TFont>& Class)

@@ -110,8 +110,6 @@ void TCustomImageList::Draw(TCanvas* Canvas, int X, int Y, int Index, TDrawingSt
         UINT Flags = StyleFlags[Style] | (Type == itMask ? ILD_MASK : 0);
         ImageList_DrawEx(FHandle, Index, Target, X, Y, 0, 0, ListColor(FBkColor), ListColor(FBlendColor), Flags);
     }
-    if (Canvas->OnChange)
-        Canvas->OnChange(Canvas);
 }
 
 bool TCustomImageList::Overlay(int ImageIndex, int Overlay)

@@ -169,7 +169,9 @@ AnsiString TPicture::GraphicFilter(TClass Class)
             continue;
         AnsiString Pattern = "*." + Format.Extension;
         Each += "|" + Format.Description + " (" + Pattern + ")|" + Pattern;
-        All += (All.empty() ? "" : ";") + Pattern;
+        if (!All.empty())
+            All += ';';
+        All += Pattern;
     }
     return All.empty() ? All : "All (" + All + ")|" + All + Each;
 }
