@@ -238,6 +238,19 @@ TEST(BitmapFile, MonochromeBitmapsAreWritten)
     EXPECT_EQ(PixelsOf(Again), PixelsOf(Mono));
 }
 
+TEST(BitmapFile, TheDevicesFormatIsWrittenWithoutAlpha)
+{
+    auto Bitmap = NewBitmap(2, 1);
+    static_cast<uint32_t*>(Bitmap->ScanLine[0])[1] = 0x80123456;
+    TBitmap Again;
+    LoadFromBytes(Again, SaveToBytes(*Bitmap));
+    EXPECT_EQ(Again.PixelFormat, pf24bit);
+    EXPECT_EQ(PixelsOf(Again), (std::vector<uint32_t>{0xFFFFFF, 0x123456}));
+    Bitmap->PixelFormat = pf32bit;
+    LoadFromBytes(Again, SaveToBytes(*Bitmap));
+    EXPECT_EQ(static_cast<uint32_t*>(Again.ScanLine[0])[1], 0x80123456u);
+}
+
 TEST(BitmapFile, FilesAndDataRoundTrip)
 {
     wchar_t Folder[MAX_PATH], Name[MAX_PATH];

@@ -9,6 +9,7 @@
 #include "vcl/graphics/Handle.h"
 
 #include <memory>
+#include <vector>
 
 class TBitmapCanvas;
 class TBitmapImage;
@@ -87,6 +88,8 @@ public:
     bool IgnorePalette = false;
 
     void LoadFromStream(TStream* Stream) override;
+    // A bitmap that was read and not changed since is written as it was read; one of the device's format with 24 bits,
+    // as its upper bytes mean nothing.
     void SaveToStream(TStream* Stream) override;
     // From the program's or library's resources. Raises EResNotFound "Resource %s not found".
     void LoadFromResourceName(HINSTANCE Instance, const AnsiString& ResName);
@@ -113,6 +116,7 @@ private:
     TBitmapImage& OwnImage();
     void SetImage(std::shared_ptr<TBitmapImage> Image, TPixelFormat Format);
     std::shared_ptr<TBitmapImage> NewImage(int AWidth, int AHeight, TPixelFormat Format, bool Monochrome);
+    std::vector<uint8_t> FileBytes();
     void LoadResource(HINSTANCE Instance, const wchar_t* ResName, const AnsiString& Shown);
 
     std::shared_ptr<TBitmapImage> FImage; // nullptr: empty

@@ -31,10 +31,19 @@ void TBitmap::LoadFromStream(TStream* Stream)
     SetImage(std::move(Image), Format);
 }
 
+std::vector<uint8_t> TBitmap::FileBytes()
+{
+    if (!FImage)
+        return {};
+    // Other programs would take what drawing leaves there for alpha.
+    if (FPixelFormat == pfDevice && FImage->BitCount() == 32)
+        return EncodeBitmap(*FImage->Copy(FWidth, FHeight, pf24bit, 0));
+    return EncodeBitmap(*FImage);
+}
+
 void TBitmap::SaveToStream(TStream* Stream)
 {
-    if (FImage)
-        WriteBytes(Stream, EncodeBitmap(*FImage));
+    WriteBytes(Stream, FileBytes());
 }
 
 void TBitmap::ReadData(TStream* Stream)
@@ -52,7 +61,7 @@ void TBitmap::ReadData(TStream* Stream)
 
 void TBitmap::WriteData(TStream* Stream)
 {
-    std::vector<uint8_t> File = FImage ? EncodeBitmap(*FImage) : std::vector<uint8_t>();
+    std::vector<uint8_t> File = FileBytes();
     auto Size = static_cast<int32_t>(File.size());
     Stream->WriteBuffer(&Size, sizeof Size);
     WriteBytes(Stream, File);

@@ -20,7 +20,7 @@ struct TBrushKey {
 struct TBrushKind {
     using TKey = TBrushKey;
     using THandle = HBRUSH;
-    static constexpr size_t IdleLimit = 64;
+    static constexpr size_t IdleLimit = 256; // a gradient's worth
     static size_t Hash(const TBrushKey& Key);
     static HBRUSH Create(const TBrushKey& Key);
 };

@@ -20,7 +20,7 @@ struct TPenKey {
 struct TPenKind {
     using TKey = TPenKey;
     using THandle = HPEN;
-    static constexpr size_t IdleLimit = 64;
+    static constexpr size_t IdleLimit = 256; // a gradient's worth
     static size_t Hash(const TPenKey& Key);
     static HPEN Create(const TPenKey& Key);
 };
