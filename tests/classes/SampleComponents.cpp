@@ -1,6 +1,7 @@
 #include "tests/classes/SampleComponents.h"
 
 #include "vcl/classes/FormConvert.h"
+#include "vcl/classes/LoadingBatch.h"
 #include "vcl/classes/MemoryStream.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/StringStream.h"
@@ -254,7 +255,9 @@ std::string TSampleFrame::FormText = "object Frame: TSampleFrame\n"
 
 TSampleFrame::TSampleFrame(TComponent* AOwner) : TSampleForm(AOwner)
 {
+    TLoadingBatch Batch(this);
     Load(this, FormText);
+    Batch.Finish();
 }
 
 void TSampleFrame::Describe(TClassBuilder<TSampleFrame>&)

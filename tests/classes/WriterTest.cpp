@@ -1,6 +1,7 @@
 #include "vcl/classes/Writer.h"
 
 #include "tests/classes/SampleComponents.h"
+#include "vcl/classes/LoadingBatch.h"
 #include "vcl/classes/MemoryStream.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/StringStream.h"
@@ -344,6 +345,23 @@ TEST_F(DescendentTest, AMissingAncestorMayBeSupplied)
     };
     Reader.ReadRootComponent(Form);
     EXPECT_EQ(Find("A")->GetNumber(), 9);
+}
+
+TEST_F(WriterTest, AFormReadInStepsHearsLoadedOnce)
+{
+    SampleLog.clear();
+    {
+        TLoadingBatch Batch(Form);
+        Load(Form, "object Form: TSampleForm\n object A: TSampleBox\n end\n object B: TSampleBox\n end\nend");
+        EXPECT_TRUE(Form->ComponentState.Contains(csLoading));
+        delete Form->FindComponent("B");
+        Load(Form, "inherited Form2: TSampleForm\n inherited A: TSampleBox\n end\n object C: TSampleBox\n end\nend");
+        EXPECT_TRUE(SampleLog.empty());
+        Batch.Finish();
+    }
+    EXPECT_EQ(SampleLog, (std::vector<std::string>{"Loaded Form2", "Loaded A", "Loaded C"}));
+    EXPECT_TRUE(Form->ComponentState.Empty());
+    EXPECT_EQ(Form->Name, "Form2");
 }
 
 // ---- Frames

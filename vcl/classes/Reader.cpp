@@ -1,11 +1,13 @@
 #include "vcl/classes/Reader.h"
 
 #include "vcl/classes/CustomMemoryStream.h"
+#include "vcl/classes/LoadingBatch.h"
 #include "vcl/system/ClassDescription.h"
 #include "vcl/system/Ident.h"
 #include "vcl/system/Locale.h"
 
 #include <algorithm>
+#include <optional>
 
 // From the first object to the last reference. Left without Finish, it deletes what was made.
 class TReader::TSession {
@@ -132,11 +134,8 @@ void TReader::FixupReferences()
     FFixups.Clear();
     GlobalFixupReferences();
 
-    TReader* Outer = FInlineReader;
-    if (Outer && Outer != this && Root && Root->ClassType() == FInlineClass) {
-        // A frame that is part of a form: the form's own values come before Loaded.
-        for (TComponent* Component : FLoaded)
-            Outer->FLoaded.push_back(Component);
+    if (TLoadingBatch* Batch = TLoadingBatch::Find(TLoadingBatch::FInnermost, Root)) {
+        Batch->FLoaded.insert(Batch->FLoaded.end(), FLoaded.begin(), FLoaded.end());
         FLoaded.clear();
     }
     for (size_t I = 0; I < FLoaded.size(); ++I)
@@ -166,18 +165,31 @@ void TReader::Track(TComponent* Component)
     FLoaded.push_back(Component);
 }
 
+// Those of a batch that waits for more are tracked further.
+void TReader::Untrack(std::vector<TComponent*>& Components) noexcept
+{
+    for (TComponent* Component : Components)
+        if (Component && !Component->FState.Contains(csLoading))
+            Component->FTracked = false;
+    Components.clear();
+}
+
+// Without a call of Loaded.
+void TReader::EndLoading(std::vector<TComponent*>& Components) noexcept
+{
+    for (TComponent* Component : Components)
+        if (Component) {
+            Component->FState >> csLoading >> csReading;
+            Component->FTracked = false;
+        }
+    Components.clear();
+}
+
 // Everything is well: the components are nobody's business but their owner's.
 void TReader::Release() noexcept
 {
-    // Those of a frame are still tracked by the form's reader.
-    for (TComponent* Component : FCreated)
-        if (Component && !Component->FState.Contains(csLoading))
-            Component->FTracked = false;
-    for (TComponent* Component : FLoaded)
-        if (Component && !Component->FState.Contains(csLoading))
-            Component->FTracked = false;
-    FCreated.clear();
-    FLoaded.clear();
+    Untrack(FCreated);
+    Untrack(FLoaded);
     FFixups.Clear();
     FDepth = 0;
 }
@@ -191,12 +203,7 @@ void TReader::Discard() noexcept
         FCreated.pop_back();
         delete Component;
     }
-    for (TComponent* Component : FLoaded)
-        if (Component) {
-            Component->FState >> csLoading >> csReading;
-            Component->FTracked = false;
-        }
-    FLoaded.clear();
+    EndLoading(FLoaded);
     FDepth = 0;
 }
 
@@ -208,6 +215,7 @@ void TReader::Forget(const TComponent* Component)
         std::replace(Reader->FLoaded.begin(), Reader->FLoaded.end(), const_cast<TComponent*>(Component),
                      static_cast<TComponent*>(nullptr));
     }
+    TLoadingBatch::Forget(Component);
 }
 
 // ---- Objects
@@ -317,24 +325,19 @@ TComponent* TReader::CreateComponent(TClass Class, const TFormPrefix& Prefix)
     if (OnCreateComponent)
         OnCreateComponent(this, Class, Component);
     bool Inline = (Prefix.Flags & FilerFlagInline) != 0;
-    if (!Component) {
-        struct TInlineMark {
-            TReader* Reader = FInlineReader;
-            TClass Class = FInlineClass;
-            ~TInlineMark()
-            {
-                FInlineReader = Reader;
-                FInlineClass = Class;
-            }
-        } Restore;
-        FInlineReader = Inline ? this : nullptr;
-        FInlineClass = Class;
-        Component = Class->Create(FOwner);
-    }
-    FCreated.push_back(Component);
-    Track(Component);
+    // A frame reads its own form in its constructor; this form's values come before its Loaded.
+    std::optional<TLoadingBatch> Batch;
     if (Inline)
+        Batch.emplace(Class);
+    if (!Component)
+        Component = Class->Create(FOwner);
+    FCreated.push_back(Component);
+    if (Inline) {
+        FLoaded.insert(FLoaded.end(), Batch->FLoaded.begin(), Batch->FLoaded.end());
+        Batch->FLoaded.clear();
         Component->FState << csInline;
+    }
+    Track(Component);
     return Component;
 }
 

@@ -15,6 +15,7 @@
 #include <vector>
 
 class TCollection;
+class TLoadingBatch;
 struct TMethodInfo;
 struct TPropertyInfo;
 struct TTypeInfo;
@@ -134,6 +135,7 @@ public:
 
 private:
     friend class TComponent;
+    friend class TLoadingBatch;
     class TSession;
     class TReadingScope;
 
@@ -178,12 +180,12 @@ private:
     [[noreturn]] void FailValue() const;
 
     void Track(TComponent* Component);
+    static void Untrack(std::vector<TComponent*>& Components) noexcept;
+    static void EndLoading(std::vector<TComponent*>& Components) noexcept;
     void Discard() noexcept;
     void Release() noexcept;
 
     static inline constinit TReader* FFirstActive = nullptr;
-    static inline constinit TReader* FInlineReader = nullptr; // makes a frame just now
-    static inline constinit TClass FInlineClass = nullptr;    // of this class
 
     TStream* FStream;
     std::string FCopy; // what a stream that is not in memory held

@@ -1,5 +1,6 @@
 #include "vcl/forms/LoadForm.h"
 
+#include "vcl/classes/LoadingBatch.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/ResourceStream.h"
 #include "vcl/forms/CustomForm.h"
@@ -29,6 +30,7 @@ bool InitInheritedComponent(TComponent* Instance, TClass RootAncestor)
     std::vector<TClass> Chain;
     for (TClass Class = Instance->ClassType(); Class && Class != RootAncestor; Class = Class->ClassParent())
         Chain.push_back(Class);
+    TLoadingBatch Batch(Instance);
     for (size_t I = Chain.size(); I-- > 0;) {
         if (!HasForm(Chain[I]))
             continue;
@@ -36,6 +38,7 @@ bool InitInheritedComponent(TComponent* Instance, TClass RootAncestor)
         ReadRootComponent(Form, Instance);
         Found = true;
     }
+    Batch.Finish();
     return Found;
 }
 

@@ -2,28 +2,18 @@
 #include "vcl/system/Utf.h"
 #include "vcl/system/WindowsApi.h"
 
-namespace {
-
-AnsiString MapCase(std::string_view Text, DWORD Flags)
-{
-    if (Text.empty())
-        return {};
-    TWideString Wide = ToWide(Text);
-    LCMapStringEx(LOCALE_NAME_USER_DEFAULT, Flags | LCMAP_LINGUISTIC_CASING, Wide.data(), static_cast<int>(Wide.size()),
-                  Wide.data(), static_cast<int>(Wide.size()), nullptr, nullptr, 0);
-    return FromWide(Wide);
-}
-
-} // namespace
-
 AnsiString LocaleUpperCase(std::string_view Text)
 {
-    return MapCase(Text, LCMAP_UPPERCASE);
+    TWideString Wide = ToWide(Text);
+    CharUpperBuffW(Wide.data(), static_cast<DWORD>(Wide.size()));
+    return FromWide(Wide);
 }
 
 AnsiString LocaleLowerCase(std::string_view Text)
 {
-    return MapCase(Text, LCMAP_LOWERCASE);
+    TWideString Wide = ToWide(Text);
+    CharLowerBuffW(Wide.data(), static_cast<DWORD>(Wide.size()));
+    return FromWide(Wide);
 }
 
 int LocaleCompare(std::string_view A, std::string_view B, bool IgnoreCase)
