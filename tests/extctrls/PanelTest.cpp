@@ -98,6 +98,7 @@ TEST_F(PanelTest, CaptionStandsInTheMiddleOfOneLine)
 
 TEST_F(PanelTest, AlignsChildrenInsideItsBorders)
 {
+    Panel->HandleNeeded();
     auto* Child = new TPanel(Panel);
     Child->Align = alClient;
     Child->Parent = Panel;

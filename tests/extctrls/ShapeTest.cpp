@@ -72,8 +72,10 @@ TEST_F(ShapeTest, AWidePenStaysInside)
     Shape->Brush->Color = clBlue;
     TPixelImage Painted = PaintToBitmap(Shape);
     EXPECT_TRUE(SamePixels(Painted, Expected(5, [](HDC DC) { Rectangle(DC, 2, 2, 38, 28); })));
-    EXPECT_EQ(Painted.At(0, 0), clRed);
-    EXPECT_EQ(Painted.At(39, 29), clRed);
+    EXPECT_EQ(Painted.At(0, 15), clRed);
+    EXPECT_EQ(Painted.At(39, 15), clRed);
+    EXPECT_EQ(Painted.At(20, 0), clRed);
+    EXPECT_EQ(Painted.At(20, 29), clRed);
 }
 
 TEST_F(ShapeTest, AClearPenLeavesTheOutlineOut)

@@ -28,6 +28,18 @@ protected:
         return Result;
     }
 
+    // Press and release in one: the system holds the program up as long as the button is down on a bar.
+    void ClickAt(int X)
+    {
+        MovePointerTo(Bar, X, 10);
+        INPUT Inputs[2] = {};
+        Inputs[0].type = Inputs[1].type = INPUT_MOUSE;
+        Inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+        Inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+        SendInput(2, Inputs, sizeof(INPUT));
+        ASSERT_TRUE(PumpUntil([&] { return !Scrolls.empty() && Scrolls.back().first == scEndScroll; }));
+    }
+
     THostWindow Window;
     TScrollBar* Bar;
     std::vector<int> Changes;
@@ -116,21 +128,15 @@ TEST_F(ScrollBarTest, ClicksOnItsPartsScroll)
 {
     Bar->SmallChange = 3;
     Bar->LargeChange = 20;
-    Bar->HandleNeeded();
-    ::ShowWindow(Bar->Handle, SW_SHOW);
     Window.ShowNow();
 
     int End = GetSystemMetrics(SM_CXHSCROLL);
-    MovePointerTo(Bar, Bar->Width - End / 2, 10);
-    ClickButton();
-    ASSERT_TRUE(PumpUntil([&] { return !Scrolls.empty() && Scrolls.back().first == scEndScroll; }));
+    ClickAt(Bar->Width - End / 2);
     EXPECT_EQ(Bar->Position, 3);
     EXPECT_EQ(Scrolls.front(), std::pair(scLineDown, 3));
 
     Scrolls.clear();
-    MovePointerTo(Bar, Bar->Width - End - 5, 10);
-    ClickButton();
-    ASSERT_TRUE(PumpUntil([&] { return !Scrolls.empty() && Scrolls.back().first == scEndScroll; }));
+    ClickAt(Bar->Width - End - 5);
     EXPECT_EQ(Bar->Position, 23);
     EXPECT_EQ(Scrolls.front(), std::pair(scPageDown, 23));
     MovePointerAway();
