@@ -47,6 +47,16 @@ LONG Normalized(int Pixel, int Size)
     return static_cast<LONG>((int64_t{Pixel} * 65536 + 32768) / Size);
 }
 
+// The desktop may be another program's. Where it hears of the pointer later than we do, it reports a place that the
+// pointer has left already; so it gets the time to handle what it has.
+void SettleDesktop()
+{
+    for (int I = 0; I < 2; ++I) {
+        DWORD_PTR Result;
+        SendMessageTimeoutW(GetDesktopWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 1000, &Result);
+    }
+}
+
 } // namespace
 
 void PumpMessages()
@@ -76,14 +86,18 @@ bool PumpUntil(const std::function<bool()>& Condition, int Milliseconds)
 
 void MovePointer(const TPoint& Screen)
 {
-    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Normalized(Screen.x, GetSystemMetrics(SM_CXSCREEN)),
-              Normalized(Screen.y, GetSystemMetrics(SM_CYSCREEN)));
-    EXPECT_TRUE(PumpUntil([&] {
+    const auto IsThere = [&] {
         TPoint Now;
         return GetCursorPos(&Now) && Now == Screen;
+    };
+    EXPECT_TRUE(PumpUntil([&] {
+        SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Normalized(Screen.x, GetSystemMetrics(SM_CXSCREEN)),
+                  Normalized(Screen.y, GetSystemMetrics(SM_CYSCREEN)));
+        SettleDesktop();
+        return IsThere();
     })) << "the pointer does not move to "
         << Screen;
-    HandleMessages();
+    PumpMessages();
 }
 
 void MovePointerTo(TControl* Control, int X, int Y)

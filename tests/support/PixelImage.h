@@ -29,7 +29,7 @@ public:
     void Fill(const TRect& R, TColor Color);
     // One-pixel lines along the sides of R; right and bottom come last and have the corners.
     void Frame(const TRect& R, TColor TopLeft, TColor BottomRight);
-    // Puts another picture's pixels at X, Y.
+    // Puts another picture's pixels at X, Y; what does not fit is left out.
     void Copy(int X, int Y, const TPixelImage& Other);
     // The part of the picture at R.
     TPixelImage Part(const TRect& R) const;

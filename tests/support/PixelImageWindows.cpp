@@ -98,9 +98,11 @@ void TPixelImage::Frame(const TRect& R, TColor TopLeft, TColor BottomRight)
 
 void TPixelImage::Copy(int X, int Y, const TPixelImage& Other)
 {
+    const TRect All(0, 0, Width(), Height());
     for (int Row = 0; Row < Other.Height(); ++Row)
         for (int Column = 0; Column < Other.Width(); ++Column)
-            Set(X + Column, Y + Row, Other.At(Column, Row));
+            if (All.Contains(TPoint(X + Column, Y + Row)))
+                Set(X + Column, Y + Row, Other.At(Column, Row));
 }
 
 TPixelImage TPixelImage::Part(const TRect& R) const

@@ -21,6 +21,14 @@ protected:
     }
     void TearDown() override
     {
+        // What a test's handlers refer to is gone.
+        for (TTestButton* Each : {Button, Neighbour}) {
+            for (TNotifyEvent* Event : {&Each->OnClick, &Each->OnDblClick, &Each->OnMouseEnter, &Each->OnMouseLeave})
+                *Event = nullptr;
+            Each->OnMouseDown = nullptr;
+            Each->OnMouseMove = nullptr;
+            Each->OnMouseUp = nullptr;
+        }
         ReleaseButton();
         MovePointerAway();
     }
@@ -77,10 +85,6 @@ TEST_F(SpeedButtonInputTest, EnterAndLeaveComeInOrderWithTheSender)
     MovePointer(Window->ClientToScreen(TPoint(5, 100)));
     EXPECT_TRUE(PumpUntil([&] { return Events.size() >= 4; }));
     EXPECT_THAT(Events, ElementsAre("enter first", "leave first", "enter second", "leave second"));
-    Button->OnMouseEnter = nullptr;
-    Button->OnMouseLeave = nullptr;
-    Neighbour->OnMouseEnter = nullptr;
-    Neighbour->OnMouseLeave = nullptr;
 }
 
 TEST_F(SpeedButtonInputTest, AButtonThatIsNotFlatRaisesNoMouseEnter)
@@ -216,8 +220,6 @@ TEST_F(SpeedButtonInputTest, ADoubleClickIsTwoClicksAndADoubleClick)
     ClickButton();
     EXPECT_TRUE(PumpUntil([&] { return Events.size() >= 3; }));
     EXPECT_THAT(Events, ElementsAre("click", "double", "click"));
-    Button->OnClick = nullptr;
-    Button->OnDblClick = nullptr;
 }
 
 TEST_F(SpeedButtonInputTest, MouseEventsCarryButtonAndPlace)
@@ -238,6 +240,4 @@ TEST_F(SpeedButtonInputTest, MouseEventsCarryButtonAndPlace)
     EXPECT_TRUE(PumpUntil([&] { return Events.size() >= 4; }));
     EXPECT_THAT(Events, ElementsAre("down 6,9", "up 6,9", "right down 6,9", "right up 6,9"));
     EXPECT_EQ(Clicks, 1);
-    Button->OnMouseDown = nullptr;
-    Button->OnMouseUp = nullptr;
 }
