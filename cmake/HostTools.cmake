@@ -32,7 +32,7 @@ foreach(tool IN LISTS TESSARY_HOST_TOOLS)
     endif()
 endforeach()
 
-add_custom_target(host_tools
+add_custom_target(host_tools ALL
     COMMAND ${CMAKE_COMMAND} --build ${TESSARY_HOST_DIR} --target ${targets}
     BYPRODUCTS ${programs}
     COMMENT "Building the tools that the build runs"

@@ -13,7 +13,7 @@ public:
 
     // What breaks a rule, as "FILE:LINE: message", sorted by file. Rooms are folders in the order of their
     // dependencies:
-    // - an include in quotes names a file by its path from the root
+    // - an include in quotes names a file of the tree by its path from the root
     // - a file in a room includes nothing from the rooms below its own, nor from folders that are no rooms
     // - only WindowsHeader includes windows.h
     // - no file includes itself through others
