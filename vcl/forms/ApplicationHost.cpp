@@ -43,9 +43,9 @@ HCURSOR TApplicationHost::CursorHandle(TCursor Cursor)
     return Screen->Cursors[Screen->Cursor != crDefault ? Screen->Cursor : Cursor];
 }
 
-void TApplicationHost::HotControlChanged(TControl*, TControl* New)
+void TApplicationHost::HotControlChanged(TControl* Old, TControl* New)
 {
-    FApplication.FHints->HotControlChanged(New);
+    FApplication.FHints->HotControlChanged(Old, New);
 }
 
 void TApplicationHost::CancelHint()

@@ -26,6 +26,14 @@ AnsiString HintOf(TControl* Control)
     return {};
 }
 
+// Control, or what it lies in, is being deleted.
+bool IsInDestroyed(TControl* Control)
+{
+    while (Control && !Control->ComponentState.Contains(csDestroying))
+        Control = Control->Parent;
+    return Control != nullptr;
+}
+
 // How far below its hot spot the cursor reaches, in pixels: the hint starts there.
 int CursorReach()
 {
@@ -52,10 +60,12 @@ THintController::~THintController()
     Stop();
 }
 
-void THintController::HotControlChanged(TControl* Control)
+void THintController::HotControlChanged(TControl* Old, TControl* New)
 {
-    TControl* Owner = HintControlOf(Control);
-    FApplication.Hint = GetLongHint(HintOf(Control));
+    TControl* Owner = HintControlOf(New);
+    // What the OnHint handler of a form needs may be gone already while that is being deleted.
+    if (!IsInDestroyed(Old))
+        FApplication.Hint = GetLongHint(HintOf(New));
     if (Owner && Owner == FControl && FPhase != hpNone && FPhase != hpHidden)
         return;
     const bool WasShowing = FPhase == hpShowing;

@@ -13,8 +13,8 @@ public:
     explicit THintController(TApplication& Application) : FApplication(Application) {}
     ~THintController();
 
-    // The pointer is over another control now; nullptr: over none.
-    void HotControlChanged(TControl* Control);
+    // The pointer has gone from one control to another; nullptr: none.
+    void HotControlChanged(TControl* Old, TControl* New);
     // The pointer moved to a screen position; over the same control another part may have a hint of its own.
     void PointerMoved(const TPoint& Pos);
     // Shows the hint at a screen position at once.
