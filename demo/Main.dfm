@@ -15,6 +15,7 @@ object MainForm: TMainForm
   OldCreateOrder = False
   Position = poScreenCenter
   ShowHint = True
+  OnCreate = FormCreate
   PixelsPerInch = 96
   TextHeight = 13
   object StandardBar: TkelPanel
@@ -612,14 +613,14 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object Line15: TBevel
-      Left = 487
+      Left = 463
       Top = 6
       Width = 2
       Height = 20
       Shape = bsLeftLine
     end
     object BackButton: TkelSpeedButton
-      Left = 492
+      Left = 468
       Top = 4
       Width = 24
       Height = 24
@@ -630,18 +631,19 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object ForwardButton: TkelSpeedButton
-      Left = 516
+      Left = 492
       Top = 4
       Width = 24
       Height = 24
       Hint = 'Forward|To the next page'
+      Enabled = False
       Flat = True
       GlyphIndex = 41
       Images = Images
       OnClick = ToolClick
     end
     object UpButton: TkelSpeedButton
-      Left = 540
+      Left = 516
       Top = 4
       Width = 24
       Height = 24
@@ -652,7 +654,7 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object StopButton: TkelSpeedButton
-      Left = 564
+      Left = 540
       Top = 4
       Width = 24
       Height = 24
@@ -663,7 +665,7 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object RefreshButton: TkelSpeedButton
-      Left = 588
+      Left = 564
       Top = 4
       Width = 24
       Height = 24
@@ -674,7 +676,7 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object HomeButton: TkelSpeedButton
-      Left = 612
+      Left = 588
       Top = 4
       Width = 24
       Height = 24
@@ -685,7 +687,7 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object MailButton: TkelSpeedButton
-      Left = 636
+      Left = 612
       Top = 4
       Width = 24
       Height = 24
@@ -696,7 +698,7 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object CalendarButton: TkelSpeedButton
-      Left = 660
+      Left = 636
       Top = 4
       Width = 24
       Height = 24
@@ -707,7 +709,7 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
     object StarButton: TkelSpeedButton
-      Left = 684
+      Left = 660
       Top = 4
       Width = 24
       Height = 24
@@ -1288,11 +1290,17 @@ object MainForm: TMainForm
     TextStyle = tsRaised
   end
   object Sample2: TkelLabel
-    Left = 164
-    Top = 277
-    Width = 80
-    Height = 13
+    Left = 148
+    Top = 270
+    Width = 96
+    Height = 24
     Caption = #1054#1090#1084#1077#1085#1072
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
     TextStyle = tsRaised
   end
   object Sample3: TkelLabel
@@ -1309,11 +1317,17 @@ object MainForm: TMainForm
     ParentFont = False
   end
   object Sample4: TkelLabel
-    Left = 164
-    Top = 309
-    Width = 80
-    Height = 13
+    Left = 148
+    Top = 302
+    Width = 96
+    Height = 24
     Caption = 'Gr'#246#223'e'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
   end
   object Sample5: TkelLabel
     Left = 12
@@ -1330,11 +1344,17 @@ object MainForm: TMainForm
     TextStyle = tsNone
   end
   object Sample6: TkelLabel
-    Left = 164
-    Top = 341
-    Width = 80
-    Height = 13
-    Caption = #917#955#955#951#957#953#954#940
+    Left = 148
+    Top = 334
+    Width = 96
+    Height = 24
+    Caption = #321#243'd'#378
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
     TextStyle = tsNone
   end
   object Sample7: TkelLabel
@@ -1352,12 +1372,18 @@ object MainForm: TMainForm
     ParentFont = False
   end
   object Sample8: TkelLabel
-    Left = 164
-    Top = 373
-    Width = 80
-    Height = 13
+    Left = 148
+    Top = 366
+    Width = 96
+    Height = 24
     Caption = #268'e'#353'tina'
     Enabled = False
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
   end
   object Label16: TLabel
     Left = 260
@@ -1658,7 +1684,7 @@ object MainForm: TMainForm
     Top = 436
     Width = 72
     Height = 60
-    Brush.Color = clBtnHighlight
+    Brush.Color = clInfoBk
     Pen.Color = clBtnShadow
   end
   object Shape2: TkelShape
@@ -1666,8 +1692,9 @@ object MainForm: TMainForm
     Top = 436
     Width = 72
     Height = 60
-    Brush.Color = clInfoBk
-    Pen.Color = clBtnShadow
+    Brush.Color = clWindow
+    Pen.Color = clHighlight
+    Pen.Width = 2
     Shape = stRoundRect
   end
   object Shape3: TkelShape
@@ -1677,7 +1704,6 @@ object MainForm: TMainForm
     Height = 60
     Brush.Color = clHighlight
     Pen.Color = clHighlight
-    Pen.Width = 2
     Shape = stEllipse
   end
   object Shape4: TkelShape
@@ -1685,9 +1711,8 @@ object MainForm: TMainForm
     Top = 504
     Width = 72
     Height = 60
-    Brush.Color = clBtnShadow
-    Pen.Color = clBtnText
-    Pen.Width = 2
+    Brush.Color = clHighlight
+    Pen.Color = clHighlight
     Shape = stSquare
   end
   object Shape5: TkelShape
@@ -1695,9 +1720,8 @@ object MainForm: TMainForm
     Top = 504
     Width = 72
     Height = 60
-    Brush.Color = clWindow
-    Pen.Color = clHighlight
-    Pen.Width = 2
+    Brush.Color = clInfoBk
+    Pen.Color = clBtnShadow
     Shape = stRoundSquare
   end
   object Shape6: TkelShape
@@ -1705,8 +1729,8 @@ object MainForm: TMainForm
     Top = 504
     Width = 72
     Height = 60
-    Brush.Color = clInfoBk
-    Pen.Color = clBtnText
+    Brush.Color = clWindow
+    Pen.Color = clHighlight
     Pen.Width = 2
     Shape = stCircle
   end
@@ -1736,16 +1760,16 @@ object MainForm: TMainForm
     Top = 436
     Width = 104
     Height = 104
-    BorderColor = clWindow
     BorderSides = []
     Transparent = False
     ShowCaption = False
-    BevelOuter = bvLowered
+    BevelOuter = bvNone
+    BorderStyle = bsSingle
     Color = clWindow
     TabOrder = 30
     object Magnifier: TkelImage
-      Left = 4
-      Top = 4
+      Left = 2
+      Top = 2
       Width = 96
       Height = 96
       Hint = 'Magnifier|One cell of the strip, six times as large'
@@ -1761,7 +1785,7 @@ object MainForm: TMainForm
     Caption = 'GlyphIndex 0'
   end
   object CellButton: TkelSpeedButton
-    Left = 374
+    Left = 372
     Top = 460
     Width = 36
     Height = 36
@@ -1769,15 +1793,6 @@ object MainForm: TMainForm
     Flat = True
     GlyphIndex = 0
     Glyphs = ToolGlyphs
-  end
-  object Label26: TLabel
-    Left = 372
-    Top = 498
-    Width = 40
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'normal'
   end
   object CellLatched: TkelSpeedButton
     Left = 414
@@ -1791,17 +1806,8 @@ object MainForm: TMainForm
     GlyphIndex = 0
     Glyphs = ToolGlyphs
   end
-  object Label27: TLabel
-    Left = 412
-    Top = 498
-    Width = 40
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'latched'
-  end
   object CellDisabled: TkelSpeedButton
-    Left = 454
+    Left = 456
     Top = 460
     Width = 36
     Height = 36
@@ -1810,15 +1816,6 @@ object MainForm: TMainForm
     Flat = True
     GlyphIndex = 0
     Glyphs = ToolGlyphs
-  end
-  object Label28: TLabel
-    Left = 452
-    Top = 498
-    Width = 40
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'disabled'
   end
   object StepPanel: TkelPanel
     Left = 372
@@ -1837,7 +1834,6 @@ object MainForm: TMainForm
       Height = 24
       Align = alLeft
       Caption = 'Previous'
-      Flat = True
       OnClick = StepClick
     end
     object NextButton: TAlignSpeedButton
@@ -1847,7 +1843,6 @@ object MainForm: TMainForm
       Height = 24
       Align = alRight
       Caption = 'Next'
-      Flat = True
       OnClick = StepClick
     end
   end
@@ -1860,9 +1855,10 @@ object MainForm: TMainForm
     LargeChange = 8
     PageSize = 0
     TabOrder = 32
+    TabStop = False
     OnChange = CellScrollChange
   end
-  object Label29: TLabel
+  object Label26: TLabel
     Left = 508
     Top = 411
     Width = 232

@@ -5,7 +5,9 @@
 
 namespace {
 
-constexpr int Patience = 10000; // milliseconds for one condition
+// In milliseconds: how long to wait for a condition, and the pause before hints that are not to show.
+constexpr int Patience = 10000;
+constexpr int NoHints = 3600 * 1000;
 
 // Handles messages until Condition holds. What names it in the exception.
 void WaitFor(std::string_view What, const std::function<bool()>& Condition)
@@ -72,6 +74,9 @@ bool IsHintShowing()
 
 void TTour::Run()
 {
+    Application->HintPause = NoHints;
+    Application->HintShortPause = NoHints;
+    Application->HintHidePause = NoHints;
     FForm->Show();
     MovePointer({GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2});
     WaitFor("the window to be active", [this] { return FForm->Active; });
@@ -85,8 +90,14 @@ void TTour::ShowButtons()
 {
     PointAt(FForm->OpenButton);
     TakePicture("hot");
+
+    Application->HintPause = 0;
+    PointAt(FForm->PasteButton);
     WaitFor("a hint", IsHintShowing);
-    TakePicture("hint");
+    TakePicture("disabled");
+    Application->HintPause = NoHints;
+
+    PointAt(FForm->OpenButton);
     Press();
     TakePicture("pressed");
     Release();
@@ -98,9 +109,6 @@ void TTour::ShowButtons()
     Click(FForm->BulletsButton);
     WaitFor("a latched list button", [this] { return FForm->BulletsButton->Down; });
     TakePicture("latched");
-
-    PointAt(FForm->PasteButton);
-    TakePicture("disabled");
 }
 
 void TTour::ShowMagnifier()
