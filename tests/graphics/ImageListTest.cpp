@@ -152,6 +152,26 @@ TEST_F(ImageList, DisabledImagesAreEmbossed)
     EXPECT_EQ(Target->Canvas->Pixels[4][0], clAqua);
 }
 
+TEST_F(ImageList, DisabledImagesFollowTheListAndTheSystemsColors)
+{
+    static TColorResolver Previous;
+    auto Target = NewBitmap(6, 6);
+    List.AddMasked(Strip({clWhite, clRed}).get(), clFuchsia);
+    List.Draw(Target->Canvas, 0, 0, 0, false);
+    EXPECT_THAT(PixelsOf(*Target), testing::Each(0xFFFFFFu)) << "white has no shape";
+    Previous = SetColorResolver([](TColor Color) { return Color == clBtnShadow ? RGB(1, 2, 3) : Previous(Color); });
+    List.Draw(Target->Canvas, 0, 0, 1, false);
+    EXPECT_EQ(Target->Canvas->Pixels[2][2], TColor(RGB(1, 2, 3)));
+    SetColorResolver(Previous);
+    List.Draw(Target->Canvas, 0, 0, 1, false);
+    EXPECT_EQ(Target->Canvas->Pixels[2][2], TColor(ColorToRGB(clBtnShadow)));
+    List.Move(1, 0);
+    List.Draw(Target->Canvas, 0, 0, 0, false);
+    List.Draw(Target->Canvas, 1, 1, 1, false);
+    EXPECT_EQ(Target->Canvas->Pixels[1][2], TColor(ColorToRGB(clBtnShadow)));
+    EXPECT_EQ(Target->Canvas->Pixels[4][4], TColor(ColorToRGB(clBtnHighlight)));
+}
+
 TEST_F(ImageList, InsertsMovesReplacesAndDeletes)
 {
     List.AddMasked(Strip({clRed, clLime, clBlue}).get(), clFuchsia);

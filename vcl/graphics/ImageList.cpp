@@ -224,6 +224,8 @@ void TCustomImageList::Change()
     FFile.clear();
     FPrepared = TMaskedImage();
     FReady.clear();
+    FDisabled = TMaskedImage();
+    FDisabledReady.clear();
     FChanged = true;
     if (FUpdateCount > 0)
         return;

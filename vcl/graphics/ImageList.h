@@ -124,7 +124,7 @@ private:
     // The images as they are drawn, one below the other.
     TMaskedImage& Prepared(int Index);
     bool SameImages(TCustomImageList& Other);
-    void DrawDisabled(HDC Target, int X, int Y, int Index);
+    const TMaskedImage& PreparedDisabled(int Index);
     void ReadData(TStream* Stream);
     void WriteData(TStream* Stream);
     bool HasData(TFiler& Filer);
@@ -134,6 +134,9 @@ private:
     std::vector<uint8_t> FFile; // what was read, until the first change
     TMaskedImage FPrepared;
     std::vector<bool> FReady; // which of FPrepared are
+    TMaskedImage FDisabled;   // the same for disabled ones, each a pixel wider and higher
+    std::vector<bool> FDisabledReady;
+    uint32_t FDisabledColors[2] = {};
     int FWidth = 16;
     int FHeight = 16;
     int FUpdateCount = 0;

@@ -19,6 +19,14 @@ uint32_t PixelOf(TColor Color)
     return 0xFF000000 | static_cast<uint32_t>(GetRValue(Rgb)) << 16 | GetGValue(Rgb) << 8 | GetBValue(Rgb);
 }
 
+// Pixel is multiplied by its alpha.
+bool IsWhiteOnWhite(uint32_t Pixel)
+{
+    uint32_t Ground = 0xFF - (Pixel >> 24);
+    return (Pixel & 0xFF) + Ground == 0xFF && (Pixel >> 8 & 0xFF) + Ground == 0xFF &&
+           (Pixel >> 16 & 0xFF) + Ground == 0xFF;
+}
+
 void Fill(HDC Context, const TRect& R, int StockBrush)
 {
     ::FillRect(Context, &R, static_cast<HBRUSH>(GetStockObject(StockBrush)));
@@ -69,25 +77,33 @@ bool TCustomImageList::SameImages(TCustomImageList& Other)
     return true;
 }
 
-// The image's shape in the highlight colour, and over it, one pixel up and to the left, in the shadow's.
-void TCustomImageList::DrawDisabled(HDC Target, int X, int Y, int Index)
+// The image's shape, all of it that is not white on white, in the highlight colour; and over it, one pixel up and to
+// the left, in the shadow's.
+const TMaskedImage& TCustomImageList::PreparedDisabled(int Index)
 {
-    TMaskedImage OnWhite(FWidth, FHeight);
-    TRect Cell(0, 0, FWidth, FHeight);
-    Fill(OnWhite.Context(), Cell, WHITE_BRUSH);
-    ImageList_DrawEx(FHandle, Index, OnWhite.Context(), 0, 0, 0, 0, CLR_NONE, CLR_NONE, ILD_NORMAL);
-    TMaskedImage Embossed(FWidth + 1, FHeight + 1);
-    const uint32_t* From = OnWhite.Pixels();
-    uint32_t* To = Embossed.Pixels();
+    const uint32_t Colors[2] = {PixelOf(clBtnHighlight), PixelOf(clBtnShadow)};
+    int Width = FWidth + 1;
+    int Height = FHeight + 1;
+    if (FDisabled.Empty() || !std::equal(Colors, Colors + 2, FDisabledColors)) {
+        FDisabled = TMaskedImage(Width, Height * GetCount());
+        FDisabledReady.assign(static_cast<size_t>(GetCount()), false);
+        std::copy(Colors, Colors + 2, FDisabledColors);
+    }
+    auto At = static_cast<size_t>(Index);
+    if (FDisabledReady[At])
+        return FDisabled;
+    const uint32_t* From = Prepared(Index).Pixels() + At * static_cast<size_t>(FWidth * FHeight);
+    uint32_t* To = FDisabled.Pixels() + At * static_cast<size_t>(Width * Height);
     auto Stamp = [&](int Offset, uint32_t Color) {
         for (int Row = 0; Row < FHeight; ++Row)
             for (int Column = 0; Column < FWidth; ++Column)
-                if ((From[Row * FWidth + Column] & ColorBits) != ColorBits)
-                    To[(Row + Offset) * (FWidth + 1) + Column + Offset] = Color;
+                if (!IsWhiteOnWhite(From[Row * FWidth + Column]))
+                    To[(Row + Offset) * Width + Column + Offset] = Color;
     };
-    Stamp(1, PixelOf(clBtnHighlight));
-    Stamp(0, PixelOf(clBtnShadow));
-    Embossed.Draw(Target, X, Y);
+    Stamp(1, Colors[0]);
+    Stamp(0, Colors[1]);
+    FDisabledReady[At] = true;
+    return FDisabled;
 }
 
 void TCustomImageList::Draw(TCanvas* Canvas, int X, int Y, int Index, bool Enabled)
@@ -103,7 +119,7 @@ void TCustomImageList::Draw(TCanvas* Canvas, int X, int Y, int Index, TDrawingSt
     HDC Target = Canvas->GetHandle();
     bool Plain = Type == itImage && (Style == dsTransparent || (Style == dsNormal && FBkColor == clNone));
     if (!Enabled) {
-        DrawDisabled(Target, X, Y, Index);
+        PreparedDisabled(Index).Draw(Target, X, Y, Bounds(0, (FHeight + 1) * Index, FWidth + 1, FHeight + 1));
     } else if (Plain) {
         Prepared(Index).Draw(Target, X, Y, Bounds(0, FHeight * Index, FWidth, FHeight));
     } else {
