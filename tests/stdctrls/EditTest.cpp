@@ -264,6 +264,7 @@ TEST_F(MemoTest, TellsWhereTheCaretIs)
 TEST_F(MemoTest, LinesComeBackFromAFormFile)
 {
     Memo->Name = "M";
+    Memo->Lines->Clear();
     Memo->Lines->Add("first");
     Memo->Lines->Add("Отмена");
     auto Other = std::make_unique<TForm>(nullptr);

@@ -4,12 +4,20 @@
 #include "tests/support/Input.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Form.h"
+#include "vcl/forms/Screen.h"
 
 #include <gtest/gtest.h>
 #include <memory>
 
 class TFormTest : public testing::Test {
 protected:
+    // What the program makes once, when it is first needed, is there before the tests count.
+    static void SetUpTestSuite()
+    {
+        Application->GetHandle();
+        Screen->GetCursors(crDefault);
+    }
+
     TFormTest()
     {
         UseMessageLoop([] { Application->ProcessMessages(); });

@@ -57,7 +57,7 @@ TCustomComboBox::TCustomComboBox(TComponent* AOwner) : TWinControl(AOwner), FIte
     ControlStyle = TControlStyle{csCaptureMouse, csSetCaption, csDoubleClicks, csFixedHeight, csReflector};
     SetBounds(0, 0, 145, 25);
     TabStop = true;
-    Color = clWindow;
+    ParentColor = false;
 }
 
 // ---- the window

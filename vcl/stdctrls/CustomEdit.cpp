@@ -32,7 +32,7 @@ TCustomEdit::TCustomEdit(TComponent* AOwner) : TWinControl(AOwner)
     ControlStyle = TControlStyle{csClickEvents, csSetCaption, csDoubleClicks, csFixedHeight};
     SetBounds(0, 0, 121, 25);
     TabStop = true;
-    Color = clWindow;
+    ParentColor = false;
     TControl::SetAutoSize(true);
     UpdateHeight();
 }

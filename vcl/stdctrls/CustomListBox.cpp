@@ -53,7 +53,7 @@ TCustomListBox::TCustomListBox(TComponent* AOwner) : TWinControl(AOwner), FItems
     ControlStyle = TControlStyle{csSetCaption, csDoubleClicks, csOpaque};
     SetBounds(0, 0, 121, 97);
     TabStop = true;
-    Color = clWindow;
+    ParentColor = false;
 }
 
 // ---- the window
