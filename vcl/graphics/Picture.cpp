@@ -168,7 +168,8 @@ AnsiString TPicture::GraphicFilter(TClass Class)
         if (Format.Extension.empty() || !Format.Class.Class->InheritsFrom(Class))
             continue;
         AnsiString Pattern = "*." + Format.Extension;
-        Each += "|" + Format.Description + " (" + Pattern + ")|" + Pattern;
+        for (std::string_view Part : {"|", Format.Description.c_str(), " (", Pattern.c_str(), ")|", Pattern.c_str()})
+            Each += Part;
         if (!All.empty())
             All += ';';
         All += Pattern;
