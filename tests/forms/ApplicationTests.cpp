@@ -165,6 +165,23 @@ TEST(ApplicationWindow, MinimizingTheMainFormHidesTheOthers)
     delete Main;
 }
 
+TEST(ApplicationWindow, TellsWhenTheProgramBecomesActive)
+{
+    TFormPtr Form(new TPlainForm(nullptr));
+    Form->Open();
+    EXPECT_TRUE(Application->Active);
+    TLog Log;
+    Application->OnActivate = [&](TObject*) { Log.push_back("activate"); };
+    Application->OnDeactivate = [&](TObject*) { Log.push_back("deactivate"); };
+    SendMessageW(Application->Handle, WM_ACTIVATEAPP, FALSE, 0);
+    EXPECT_FALSE(Application->Active);
+    SendMessageW(Application->Handle, WM_ACTIVATEAPP, TRUE, 0);
+    EXPECT_TRUE(Application->Active);
+    EXPECT_THAT(Log, ElementsAre("deactivate", "activate"));
+    Application->OnActivate = nullptr;
+    Application->OnDeactivate = nullptr;
+}
+
 TEST(ApplicationMessageBox, ShowsItsTextAndDisablesTheForms)
 {
     TFormPtr Form(new TPlainForm(nullptr));

@@ -1,6 +1,8 @@
 // Focus, tab order, dialog keys, accelerators and menus of forms, with real keys.
 #include "tests/forms/TestForms.h"
 
+#include <utility>
+
 using testing::ElementsAre;
 
 namespace {
@@ -179,6 +181,12 @@ TEST_F(FormKeys, OnShortCutComesBeforeEverything)
     EXPECT_EQ(Asked, 1);
     EXPECT_TRUE(A->Focused());
     Form->OnShortCut = nullptr;
+    Application->OnShortCut = [](TWMKey& Message, bool& Handled) { Handled = Message.CharCode == VK_TAB; };
+    TypeKey(VK_TAB);
+    EXPECT_TRUE(A->Focused());
+    Application->OnShortCut = nullptr;
+    TypeKey(VK_TAB);
+    EXPECT_TRUE(B->Focused());
 }
 
 TEST_F(FormKeys, ActivateAndDeactivateAreToldBetweenForms)
@@ -214,6 +222,31 @@ TEST_F(FormKeys, HidingAFormActivatesTheNextOfTheProgram)
     Other->Hide();
     EXPECT_TRUE(Form->Active);
     EXPECT_EQ(Screen->ActiveForm, Form.get());
+}
+
+TEST_F(FormKeys, DeletingAControlOfAnotherOwnerForgetsIt)
+{
+    auto* Stray = new TProbe(nullptr);
+    Stray->Parent = Form.get();
+    Form->Open();
+    Stray->SetFocus();
+    ASSERT_EQ(Screen->ActiveControl, Stray);
+    delete Stray;
+    EXPECT_NE(Screen->ActiveControl, Stray);
+    EXPECT_EQ(Form->ActiveControl, nullptr);
+    TypeKey(VK_TAB);
+    EXPECT_TRUE(A->Focused());
+}
+
+TEST_F(FormKeys, AHandlerMayDeleteTheControlThatGetsTheFocus)
+{
+    Form->Open();
+    A->OnExit = [&](TObject*) { delete std::exchange(B, nullptr); };
+    B->SetFocus();
+    EXPECT_EQ(Form->ControlCount, 2);
+    A->OnExit = nullptr;
+    A->SetFocus();
+    EXPECT_TRUE(A->Focused());
 }
 
 namespace {
@@ -271,13 +304,11 @@ TEST_F(FormMenus, TheBarWorksByKey)
     Application->OnHint = [&](TObject*) { Hints.push_back(Application->Hint); };
     Form->Open();
     // Down to Save, with its hint told, then chosen.
-    Form->OnShortCut = nullptr;
     HWND Window = Form->Handle;
     SetTimer(Window, 77, 2000, [](HWND Owner, UINT, UINT_PTR Id, DWORD) {
         KillTimer(Owner, Id);
         EndMenu();
     });
-    KeysWhileMenuIsOpen({});
     PostMessageW(Window, WM_SYSCOMMAND, SC_KEYMENU, 'f');
     KeysWhileMenuIsOpen({VK_DOWN, VK_RETURN});
     EXPECT_TRUE(PumpUntil([&] { return !Log.empty(); }));

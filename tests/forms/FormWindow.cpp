@@ -1,6 +1,7 @@
 // The windows of forms: frames, places, states.
 #include "tests/forms/TestForms.h"
 
+#include "vcl/forms/ScrollBox.h"
 #include "vcl/graphics/Bitmap.h"
 
 namespace {
@@ -262,4 +263,47 @@ TEST(FormWindow, ScrollsWhatDoesNotFit)
     EXPECT_EQ(Far->Top, 592);
     Form->AutoScroll = false;
     EXPECT_FALSE(Form->VertScrollBar->IsScrollBarVisible());
+}
+
+TEST(FormWindow, HelpAsksForTheNearestContext)
+{
+    TFormPtr Form(new TPlainForm(nullptr));
+    TProbe* Probe = Form->AddProbe(10);
+    Form->HelpContext = 17;
+    Form->Open();
+    intptr_t Asked = 0;
+    Form->OnHelp = [&](uint16_t Command, intptr_t Data, bool&) {
+        EXPECT_EQ(Command, HELP_CONTEXT);
+        Asked = Data;
+        return true;
+    };
+    HELPINFO Info{};
+    Info.cbSize = sizeof Info;
+    Info.iContextType = HELPINFO_WINDOW;
+    Info.hItemHandle = Probe->Handle;
+    SendMessageW(Form->Handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&Info));
+    EXPECT_EQ(Asked, 17);
+    Probe->HelpContext = 4;
+    SendMessageW(Form->Handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&Info));
+    EXPECT_EQ(Asked, 4);
+}
+
+TEST(ScrollBoxes, ScrollTheirContentAndDrawTheirBorder)
+{
+    TFormPtr Form(new TPlainForm(nullptr));
+    auto* Box = new TScrollBox(Form.get());
+    Box->SetBounds(10, 10, 100, 80);
+    Box->Parent = Form.get();
+    auto* Probe = new TProbe(Form.get());
+    Probe->SetBounds(150, 5, 60, 20);
+    Probe->Parent = Box;
+    Form->Open();
+    EXPECT_TRUE(Box->HorzScrollBar->IsScrollBarVisible());
+    EXPECT_FALSE(Box->VertScrollBar->IsScrollBarVisible());
+    EXPECT_EQ(Box->HorzScrollBar->Range, 210);
+    EXPECT_EQ(Box->HorzScrollBar->Position, 210 - Box->ClientWidth) << "the focused control is in view";
+    EXPECT_NE(GetWindowLongW(Box->Handle, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
+    Box->BorderStyle = bsNone;
+    EXPECT_EQ(GetWindowLongW(Box->Handle, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
+    EXPECT_EQ(Box->ClientWidth, 100);
 }

@@ -225,3 +225,15 @@ TEST_F(Hints, GoWithTheirControl)
     delete A;
     EXPECT_TRUE(WaitForNoHint() || ShownHint()->Caption != "Save");
 }
+
+// What the handler shows the hint in is a control of that form, more often than not.
+TEST_F(Hints, AreNotToldWhileTheirFormIsBeingDeleted)
+{
+    MovePointerTo(A, 20, 10);
+    ASSERT_TRUE(PumpUntil([] { return Application->Hint == "Writes the file"; }));
+    int Told = 0;
+    Application->OnHint = [&](TObject*) { ++Told; };
+    Form.reset();
+    EXPECT_EQ(Told, 0);
+    Application->OnHint = nullptr;
+}

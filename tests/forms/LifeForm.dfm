@@ -17,6 +17,9 @@ object LifeForm: TLifeForm
   Visible = True
   OnCreate = FormCreate
   OnShow = FormShow
+  DesignSize = (
+    250
+    150)
   PixelsPerInch = 96
   TextHeight = 13
   object First: TProbe

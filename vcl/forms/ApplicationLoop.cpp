@@ -122,12 +122,14 @@ bool PopupMenusWant(TWinControl* Control, TShortCut ShortCut)
 
 bool TApplication::IsShortCut(TWinControl* Control, TWMKey& Message)
 {
-    bool Handled = false;
-    OnShortCut(Message, Handled);
-    if (Handled || PopupMenusWant(Control, KeyMessageToShortCut(Message)))
+    if (PopupMenusWant(Control, KeyMessageToShortCut(Message)))
         return true;
     TCustomForm* Form = GetParentForm(Control);
     if (Form && Form->IsShortCut(Message))
+        return true;
+    bool Handled = false;
+    OnShortCut(Message, Handled);
+    if (Handled)
         return true;
     // The main form's menu works from every form, as long as none is modal.
     TCustomForm* Main = FMainForm;

@@ -140,7 +140,6 @@ void TCustomForm::Notification(TComponent* Component, TOperation Operation)
     TScrollingWinControl::Notification(Component, Operation);
     if (Operation != opRemove)
         return;
-    FFocus.Forget(Component);
     if (Component == FMenu)
         FMenu = nullptr;
     if (Component == FWindowMenu)
@@ -201,7 +200,7 @@ void TCustomForm::FocusControl(TWinControl* Control)
     FFocus.SetActive(Control);
     if (!WasActive)
         SetFocus();
-    else if (!Control->Focused())
+    else if (FFocus.Active() == Control && !Control->Focused()) // a handler may have deleted it
         FFocus.SetWindowFocus();
 }
 

@@ -6,8 +6,6 @@
 #include "vcl/forms/ModalWindows.h"
 #include "vcl/forms/Screen.h"
 
-#include <utility>
-
 void TCustomForm::SetVisible(bool Value)
 {
     if (FFormState.Contains(fsCreating)) {
@@ -184,7 +182,8 @@ TModalResult TCustomForm::ShowModal()
 
     FFormState << fsModal;
     const TActiveWindow Before;
-    const TCursor CursorBefore = std::exchange(Screen->FCursor, crDefault);
+    const TCursor CursorBefore = Screen->Cursor;
+    Screen->Cursor = crDefault;
     HandleNeeded();
     TModalWindows Others(Handle);
     Application->ModalStarted();

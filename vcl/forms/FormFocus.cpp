@@ -115,23 +115,18 @@ bool TFormFocus::EnterDownTo(TWinControl* Control)
 
 void TFormFocus::DefocusControl(TWinControl* Control, bool Removing)
 {
-    if (Removing && FFocused && Control->ContainsControl(FFocused))
-        FFocused = Control->Parent;
+    if (Removing) {
+        // The form hears of the deletion of what it owns only, so all references end here.
+        if (FFocused && Control->ContainsControl(FFocused))
+            FFocused = Control->Parent;
+        if (FTarget && Control->ContainsControl(FTarget))
+            FTarget = nullptr;
+        Screen->ForgetIn(Control);
+    }
     if (!FActive || !Control->ContainsControl(FActive))
         return;
     FActive = nullptr;
     const bool Going = FForm->ComponentState.Contains(csDestroying) || Control == FForm;
     if (!Going && FForm->Active)
         SetWindowFocus();
-}
-
-void TFormFocus::Forget(const TComponent* Control)
-{
-    if (FActive == Control)
-        FActive = nullptr;
-    if (FFocused == Control)
-        FFocused = nullptr;
-    if (FTarget == Control)
-        FTarget = nullptr;
-    Screen->Forget(Control);
 }

@@ -4,7 +4,6 @@
 #include "vcl/controls/ControlTypes.h"
 #include "vcl/system/WindowsApi.h"
 
-class TComponent;
 class TCustomForm;
 
 class TFormFocus {
@@ -18,13 +17,12 @@ public:
     // A control of the form has the focus now: CM_EXIT and CM_ENTER go to what is left and entered, CM_FOCUSCHANGED to
     // the whole form. False when a handler has moved the focus on.
     bool SetFocusedControl(TWinControl* Control);
+    // Control is hidden or disabled, or (Removing) leaves the form with everything in it.
     void DefocusControl(TWinControl* Control, bool Removing);
     // Gives the window focus to the active control, or to the form.
     void SetWindowFocus();
     // The first control in tab order becomes active, if none is.
     void SelectFirst();
-    // Control is going away.
-    void Forget(const TComponent* Control);
 
 private:
     bool ActivateForm();

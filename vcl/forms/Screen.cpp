@@ -221,7 +221,7 @@ void TScreen::AddForm(TCustomForm* Form)
 void TScreen::RemoveForm(TCustomForm* Form)
 {
     std::erase(FCustomForms, Form);
-    Forget(Form);
+    ForgetIn(Form);
     if (FActiveCustomForm == Form)
         FActiveCustomForm = nullptr;
     if (FFocusedForm == Form)
@@ -230,11 +230,11 @@ void TScreen::RemoveForm(TCustomForm* Form)
         FLastActiveForm = nullptr;
 }
 
-void TScreen::Forget(const TComponent* Control)
+void TScreen::ForgetIn(const TWinControl* Area)
 {
-    if (FActiveControl == Control)
+    if (FActiveControl && Area->ContainsControl(FActiveControl))
         FActiveControl = nullptr;
-    if (FLastActiveControl == Control)
+    if (FLastActiveControl && Area->ContainsControl(FLastActiveControl))
         FLastActiveControl = nullptr;
 }
 

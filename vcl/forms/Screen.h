@@ -110,7 +110,7 @@ private:
     void AddForm(TCustomForm* Form);
     void RemoveForm(TCustomForm* Form);
     void SetActive(TCustomForm* Form, TWinControl* Control);
-    void Forget(const TComponent* Control);
+    void ForgetIn(const TWinControl* Area);
     void ReportActive();
 
     std::vector<TCustomForm*> FCustomForms;

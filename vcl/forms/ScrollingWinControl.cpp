@@ -1,5 +1,7 @@
 #include "vcl/forms/ScrollingWinControl.h"
 
+#include "vcl/classes/Reader.h"
+#include "vcl/classes/Writer.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <algorithm>
@@ -53,6 +55,29 @@ void TScrollingWinControl::EnableAutoRange()
 {
     if (FAutoRangeLevel > 0 && --FAutoRangeLevel == 0)
         CalcAutoRange();
+}
+
+void TScrollingWinControl::DefineProperties(TFiler& Filer)
+{
+    TWinControl::DefineProperties(Filer);
+    Filer.DefineProperty("DesignSize", {this, &TScrollingWinControl::ReadDesignSize},
+                         {this, &TScrollingWinControl::WriteDesignSize}, FDesignSize.cx > 0);
+}
+
+void TScrollingWinControl::ReadDesignSize(TReader* Reader)
+{
+    Reader->ReadListBegin();
+    FDesignSize.cx = Reader->ReadInteger();
+    FDesignSize.cy = Reader->ReadInteger();
+    Reader->ReadListEnd();
+}
+
+void TScrollingWinControl::WriteDesignSize(TWriter* Writer)
+{
+    Writer->WriteListBegin();
+    Writer->WriteInteger(FDesignSize.cx);
+    Writer->WriteInteger(FDesignSize.cy);
+    Writer->WriteListEnd();
 }
 
 // ---- ranges

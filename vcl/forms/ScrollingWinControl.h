@@ -26,6 +26,8 @@ public:
     void DisableAutoRange() { ++FAutoRangeLevel; }
     void EnableAutoRange();
 
+    void DefineProperties(TFiler& Filer) override;
+
 protected:
     void CreateParams(TCreateParams& Params) override;
     void CreateWnd() override;
@@ -45,10 +47,13 @@ private:
     void WMSize(TWMSize& Message);
     void CalcAutoRange();
     int NeededRange(TScrollBarKind Kind) const;
+    void ReadDesignSize(TReader* Reader);
+    void WriteDesignSize(TWriter* Writer);
     void BarMessage(TControlScrollBar& Bar, TMessage& Message);
 
     TControlScrollBar FHorzScrollBar;
     TControlScrollBar FVertScrollBar;
+    TSize FDesignSize; // the client size in the designer, kept for form files; 0: not read
     int FAutoRangeLevel = 0;
     bool FAutoScroll = false;
     bool FUpdatingBars = false;

@@ -1,0 +1,115 @@
+// Icon, menu and other messages of a form's window.
+#include "vcl/forms/Application.h"
+#include "vcl/forms/CustomForm.h"
+#include "vcl/forms/Form.h"
+#include "vcl/forms/Screen.h"
+
+// ---- icon
+
+void TCustomForm::IconChanged(TObject*)
+{
+    Perform(CM_ICONCHANGED);
+}
+
+void TCustomForm::CMIconChanged(TMessage&)
+{
+    UpdateIcon();
+}
+
+void TCustomForm::UpdateIcon()
+{
+    if (!HandleAllocated() || (GetWindowLongW(Handle, GWL_STYLE) & WS_CHILD))
+        return;
+    HICON Icon = nullptr;
+    if (FBorderStyle != bsDialog) {
+        Icon = FIcon.Empty ? Application->Icon->Handle : FIcon.Handle;
+        if (!Icon)
+            Icon = LoadIconW(nullptr, IDI_APPLICATION);
+    }
+    SendMessageW(Handle, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(Icon));
+}
+
+// ---- menu
+
+void TCustomForm::SetMenu(TMainMenu* Value)
+{
+    if (FMenu == Value)
+        return;
+    if (FMenu)
+        FMenu->WindowHandle = nullptr;
+    ReplaceReference(FMenu, Value);
+    FMenu = Value;
+    UpdateMenu();
+    // The client size that a form file asks for is the one below the menu.
+    if (IsLoading())
+        ApplyReadClientSize();
+}
+
+bool TCustomForm::ShowsMenu() const
+{
+    return FMenu && !Parent && !ParentWindow && FBorderStyle != bsDialog && FBorderStyle != bsNone;
+}
+
+void TCustomForm::UpdateMenu()
+{
+    if (FMenu && HandleAllocated())
+        FMenu->WindowHandle = ShowsMenu() ? Handle : nullptr;
+}
+
+void TCustomForm::WMCommand(TWMCommand& Message)
+{
+    if (Message.LParam == 0 && FMenu && FMenu->DispatchCommand(static_cast<uint16_t>(Message.ItemID())))
+        return;
+    Inherited(Message);
+}
+
+void TCustomForm::WMInitMenuPopup(TMessage& Message)
+{
+    if (FMenu)
+        FMenu->DispatchPopup(reinterpret_cast<HMENU>(Message.WParam));
+    Inherited(Message);
+}
+
+void TCustomForm::WMMenuSelect(TMessage& Message)
+{
+    Application->Hint = FMenu ? FMenu->HintOf(Message) : AnsiString();
+    Inherited(Message);
+}
+
+// ---- other messages of the window
+
+void TCustomForm::WMActivate(TMessage& Message)
+{
+    if (IsDesigning()) {
+        Inherited(Message);
+        return;
+    }
+    // The system would give the focus to the form itself.
+    const bool Minimized = Message.WParamHi() != 0;
+    if (Message.WParamLo() != WA_INACTIVE && !Minimized)
+        FFocus.SetWindowFocus();
+}
+
+void TCustomForm::WMSetCursor(TMessage& Message)
+{
+    if (Message.LParamLo() == HTCLIENT && Screen->Cursor != crDefault) {
+        ::SetCursor(Screen->Cursors[Screen->Cursor]);
+        Message.Result = 1;
+        return;
+    }
+    Inherited(Message);
+}
+
+void TCustomForm::WMHelp(TMessage& Message)
+{
+    const auto& Info = *reinterpret_cast<HELPINFO*>(Message.LParam);
+    THelpContext Context = 0;
+    if (Info.iContextType == HELPINFO_WINDOW)
+        for (TControl* Each = FindControl(static_cast<HWND>(Info.hItemHandle)); Each && Context == 0;
+             Each = Each->Parent)
+            Context = Each->HelpContext;
+    bool CallHelp = true;
+    if (Context != 0 &&
+        (OnHelp(HELP_CONTEXT, Context, CallHelp) || Application->OnHelp(HELP_CONTEXT, Context, CallHelp)))
+        Message.Result = 1;
+}
