@@ -1,0 +1,83 @@
+#include "tools/formcheck/FormCheck.h"
+
+#include "tools/formcheck/Summary.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sstream>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Pair;
+
+TEST(FormCheckTest, AFormOfKnownClassesIsComplete)
+{
+    TFormReport Report = CheckForm("object Form1: TForm1\n  Caption = 'Hello'\n  OnCreate = FormCreate\n"
+                                   "  object Button1: TButton\n    Left = 8\n    OnClick = Button1Click\n  end\n"
+                                   "  object Label1: TLabel\n    Caption = 'Отмена'\n  end\nend\n");
+    EXPECT_EQ(Report.Error, "");
+    EXPECT_TRUE(Report.Complete());
+    EXPECT_EQ(Report.Components, 3);
+}
+
+TEST(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
+{
+    TFormReport Report = CheckForm("object Form1: TForm1\n  Nope = 1\n"
+                                   "  object A: TNobody\n    Whatever.Deep = 3\n    object B: TButton\n      Nope = 2\n"
+                                   "      Font.Nope = 3\n    end\n    object C: TNobody\n    end\n  end\n"
+                                   "  object D: TButton\n    Nope = 2\n    Left = 'x'\n  end\nend\n");
+    EXPECT_EQ(Report.Error, "");
+    EXPECT_THAT(Report.MissingClasses, ElementsAre(Pair("TNobody", 2)));
+    EXPECT_THAT(Report.MissingProperties,
+                ElementsAre(Pair("TButton.Nope", 2), Pair("TFont.Nope", 1), Pair("TForm.Nope", 1)));
+    EXPECT_THAT(Report.Values, ElementsAre("Left: Invalid property value"));
+    EXPECT_EQ(Report.Components, 5);
+    EXPECT_FALSE(Report.Complete());
+    EXPECT_TRUE(Report.ComesBack);
+}
+
+TEST(FormCheckTest, InheritedFormsAndUnknownFramesAreLoadedAsFarAsTheyGo)
+{
+    TFormReport Report = CheckForm("inherited Form2: TForm2\n  inherited Button1: TButton\n    Caption = 'x'\n  end\n"
+                                   "  inline Frame1: TFrame1\n    inherited Button1: TButton\n    end\n  end\n"
+                                   "  inline Frame2: TFrame1\n    inherited Button1: TButton\n    end\n  end\nend\n");
+    EXPECT_EQ(Report.Error, "");
+    EXPECT_THAT(Report.MissingClasses, ElementsAre(Pair("TFrame1", 2)));
+    EXPECT_THAT(Report.MissingProperties, IsEmpty());
+}
+
+TEST(FormCheckTest, DataModulesAreTakenForWhatTheyAre)
+{
+    TFormReport Report = CheckForm("object DataModule1: TDataModule1\n  OldCreateOrder = False\n  Height = 150\n"
+                                   "  HorizontalOffset = 20\n  VerticalOffset = 30\n  Width = 215\nend\n");
+    EXPECT_THAT(Report.MissingProperties, IsEmpty());
+    EXPECT_TRUE(Report.Complete());
+}
+
+TEST(FormCheckTest, BrokenFormsSayWhatIsWrong)
+{
+    EXPECT_THAT(CheckForm("object Form1 TForm1\nend\n").Error, HasSubstr("line 1"));
+    EXPECT_THAT(CheckForm("TPF0\5TForm").Error, HasSubstr("offset"));
+}
+
+TEST(FormCheckTest, TheSummaryNamesEachFormAndCountsAll)
+{
+    std::ostringstream Out;
+    TSummary Summary;
+    Summary.Add(Out, "a.dfm", {.Components = 2, .ComesBack = true});
+    Summary.Add(Out, "b.dfm", {.Components = 3, .MissingClasses = {{"TX", 2}}, .MissingProperties = {{"TY.Z", 1}}});
+    Summary.Add(Out, "c.dfm", {.Error = "broken"});
+    Summary.PrintTotals(Out);
+    EXPECT_EQ(Out.str(), "a.dfm: 2 components, complete\n"
+                         "b.dfm: 3 components\n"
+                         "  missing classes: TX (2)\n"
+                         "  missing properties: TY.Z\n"
+                         "  does not come back the same\n"
+                         "c.dfm: broken\n"
+                         "Missing classes, with the number of forms:\n  1  TX\n"
+                         "Missing properties, with the number of forms:\n  1  TY.Z\n"
+                         "3 forms with 5 components: 1 complete, 1 with something missing, 1 failed; "
+                         "1 classes and 1 properties missing\n");
+    EXPECT_FALSE(Summary.AllComplete());
+}

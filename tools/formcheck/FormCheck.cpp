@@ -1,0 +1,114 @@
+#include "tools/formcheck/FormCheck.h"
+
+#include "tools/formcheck/MissingControl.h"
+#include "vcl/classes/FormConvert.h"
+#include "vcl/vcl.h"
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+using TMakeRoot = std::function<TComponent*()>;
+
+template <class Root>
+TComponent* MakeRoot()
+{
+    return new Root(nullptr);
+}
+
+std::string ToBinary(std::string_view Data)
+{
+    if (FormFormat(Data) == sofBinary)
+        return std::string(Data.substr(ResourceHeaderSize(Data)));
+    std::string Binary;
+    FormTextToBinary(Data, Binary);
+    return Binary;
+}
+
+// Reads Binary into Root and notes what it asks for in vain.
+void Load(const std::string& Binary, TComponent* Root, TFormReport& Report)
+{
+    TStringStream Stream(Binary);
+    TReader Reader(&Stream);
+    Reader.OnFindComponentClass = [&](TReader*, const AnsiString& ClassName, TClass& Class) {
+        if (Class)
+            return;
+        ++Report.MissingClasses[ClassName];
+        Class = TMissingControl::StaticClass();
+    };
+    Reader.OnUnknownProperty = [&](TReader*, TPersistent* Instance, const AnsiString& PropName, bool& Skip) {
+        Skip = true;
+        if (!As<TMissingControl>(Instance))
+            ++Report.MissingProperties[Instance->ClassName() + ("." + PropName.substr(PropName.rfind('.') + 1))];
+    };
+    // The ancestor's form is somewhere else: what is inherited from it is made here.
+    Reader.OnAncestorNotFound = [&](TReader* Sender, const AnsiString& Name, TClass Class, TComponent*& Component) {
+        Component = (Class ? Class : TMissingControl::StaticClass())->Create(Sender->Owner);
+        Component->SetParentComponent(Sender->Parent);
+        Component->Name = Name;
+        ++Report.Components;
+    };
+    Reader.OnError = [&](TReader* Sender, const AnsiString& Message, bool& Handled) {
+        Handled = true;
+        Report.Values.push_back(Sender->PropName + ": " + Message);
+    };
+    // The handlers are in the program that the form belongs to.
+    Reader.OnFindMethod = [](TReader*, const AnsiString&, const TMethodInfo*&, bool& Error) { Error = false; };
+    Reader.OnSetName = [&](TReader*, TComponent*, AnsiString&) { ++Report.Components; };
+    Reader.ReadRootComponent(Root);
+}
+
+std::string WrittenBack(TComponent* Root)
+{
+    TMemoryStream Stream;
+    WriteComponent(Stream, Root);
+    return std::string(Stream.View());
+}
+
+TFormReport CheckAs(const std::string& Binary, const TMakeRoot& Make)
+{
+    TFormReport Report;
+    try {
+        std::unique_ptr<TComponent> Root(Make());
+        Load(Binary, Root.get(), Report);
+        std::string First = WrittenBack(Root.get());
+        Root.reset(Make());
+        TFormReport Ignored;
+        Load(First, Root.get(), Ignored);
+        Report.ComesBack = WrittenBack(Root.get()) == First;
+    } catch (const std::exception& Error) {
+        Report.Error = Error.what();
+    }
+    return Report;
+}
+
+size_t Faults(const TFormReport& Report)
+{
+    return (Report.Error.empty() ? 0 : 1000) + Report.MissingProperties.size() + Report.Values.size();
+}
+
+} // namespace
+
+TFormReport CheckForm(std::string_view Data)
+{
+    TFormReport Best;
+    std::string Binary;
+    try {
+        Binary = ToBinary(Data);
+    } catch (const std::exception& Error) {
+        Best.Error = Error.what();
+        return Best;
+    }
+    // The form's own class says nothing of what it descends from; what it descends from knows its properties.
+    bool First = true;
+    for (const TMakeRoot& Make : {MakeRoot<TForm>, MakeRoot<TFrame>, MakeRoot<TDataModule>}) {
+        TFormReport Report = CheckAs(Binary, Make);
+        if (First || Faults(Report) < Faults(Best))
+            Best = std::move(Report);
+        First = false;
+        if (Faults(Best) == 0)
+            break;
+    }
+    return Best;
+}
