@@ -22,6 +22,7 @@
 #include "vcl/extctrls/Frame3D.h"
 #include "vcl/extctrls/Image.h"
 #include "vcl/extctrls/PaintBox.h"
+#include "vcl/extctrls/LabeledEdit.h"
 #include "vcl/extctrls/Panel.h"
 #include "vcl/extctrls/RadioGroup.h"
 #include "vcl/extctrls/Shape.h"
