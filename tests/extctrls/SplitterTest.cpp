@@ -16,7 +16,7 @@ protected:
         Form->ClientWidth = 400;
         Form->ClientHeight = 300;
         Side = Add<TPanel>();
-        Side->SetBounds(0, 0, 100, 100);
+        Side->SetBounds(Align == alRight ? 300 : 0, Align == alBottom ? 200 : 0, 100, 100);
         Side->Align = Align;
         Splitter = Add<TSplitter>();
         // Behind the panel, seen from the form's edge.

@@ -16,6 +16,7 @@ protected:
     {
         Application->GetHandle();
         Screen->GetCursors(crDefault);
+        Screen->HintFont->GetHandle();
     }
 
     TFormTest()

@@ -79,11 +79,11 @@ TControl* TSplitter::FindNeighbour() const
         if (Control == this || !Control->Visible || !Control->Enabled)
             continue;
         TRect R = Control->BoundsRect;
-        // A control that was closed is still beside the splitter.
+        // A control that was closed is still beside the splitter, perhaps on its other side.
         if (R.Width() == 0)
-            InflateRect(R, 1, 0);
+            InflateRect(R, Width + 1, 0);
         if (R.Height() == 0)
-            InflateRect(R, 0, 1);
+            InflateRect(R, 0, Height + 1);
         if (R.Contains(P))
             return Control;
     }
@@ -165,15 +165,38 @@ void TSplitter::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
         OnMoved(this);
 }
 
+// The splitter goes along. It never lies at the very place of a control that was closed: what is aligned to a side
+// keeps the order of its places.
 void TSplitter::ApplySize()
 {
-    int Grown = FNewSize - SizeOf(FControl);
+    int Along = std::max(FNewSize, 1);
+    TRect R = FControl->BoundsRect;
     Parent->DisableAlign();
     switch (Align) {
-    case alLeft: FControl->Width = FNewSize; break;
-    case alTop: FControl->Height = FNewSize; break;
-    case alRight: FControl->SetBounds(FControl->Left - Grown, FControl->Top, FNewSize, FControl->Height); break;
-    case alBottom: FControl->SetBounds(FControl->Left, FControl->Top - Grown, FControl->Width, FNewSize); break;
+    case alLeft: {
+        int Edge = std::min(R.Left, Left);
+        FControl->SetBounds(Edge, R.Top, FNewSize, R.Height());
+        Left = Edge + Along;
+        break;
+    }
+    case alTop: {
+        int Edge = std::min(R.Top, Top);
+        FControl->SetBounds(R.Left, Edge, R.Width(), FNewSize);
+        Top = Edge + Along;
+        break;
+    }
+    case alRight: {
+        int Edge = std::max(R.Right, Left + Width);
+        FControl->SetBounds(Edge - FNewSize, R.Top, FNewSize, R.Height());
+        Left = Edge - Along - Width;
+        break;
+    }
+    case alBottom: {
+        int Edge = std::max(R.Bottom, Top + Height);
+        FControl->SetBounds(R.Left, Edge - FNewSize, R.Width(), FNewSize);
+        Top = Edge - Along - Height;
+        break;
+    }
     default: break;
     }
     Parent->EnableAlign();
