@@ -48,7 +48,8 @@ void TStrings::CheckInsertIndex(int Index) const
 
 void TStrings::SetStrings(int Index, const AnsiString& Value)
 {
-    AnsiString Text = Value; // may be a part of what is deleted
+    // Value may be a part of what is deleted.
+    AnsiString Text = Value; // NOLINT(performance-unnecessary-copy-initialization)
     TObject* Object = GetObjects(Index);
     Delete(Index);
     InsertObject(Index, Text, Object);
