@@ -18,6 +18,829 @@ object MainForm: TMainForm
   OnCreate = FormCreate
   PixelsPerInch = 96
   TextHeight = 13
+  object Label1: TLabel
+    Left = 12
+    Top = 75
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Panels: outer bevel by inner bevel'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line16: TBevel
+    Left = 12
+    Top = 91
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Label2: TLabel
+    Left = 72
+    Top = 98
+    Width = 52
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'none'
+  end
+  object Label3: TLabel
+    Left = 132
+    Top = 98
+    Width = 52
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'lowered'
+  end
+  object Label4: TLabel
+    Left = 192
+    Top = 98
+    Width = 52
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'raised'
+  end
+  object Label5: TLabel
+    Left = 12
+    Top = 126
+    Width = 27
+    Height = 13
+    Caption = 'none'
+  end
+  object Label6: TLabel
+    Left = 12
+    Top = 166
+    Width = 42
+    Height = 13
+    Caption = 'lowered'
+  end
+  object Label7: TLabel
+    Left = 12
+    Top = 206
+    Width = 33
+    Height = 13
+    Caption = 'raised'
+  end
+  object Label8: TLabel
+    Left = 260
+    Top = 75
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Panels: any of the four sides'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line17: TBevel
+    Left = 260
+    Top = 91
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Label9: TLabel
+    Left = 260
+    Top = 98
+    Width = 33
+    Height = 13
+    Caption = 'bevels'
+  end
+  object Label10: TLabel
+    Left = 260
+    Top = 166
+    Width = 62
+    Height = 13
+    Caption = 'border lines'
+  end
+  object Label11: TLabel
+    Left = 508
+    Top = 75
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Panels: places of the caption'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line18: TBevel
+    Left = 508
+    Top = 91
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Label12: TLabel
+    Left = 508
+    Top = 98
+    Width = 72
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'left'
+  end
+  object Label13: TLabel
+    Left = 588
+    Top = 98
+    Width = 72
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'centre'
+  end
+  object Label14: TLabel
+    Left = 668
+    Top = 98
+    Width = 72
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'right'
+  end
+  object Label15: TLabel
+    Left = 12
+    Top = 243
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Labels'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line19: TBevel
+    Left = 12
+    Top = 259
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Sample1: TkelLabel
+    Left = 12
+    Top = 270
+    Width = 72
+    Height = 25
+    Caption = 'Raised'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clBtnFace
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+    TextStyle = tsRaised
+  end
+  object Sample2: TkelLabel
+    Left = 148
+    Top = 270
+    Width = 83
+    Height = 25
+    Caption = #1054#1090#1084#1077#1085#1072
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+    TextStyle = tsRaised
+  end
+  object Sample3: TkelLabel
+    Left = 12
+    Top = 302
+    Width = 101
+    Height = 25
+    Caption = 'Recessed'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clBtnFace
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Sample4: TkelLabel
+    Left = 148
+    Top = 302
+    Width = 65
+    Height = 25
+    Caption = 'Gr'#246#223'e'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Sample5: TkelLabel
+    Left = 12
+    Top = 334
+    Width = 53
+    Height = 25
+    Caption = 'Plain'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clWindowText
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+    TextStyle = tsNone
+  end
+  object Sample6: TkelLabel
+    Left = 148
+    Top = 334
+    Width = 51
+    Height = 25
+    Caption = #321#243'd'#378
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+    TextStyle = tsNone
+  end
+  object Sample7: TkelLabel
+    Left = 12
+    Top = 366
+    Width = 92
+    Height = 25
+    Caption = 'Disabled'
+    Enabled = False
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clWindowText
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Sample8: TkelLabel
+    Left = 148
+    Top = 366
+    Width = 79
+    Height = 25
+    Caption = #268'e'#353'tina'
+    Enabled = False
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -21
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Label16: TLabel
+    Left = 260
+    Top = 243
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Speed buttons: layouts'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line20: TBevel
+    Left = 260
+    Top = 259
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object LayoutButton1: TkelSpeedButton
+    Left = 260
+    Top = 268
+    Width = 112
+    Height = 36
+    Hint = 'Glyph left|blGlyphLeft: the glyph stands left of the caption'
+    Caption = '&Back'
+    Flat = False
+    GlyphIndex = 9
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object LayoutButton2: TkelSpeedButton
+    Left = 380
+    Top = 268
+    Width = 112
+    Height = 36
+    Hint = 'Glyph right|blGlyphRight: the glyph stands right of the caption'
+    Caption = '&Forward'
+    Flat = False
+    GlyphIndex = 10
+    Glyphs = LargeGlyphs
+    Layout = blGlyphRight
+    OnClick = ToolClick
+  end
+  object LayoutButton3: TkelSpeedButton
+    Left = 260
+    Top = 312
+    Width = 112
+    Height = 52
+    Hint = 'Glyph on top|blGlyphTop: the glyph stands above the caption'
+    Caption = '&Print'
+    Flat = False
+    GlyphIndex = 3
+    Glyphs = LargeGlyphs
+    Layout = blGlyphTop
+    OnClick = ToolClick
+  end
+  object LayoutButton4: TkelSpeedButton
+    Left = 380
+    Top = 312
+    Width = 112
+    Height = 52
+    Hint = 'Glyph below|blGlyphBottom: the glyph stands below the caption'
+    Caption = '&Mail'
+    Flat = False
+    GlyphIndex = 8
+    Glyphs = LargeGlyphs
+    Layout = blGlyphBottom
+    OnClick = ToolClick
+  end
+  object PlainButton: TkelSpeedButton
+    Left = 260
+    Top = 372
+    Width = 232
+    Height = 24
+    Hint = 'Only a caption|A button without a strip shows its caption'
+    Caption = 'Only a &caption'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = ToolClick
+  end
+  object Label17: TLabel
+    Left = 508
+    Top = 243
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Speed buttons: states'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line21: TBevel
+    Left = 508
+    Top = 259
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Label18: TLabel
+    Left = 568
+    Top = 266
+    Width = 52
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'up'
+  end
+  object Label19: TLabel
+    Left = 628
+    Top = 266
+    Width = 52
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'down'
+  end
+  object Label20: TLabel
+    Left = 688
+    Top = 266
+    Width = 52
+    Height = 13
+    Alignment = taCenter
+    AutoSize = False
+    Caption = 'disabled'
+  end
+  object Label21: TLabel
+    Left = 508
+    Top = 294
+    Width = 18
+    Height = 13
+    Caption = 'flat'
+  end
+  object Label22: TLabel
+    Left = 508
+    Top = 334
+    Width = 33
+    Height = 13
+    Caption = 'raised'
+  end
+  object Label23: TLabel
+    Left = 508
+    Top = 374
+    Width = 53
+    Height = 13
+    Caption = 'captioned'
+  end
+  object StateButton1: TkelSpeedButton
+    Left = 568
+    Top = 284
+    Width = 52
+    Height = 32
+    Hint = 'Up|A flat button gets its frame from the pointer'
+    Flat = True
+    GlyphIndex = 7
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton2: TkelSpeedButton
+    Left = 628
+    Top = 284
+    Width = 52
+    Height = 32
+    Hint = 
+      'Down|A flat button gets its frame from the pointer, and this one' +
+      ' is a switch'
+    AllowAllUp = True
+    GroupIndex = 21
+    Down = True
+    Flat = True
+    GlyphIndex = 7
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton3: TkelSpeedButton
+    Left = 688
+    Top = 284
+    Width = 52
+    Height = 32
+    Hint = 
+      'Disabled|A flat button gets its frame from the pointer, and this' +
+      ' one cannot be clicked'
+    Enabled = False
+    Flat = True
+    GlyphIndex = 7
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton4: TkelSpeedButton
+    Left = 568
+    Top = 324
+    Width = 52
+    Height = 32
+    Hint = 'Up|A raised button always has a frame'
+    Flat = False
+    GlyphIndex = 6
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton5: TkelSpeedButton
+    Left = 628
+    Top = 324
+    Width = 52
+    Height = 32
+    Hint = 
+      'Down|A raised button always has a frame, and this one is a switc' +
+      'h'
+    AllowAllUp = True
+    GroupIndex = 22
+    Down = True
+    Flat = False
+    GlyphIndex = 6
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton6: TkelSpeedButton
+    Left = 688
+    Top = 324
+    Width = 52
+    Height = 32
+    Hint = 
+      'Disabled|A raised button always has a frame, and this one cannot' +
+      ' be clicked'
+    Enabled = False
+    Flat = False
+    GlyphIndex = 6
+    Glyphs = LargeGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton7: TkelSpeedButton
+    Left = 568
+    Top = 364
+    Width = 52
+    Height = 32
+    Hint = 'Up|Glyph and caption'
+    Caption = 'Bold'
+    Flat = True
+    GlyphIndex = 15
+    Glyphs = ToolGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton8: TkelSpeedButton
+    Left = 628
+    Top = 364
+    Width = 52
+    Height = 32
+    Hint = 'Down|Glyph and caption, and this one is a switch'
+    AllowAllUp = True
+    GroupIndex = 23
+    Down = True
+    Caption = 'Bold'
+    Flat = True
+    GlyphIndex = 15
+    Glyphs = ToolGlyphs
+    OnClick = ToolClick
+  end
+  object StateButton9: TkelSpeedButton
+    Left = 688
+    Top = 364
+    Width = 52
+    Height = 32
+    Hint = 'Disabled|Glyph and caption, and this one cannot be clicked'
+    Caption = 'Bold'
+    Enabled = False
+    Flat = True
+    GlyphIndex = 15
+    Glyphs = ToolGlyphs
+    OnClick = ToolClick
+  end
+  object Label24: TLabel
+    Left = 12
+    Top = 411
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Shapes'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line22: TBevel
+    Left = 12
+    Top = 427
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object Shape1: TkelShape
+    Left = 12
+    Top = 436
+    Width = 72
+    Height = 60
+    Brush.Color = clInfoBk
+    Pen.Color = clBtnShadow
+  end
+  object Shape2: TkelShape
+    Left = 92
+    Top = 436
+    Width = 72
+    Height = 60
+    Brush.Color = clWindow
+    Pen.Color = clHighlight
+    Pen.Width = 2
+    Shape = stRoundRect
+  end
+  object Shape3: TkelShape
+    Left = 172
+    Top = 436
+    Width = 72
+    Height = 60
+    Brush.Color = clHighlight
+    Pen.Color = clHighlight
+    Shape = stEllipse
+  end
+  object Shape4: TkelShape
+    Left = 12
+    Top = 504
+    Width = 72
+    Height = 60
+    Brush.Color = clHighlight
+    Pen.Color = clHighlight
+    Shape = stSquare
+  end
+  object Shape5: TkelShape
+    Left = 92
+    Top = 504
+    Width = 72
+    Height = 60
+    Brush.Color = clInfoBk
+    Pen.Color = clBtnShadow
+    Shape = stRoundSquare
+  end
+  object Shape6: TkelShape
+    Left = 172
+    Top = 504
+    Width = 72
+    Height = 60
+    Brush.Color = clWindow
+    Pen.Color = clHighlight
+    Pen.Width = 2
+    Shape = stCircle
+  end
+  object Label25: TLabel
+    Left = 260
+    Top = 411
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Glyph strip'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line23: TBevel
+    Left = 260
+    Top = 427
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object CellLabel: TLabel
+    Left = 372
+    Top = 436
+    Width = 67
+    Height = 13
+    Caption = 'GlyphIndex 0'
+  end
+  object CellButton: TkelSpeedButton
+    Left = 372
+    Top = 460
+    Width = 36
+    Height = 36
+    Hint = 'The cell on a button|A button that is normal'
+    Flat = True
+    GlyphIndex = 0
+    Glyphs = ToolGlyphs
+  end
+  object CellLatched: TkelSpeedButton
+    Left = 414
+    Top = 460
+    Width = 36
+    Height = 36
+    Hint = 'The cell on a button|A button that is latched'
+    GroupIndex = 30
+    Down = True
+    Flat = True
+    GlyphIndex = 0
+    Glyphs = ToolGlyphs
+  end
+  object CellDisabled: TkelSpeedButton
+    Left = 456
+    Top = 460
+    Width = 36
+    Height = 36
+    Hint = 'The cell on a button|A button that is disabled'
+    Enabled = False
+    Flat = True
+    GlyphIndex = 0
+    Glyphs = ToolGlyphs
+  end
+  object Label26: TLabel
+    Left = 508
+    Top = 411
+    Width = 232
+    Height = 13
+    AutoSize = False
+    Caption = 'Try it'
+    Font.Charset = DEFAULT_CHARSET
+    Font.Color = clHighlight
+    Font.Height = -11
+    Font.Name = 'Tahoma'
+    Font.Style = [fsBold]
+    ParentFont = False
+  end
+  object Line24: TBevel
+    Left = 508
+    Top = 427
+    Width = 232
+    Height = 2
+    Shape = bsTopLine
+  end
+  object FlatSwitch: TkelSpeedButton
+    Left = 652
+    Top = 436
+    Width = 88
+    Height = 21
+    Hint = 'Flat|The samples have a frame only under the pointer'
+    AllowAllUp = True
+    GroupIndex = 40
+    Down = True
+    Caption = 'Flat'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = SwitchClick
+  end
+  object EnabledSwitch: TkelSpeedButton
+    Left = 652
+    Top = 461
+    Width = 88
+    Height = 21
+    Hint = 'Enabled|The samples can be clicked'
+    AllowAllUp = True
+    GroupIndex = 41
+    Down = True
+    Caption = 'Enabled'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = SwitchClick
+  end
+  object CaptionSwitch: TkelSpeedButton
+    Left = 652
+    Top = 486
+    Width = 88
+    Height = 21
+    Hint = 'Caption|The samples show their captions'
+    AllowAllUp = True
+    GroupIndex = 42
+    Down = True
+    Caption = 'Caption'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = SwitchClick
+  end
+  object AllUpSwitch: TkelSpeedButton
+    Left = 652
+    Top = 511
+    Width = 88
+    Height = 21
+    Hint = 'AllowAllUp|Both samples may be up'
+    AllowAllUp = True
+    GroupIndex = 43
+    Down = True
+    Caption = 'All up'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = SwitchClick
+  end
+  object LayoutLeft: TkelSpeedButton
+    Left = 508
+    Top = 540
+    Width = 52
+    Height = 24
+    Hint = 'Left|Where the samples have their glyph'
+    GroupIndex = 50
+    Caption = 'Left'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = LayoutClick
+  end
+  object LayoutRight: TkelSpeedButton
+    Tag = 1
+    Left = 568
+    Top = 540
+    Width = 52
+    Height = 24
+    Hint = 'Right|Where the samples have their glyph'
+    GroupIndex = 50
+    Caption = 'Right'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = LayoutClick
+  end
+  object LayoutTop: TkelSpeedButton
+    Tag = 2
+    Left = 628
+    Top = 540
+    Width = 52
+    Height = 24
+    Hint = 'Top|Where the samples have their glyph'
+    GroupIndex = 50
+    Down = True
+    Caption = 'Top'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = LayoutClick
+  end
+  object LayoutBottom: TkelSpeedButton
+    Tag = 3
+    Left = 688
+    Top = 540
+    Width = 52
+    Height = 24
+    Hint = 'Bottom|Where the samples have their glyph'
+    GroupIndex = 50
+    Caption = 'Bottom'
+    Flat = False
+    GlyphIndex = 0
+    OnClick = LayoutClick
+  end
   object StandardBar: TkelPanel
     Left = 0
     Top = 0
@@ -33,7 +856,6 @@ object MainForm: TMainForm
       Top = 6
       Width = 3
       Height = 20
-      Shape = bsBox
       Style = bsRaised
     end
     object NewButton: TkelSpeedButton
@@ -368,7 +1190,6 @@ object MainForm: TMainForm
       Top = 6
       Width = 3
       Height = 20
-      Shape = bsBox
       Style = bsRaised
     end
     object BoldButton: TkelSpeedButton
@@ -720,75 +1541,6 @@ object MainForm: TMainForm
       OnClick = ToolClick
     end
   end
-  object Label1: TLabel
-    Left = 12
-    Top = 75
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Panels: outer bevel by inner bevel'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line16: TBevel
-    Left = 12
-    Top = 91
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object Label2: TLabel
-    Left = 72
-    Top = 98
-    Width = 52
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'none'
-  end
-  object Label3: TLabel
-    Left = 132
-    Top = 98
-    Width = 52
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'lowered'
-  end
-  object Label4: TLabel
-    Left = 192
-    Top = 98
-    Width = 52
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'raised'
-  end
-  object Label5: TLabel
-    Left = 12
-    Top = 126
-    Width = 56
-    Height = 13
-    Caption = 'none'
-  end
-  object Label6: TLabel
-    Left = 12
-    Top = 166
-    Width = 56
-    Height = 13
-    Caption = 'lowered'
-  end
-  object Label7: TLabel
-    Left = 12
-    Top = 206
-    Width = 56
-    Height = 13
-    Caption = 'raised'
-  end
   object BevelPanel1: TkelPanel
     Left = 72
     Top = 116
@@ -900,34 +1652,6 @@ object MainForm: TMainForm
     BorderWidth = 4
     TabOrder = 10
   end
-  object Label8: TLabel
-    Left = 260
-    Top = 75
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Panels: any of the four sides'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line17: TBevel
-    Left = 260
-    Top = 91
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object Label9: TLabel
-    Left = 260
-    Top = 98
-    Width = 232
-    Height = 13
-    Caption = 'bevels'
-  end
   object SidePanel1: TkelPanel
     Left = 260
     Top = 116
@@ -992,13 +1716,6 @@ object MainForm: TMainForm
     Caption = 'all'
     TabOrder = 15
   end
-  object Label10: TLabel
-    Left = 260
-    Top = 166
-    Width = 232
-    Height = 13
-    Caption = 'border lines'
-  end
   object SidePanel6: TkelPanel
     Left = 260
     Top = 184
@@ -1058,54 +1775,6 @@ object MainForm: TMainForm
     BevelOuter = bvNone
     Caption = 'all'
     TabOrder = 20
-  end
-  object Label11: TLabel
-    Left = 508
-    Top = 75
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Panels: places of the caption'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line18: TBevel
-    Left = 508
-    Top = 91
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object Label12: TLabel
-    Left = 508
-    Top = 98
-    Width = 72
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'left'
-  end
-  object Label13: TLabel
-    Left = 588
-    Top = 98
-    Width = 72
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'centre'
-  end
-  object Label14: TLabel
-    Left = 668
-    Top = 98
-    Width = 72
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'right'
   end
   object CaptionPanel1: TkelPanel
     Left = 508
@@ -1254,507 +1923,6 @@ object MainForm: TMainForm
     Color = clWindow
     TabOrder = 29
   end
-  object Label15: TLabel
-    Left = 12
-    Top = 243
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Labels'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line19: TBevel
-    Left = 12
-    Top = 259
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object Sample1: TkelLabel
-    Left = 12
-    Top = 270
-    Width = 120
-    Height = 24
-    Caption = 'Raised'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clBtnFace
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-    TextStyle = tsRaised
-  end
-  object Sample2: TkelLabel
-    Left = 148
-    Top = 270
-    Width = 96
-    Height = 24
-    Caption = #1054#1090#1084#1077#1085#1072
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-    TextStyle = tsRaised
-  end
-  object Sample3: TkelLabel
-    Left = 12
-    Top = 302
-    Width = 120
-    Height = 24
-    Caption = 'Recessed'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clBtnFace
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Sample4: TkelLabel
-    Left = 148
-    Top = 302
-    Width = 96
-    Height = 24
-    Caption = 'Gr'#246#223'e'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Sample5: TkelLabel
-    Left = 12
-    Top = 334
-    Width = 120
-    Height = 24
-    Caption = 'Plain'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clWindowText
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-    TextStyle = tsNone
-  end
-  object Sample6: TkelLabel
-    Left = 148
-    Top = 334
-    Width = 96
-    Height = 24
-    Caption = #321#243'd'#378
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-    TextStyle = tsNone
-  end
-  object Sample7: TkelLabel
-    Left = 12
-    Top = 366
-    Width = 120
-    Height = 24
-    Caption = 'Disabled'
-    Enabled = False
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clWindowText
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Sample8: TkelLabel
-    Left = 148
-    Top = 366
-    Width = 96
-    Height = 24
-    Caption = #268'e'#353'tina'
-    Enabled = False
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -21
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Label16: TLabel
-    Left = 260
-    Top = 243
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Speed buttons: layouts'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line20: TBevel
-    Left = 260
-    Top = 259
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object LayoutButton1: TkelSpeedButton
-    Left = 260
-    Top = 268
-    Width = 112
-    Height = 36
-    Hint = 'Glyph left|blGlyphLeft: the glyph stands left of the caption'
-    Caption = '&Back'
-    Flat = False
-    GlyphIndex = 9
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object LayoutButton2: TkelSpeedButton
-    Left = 380
-    Top = 268
-    Width = 112
-    Height = 36
-    Hint = 'Glyph right|blGlyphRight: the glyph stands right of the caption'
-    Caption = '&Forward'
-    Flat = False
-    GlyphIndex = 10
-    Glyphs = LargeGlyphs
-    Layout = blGlyphRight
-    OnClick = ToolClick
-  end
-  object LayoutButton3: TkelSpeedButton
-    Left = 260
-    Top = 312
-    Width = 112
-    Height = 52
-    Hint = 'Glyph on top|blGlyphTop: the glyph stands above the caption'
-    Caption = '&Print'
-    Flat = False
-    GlyphIndex = 3
-    Glyphs = LargeGlyphs
-    Layout = blGlyphTop
-    OnClick = ToolClick
-  end
-  object LayoutButton4: TkelSpeedButton
-    Left = 380
-    Top = 312
-    Width = 112
-    Height = 52
-    Hint = 'Glyph below|blGlyphBottom: the glyph stands below the caption'
-    Caption = '&Mail'
-    Flat = False
-    GlyphIndex = 8
-    Glyphs = LargeGlyphs
-    Layout = blGlyphBottom
-    OnClick = ToolClick
-  end
-  object PlainButton: TkelSpeedButton
-    Left = 260
-    Top = 372
-    Width = 232
-    Height = 24
-    Hint = 'Only a caption|A button without a strip shows its caption'
-    Caption = 'Only a &caption'
-    Flat = False
-    OnClick = ToolClick
-  end
-  object Label17: TLabel
-    Left = 508
-    Top = 243
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Speed buttons: states'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line21: TBevel
-    Left = 508
-    Top = 259
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object Label18: TLabel
-    Left = 568
-    Top = 266
-    Width = 52
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'up'
-  end
-  object Label19: TLabel
-    Left = 628
-    Top = 266
-    Width = 52
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'down'
-  end
-  object Label20: TLabel
-    Left = 688
-    Top = 266
-    Width = 52
-    Height = 13
-    Alignment = taCenter
-    AutoSize = False
-    Caption = 'disabled'
-  end
-  object Label21: TLabel
-    Left = 508
-    Top = 294
-    Width = 56
-    Height = 13
-    Caption = 'flat'
-  end
-  object Label22: TLabel
-    Left = 508
-    Top = 334
-    Width = 56
-    Height = 13
-    Caption = 'raised'
-  end
-  object Label23: TLabel
-    Left = 508
-    Top = 374
-    Width = 56
-    Height = 13
-    Caption = 'captioned'
-  end
-  object StateButton1: TkelSpeedButton
-    Left = 568
-    Top = 284
-    Width = 52
-    Height = 32
-    Hint = 'Up|A flat button gets its frame from the pointer'
-    Flat = True
-    GlyphIndex = 7
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton2: TkelSpeedButton
-    Left = 628
-    Top = 284
-    Width = 52
-    Height = 32
-    Hint = 
-      'Down|A flat button gets its frame from the pointer, and this one' +
-      ' is a switch'
-    AllowAllUp = True
-    GroupIndex = 21
-    Down = True
-    Flat = True
-    GlyphIndex = 7
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton3: TkelSpeedButton
-    Left = 688
-    Top = 284
-    Width = 52
-    Height = 32
-    Hint = 
-      'Disabled|A flat button gets its frame from the pointer, and this' +
-      ' one cannot be clicked'
-    Enabled = False
-    Flat = True
-    GlyphIndex = 7
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton4: TkelSpeedButton
-    Left = 568
-    Top = 324
-    Width = 52
-    Height = 32
-    Hint = 'Up|A raised button always has a frame'
-    Flat = False
-    GlyphIndex = 6
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton5: TkelSpeedButton
-    Left = 628
-    Top = 324
-    Width = 52
-    Height = 32
-    Hint = 
-      'Down|A raised button always has a frame, and this one is a switc' +
-      'h'
-    AllowAllUp = True
-    GroupIndex = 22
-    Down = True
-    Flat = False
-    GlyphIndex = 6
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton6: TkelSpeedButton
-    Left = 688
-    Top = 324
-    Width = 52
-    Height = 32
-    Hint = 
-      'Disabled|A raised button always has a frame, and this one cannot' +
-      ' be clicked'
-    Enabled = False
-    Flat = False
-    GlyphIndex = 6
-    Glyphs = LargeGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton7: TkelSpeedButton
-    Left = 568
-    Top = 364
-    Width = 52
-    Height = 32
-    Hint = 'Up|Glyph and caption'
-    Caption = 'Bold'
-    Flat = True
-    GlyphIndex = 15
-    Glyphs = ToolGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton8: TkelSpeedButton
-    Left = 628
-    Top = 364
-    Width = 52
-    Height = 32
-    Hint = 'Down|Glyph and caption, and this one is a switch'
-    AllowAllUp = True
-    GroupIndex = 23
-    Down = True
-    Caption = 'Bold'
-    Flat = True
-    GlyphIndex = 15
-    Glyphs = ToolGlyphs
-    OnClick = ToolClick
-  end
-  object StateButton9: TkelSpeedButton
-    Left = 688
-    Top = 364
-    Width = 52
-    Height = 32
-    Hint = 'Disabled|Glyph and caption, and this one cannot be clicked'
-    Caption = 'Bold'
-    Enabled = False
-    Flat = True
-    GlyphIndex = 15
-    Glyphs = ToolGlyphs
-    OnClick = ToolClick
-  end
-  object Label24: TLabel
-    Left = 12
-    Top = 411
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Shapes'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line22: TBevel
-    Left = 12
-    Top = 427
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
-  object Shape1: TkelShape
-    Left = 12
-    Top = 436
-    Width = 72
-    Height = 60
-    Brush.Color = clInfoBk
-    Pen.Color = clBtnShadow
-  end
-  object Shape2: TkelShape
-    Left = 92
-    Top = 436
-    Width = 72
-    Height = 60
-    Brush.Color = clWindow
-    Pen.Color = clHighlight
-    Pen.Width = 2
-    Shape = stRoundRect
-  end
-  object Shape3: TkelShape
-    Left = 172
-    Top = 436
-    Width = 72
-    Height = 60
-    Brush.Color = clHighlight
-    Pen.Color = clHighlight
-    Shape = stEllipse
-  end
-  object Shape4: TkelShape
-    Left = 12
-    Top = 504
-    Width = 72
-    Height = 60
-    Brush.Color = clHighlight
-    Pen.Color = clHighlight
-    Shape = stSquare
-  end
-  object Shape5: TkelShape
-    Left = 92
-    Top = 504
-    Width = 72
-    Height = 60
-    Brush.Color = clInfoBk
-    Pen.Color = clBtnShadow
-    Shape = stRoundSquare
-  end
-  object Shape6: TkelShape
-    Left = 172
-    Top = 504
-    Width = 72
-    Height = 60
-    Brush.Color = clWindow
-    Pen.Color = clHighlight
-    Pen.Width = 2
-    Shape = stCircle
-  end
-  object Label25: TLabel
-    Left = 260
-    Top = 411
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Glyph strip'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line23: TBevel
-    Left = 260
-    Top = 427
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
-  end
   object MagnifierPanel: TkelPanel
     Left = 260
     Top = 436
@@ -1777,46 +1945,6 @@ object MainForm: TMainForm
       Transparent = True
     end
   end
-  object CellLabel: TLabel
-    Left = 372
-    Top = 436
-    Width = 120
-    Height = 13
-    Caption = 'GlyphIndex 0'
-  end
-  object CellButton: TkelSpeedButton
-    Left = 372
-    Top = 460
-    Width = 36
-    Height = 36
-    Hint = 'The cell on a button|A button that is normal'
-    Flat = True
-    GlyphIndex = 0
-    Glyphs = ToolGlyphs
-  end
-  object CellLatched: TkelSpeedButton
-    Left = 414
-    Top = 460
-    Width = 36
-    Height = 36
-    Hint = 'The cell on a button|A button that is latched'
-    GroupIndex = 30
-    Down = True
-    Flat = True
-    GlyphIndex = 0
-    Glyphs = ToolGlyphs
-  end
-  object CellDisabled: TkelSpeedButton
-    Left = 456
-    Top = 460
-    Width = 36
-    Height = 36
-    Hint = 'The cell on a button|A button that is disabled'
-    Enabled = False
-    Flat = True
-    GlyphIndex = 0
-    Glyphs = ToolGlyphs
-  end
   object StepPanel: TkelPanel
     Left = 372
     Top = 516
@@ -1832,18 +1960,18 @@ object MainForm: TMainForm
       Top = 0
       Width = 56
       Height = 24
-      Align = alLeft
       Caption = 'Previous'
       OnClick = StepClick
+      Align = alLeft
     end
     object NextButton: TAlignSpeedButton
       Left = 64
       Top = 0
       Width = 56
       Height = 24
-      Align = alRight
       Caption = 'Next'
       OnClick = StepClick
+      Align = alRight
     end
   end
   object CellScroll: TkelScrollBar
@@ -1851,33 +1979,11 @@ object MainForm: TMainForm
     Top = 548
     Width = 232
     Height = 16
-    Max = 49
     LargeChange = 8
     PageSize = 0
     TabOrder = 32
     TabStop = False
     OnChange = CellScrollChange
-  end
-  object Label26: TLabel
-    Left = 508
-    Top = 411
-    Width = 232
-    Height = 13
-    AutoSize = False
-    Caption = 'Try it'
-    Font.Charset = DEFAULT_CHARSET
-    Font.Color = clHighlight
-    Font.Height = -11
-    Font.Name = 'Tahoma'
-    Font.Style = [fsBold]
-    ParentFont = False
-  end
-  object Line24: TBevel
-    Left = 508
-    Top = 427
-    Width = 232
-    Height = 2
-    Shape = bsTopLine
   end
   object SamplePanel: TkelPanel
     Left = 508
@@ -1919,106 +2025,6 @@ object MainForm: TMainForm
       Layout = blGlyphTop
       OnClick = ToolClick
     end
-  end
-  object FlatSwitch: TkelSpeedButton
-    Left = 652
-    Top = 436
-    Width = 88
-    Height = 21
-    Hint = 'Flat|The samples have a frame only under the pointer'
-    AllowAllUp = True
-    GroupIndex = 40
-    Down = True
-    Caption = 'Flat'
-    Flat = False
-    OnClick = SwitchClick
-  end
-  object EnabledSwitch: TkelSpeedButton
-    Left = 652
-    Top = 461
-    Width = 88
-    Height = 21
-    Hint = 'Enabled|The samples can be clicked'
-    AllowAllUp = True
-    GroupIndex = 41
-    Down = True
-    Caption = 'Enabled'
-    Flat = False
-    OnClick = SwitchClick
-  end
-  object CaptionSwitch: TkelSpeedButton
-    Left = 652
-    Top = 486
-    Width = 88
-    Height = 21
-    Hint = 'Caption|The samples show their captions'
-    AllowAllUp = True
-    GroupIndex = 42
-    Down = True
-    Caption = 'Caption'
-    Flat = False
-    OnClick = SwitchClick
-  end
-  object AllUpSwitch: TkelSpeedButton
-    Left = 652
-    Top = 511
-    Width = 88
-    Height = 21
-    Hint = 'AllowAllUp|Both samples may be up'
-    AllowAllUp = True
-    GroupIndex = 43
-    Down = True
-    Caption = 'All up'
-    Flat = False
-    OnClick = SwitchClick
-  end
-  object LayoutLeft: TkelSpeedButton
-    Left = 508
-    Top = 540
-    Width = 52
-    Height = 24
-    Hint = 'Left|Where the samples have their glyph'
-    GroupIndex = 50
-    Caption = 'Left'
-    Flat = False
-    OnClick = LayoutClick
-  end
-  object LayoutRight: TkelSpeedButton
-    Tag = 1
-    Left = 568
-    Top = 540
-    Width = 52
-    Height = 24
-    Hint = 'Right|Where the samples have their glyph'
-    GroupIndex = 50
-    Caption = 'Right'
-    Flat = False
-    OnClick = LayoutClick
-  end
-  object LayoutTop: TkelSpeedButton
-    Tag = 2
-    Left = 628
-    Top = 540
-    Width = 52
-    Height = 24
-    Hint = 'Top|Where the samples have their glyph'
-    GroupIndex = 50
-    Down = True
-    Caption = 'Top'
-    Flat = False
-    OnClick = LayoutClick
-  end
-  object LayoutBottom: TkelSpeedButton
-    Tag = 3
-    Left = 688
-    Top = 540
-    Width = 52
-    Height = 24
-    Hint = 'Bottom|Where the samples have their glyph'
-    GroupIndex = 50
-    Caption = 'Bottom'
-    Flat = False
-    OnClick = LayoutClick
   end
   object StatusBar: TkelPanel
     Left = 0
