@@ -7,18 +7,49 @@ void TGraphicControl::Describe(TClassBuilder<TGraphicControl>& Class)
     Class.Message<&Self::WMPaint>(WM_PAINT);
 }
 
-TGraphicControl::TGraphicControl(TComponent* AOwner) : TControl(AOwner), FCanvas(this)
+TGraphicControl::TGraphicControl(TComponent* AOwner) : TControl(AOwner)
 {}
 
-TGraphicControl::~TGraphicControl() = default;
+TGraphicControl::~TGraphicControl()
+{
+    if (!FCanvasPasses)
+        delete FCanvas;
+}
+
+TCanvas* TGraphicControl::GetCanvas()
+{
+    if (!FCanvas)
+        FCanvas = new TControlCanvas(this);
+    return FCanvas;
+}
 
 void TGraphicControl::WMPaint(TMessage& Message)
 {
     auto DC = reinterpret_cast<HDC>(Message.WParam);
     if (!DC)
         return;
-    FCanvas.FreeHandle();
-    FCanvas.SetHandle(DC);
+    if (FCanvas) {
+        FCanvas->FreeHandle();
+        PaintOn(*FCanvas, DC);
+        return;
+    }
+    TControlCanvas Passing(this);
+    FCanvas = &Passing;
+    FCanvasPasses = true;
+    try {
+        PaintOn(Passing, DC);
+    } catch (...) {
+        FCanvas = nullptr;
+        FCanvasPasses = false;
+        throw;
+    }
+    FCanvas = nullptr;
+    FCanvasPasses = false;
+}
+
+void TGraphicControl::PaintOn(TControlCanvas& Canvas, HDC DC)
+{
+    Canvas.SetHandle(DC);
     Paint();
-    FCanvas.SetHandle(nullptr);
+    Canvas.SetHandle(nullptr);
 }

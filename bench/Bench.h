@@ -1,0 +1,38 @@
+// Measuring on the platform: every figure beside a baseline from the same run.
+#pragma once
+
+#include "vcl/system/WindowsApi.h"
+
+#include <functional>
+#include <vector>
+
+class TStopwatch {
+public:
+    TStopwatch() { QueryPerformanceCounter(&FStart); }
+    double Microseconds() const;
+
+private:
+    LARGE_INTEGER FStart;
+};
+
+double Median(std::vector<double> Values);
+
+struct TMeasure {
+    double Value;
+    double Baseline;
+};
+
+// Runs both in turn, after one run of each that warms up, and gives the medians of what they return.
+TMeasure Compare(const std::function<double()>& Subject, const std::function<double()>& Baseline, int Runs = 7);
+
+// One line: name value unit baseline ratio. Without a baseline (0) there are dashes in place of the last two.
+void PrintFigure(const char* Name, double Value, const char* Unit, double Baseline = 0);
+
+// The figures.
+void GlyphDrawBench();
+void ButtonsOpenBench();
+void ButtonsRepaintBench();
+void HotTrackBench();
+void ButtonsMemoryBench();
+void FormLoadBench();
+void StartupBench();
