@@ -228,6 +228,19 @@ TEST_F(ReaderTest, LoadedComesAfterEverythingTheRootFirst)
                     Form->Components[I]->ComponentState == TComponentState{csFreeNotification});
 }
 
+TEST_F(ReaderTest, EveryObjectIsLoadingWhenItGetsItsName)
+{
+    TStringStream Stream(Binary("object Form: TSampleForm\n object A: TSample\n end\nend"));
+    TReader Reader(&Stream);
+    int Named = 0;
+    Reader.OnSetName = [&](TReader*, TComponent* Component, AnsiString&) {
+        EXPECT_TRUE(Component->ComponentState.Contains(csLoading));
+        ++Named;
+    };
+    Reader.ReadRootComponent(Form);
+    EXPECT_EQ(Named, 2);
+}
+
 TEST_F(ReaderTest, AnUnnamedRootKeepsItsName)
 {
     Form->Name = "Mine";

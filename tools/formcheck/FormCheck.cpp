@@ -66,6 +66,26 @@ std::string WrittenBack(TComponent* Root)
     return std::string(Stream.View());
 }
 
+// "Width = 1 becomes Width = 2", for two binary forms.
+std::string FirstChange(const std::string& Before, const std::string& After)
+{
+    if (Before == After)
+        return {};
+    TStringList Lines[2];
+    for (int I : {0, 1}) {
+        std::string Text;
+        FormBinaryToText(I == 0 ? Before : After, Text);
+        Lines[I].Text = Text;
+    }
+    auto Line = [&](int Which, int Index) {
+        return Index < Lines[Which].Count ? Trim(Lines[Which].Strings[Index]) : "nothing";
+    };
+    int Index = 0;
+    while (Index < Lines[0].Count && Line(0, Index) == Line(1, Index))
+        ++Index;
+    return Line(0, Index) + " becomes " + Line(1, Index);
+}
+
 TFormReport CheckAs(const std::string& Binary, const TMakeRoot& Make)
 {
     TFormReport Report;
@@ -76,7 +96,7 @@ TFormReport CheckAs(const std::string& Binary, const TMakeRoot& Make)
         Root.reset(Make());
         TFormReport Ignored;
         Load(First, Root.get(), Ignored);
-        Report.ComesBack = WrittenBack(Root.get()) == First;
+        Report.Change = FirstChange(First, WrittenBack(Root.get()));
     } catch (const std::exception& Error) {
         Report.Error = Error.what();
     }
@@ -85,7 +105,8 @@ TFormReport CheckAs(const std::string& Binary, const TMakeRoot& Make)
 
 size_t Faults(const TFormReport& Report)
 {
-    return (Report.Error.empty() ? 0 : 1000) + Report.MissingProperties.size() + Report.Values.size();
+    return (Report.Error.empty() ? 0 : 1000) + Report.MissingProperties.size() + Report.Values.size() +
+           !Report.Change.empty();
 }
 
 } // namespace

@@ -16,12 +16,12 @@ struct TFormReport {
     TCounts MissingClasses;          // "TTreeView"
     TCounts MissingProperties;       // "TButton.WordWrap"
     std::vector<std::string> Values; // that were refused: "Button1.Width: Invalid property value"
-    // What was written back, read again and written once more, is the same.
-    bool ComesBack = false;
+    // The first line that changes when what was written back is read and written once more; empty when all is the same.
+    std::string Change;
 
     bool Complete() const
     {
-        return Error.empty() && ComesBack && MissingClasses.empty() && MissingProperties.empty() && Values.empty();
+        return Error.empty() && Change.empty() && MissingClasses.empty() && MissingProperties.empty() && Values.empty();
     }
 };
 

@@ -55,8 +55,8 @@ void TSummary::Add(std::ostream& Out, const std::string& FileName, const TFormRe
         Out << "  missing properties:" << Listed(Report.MissingProperties) << '\n';
     for (const std::string& Value : Report.Values)
         Out << "  refused: " << Value << '\n';
-    if (!Report.ComesBack)
-        Out << "  does not come back the same\n";
+    if (!Report.Change.empty())
+        Out << "  does not come back the same: " << Report.Change << '\n';
 }
 
 void TSummary::PrintTotals(std::ostream& Out) const

@@ -240,9 +240,9 @@ TComponent* TReader::ReadRootComponent(TComponent* ARoot)
     Root = ARoot;
     FLookupRoot = ARoot;
     FOwner = ARoot;
+    Track(ARoot); // a control that is loading does not take its name for its caption
     if (!Name.empty())
         NameRoot(ARoot, Name, Start);
-    Track(ARoot);
     ReadContents(ARoot);
     --FDepth;
     Session.Finish();

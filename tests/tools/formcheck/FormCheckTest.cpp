@@ -11,7 +11,17 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Pair;
 
-TEST(FormCheckTest, AFormOfKnownClassesIsComplete)
+namespace {
+
+class FormCheckTest : public testing::Test {
+protected:
+    // Makes the fonts that the program keeps for good.
+    static void SetUpTestSuite() { CheckForm("object F: TF\n  object L: TLabel\n    Caption = 'x'\n  end\nend\n"); }
+};
+
+} // namespace
+
+TEST_F(FormCheckTest, AFormOfKnownClassesIsComplete)
 {
     TFormReport Report = CheckForm("object Form1: TForm1\n  Caption = 'Hello'\n  OnCreate = FormCreate\n"
                                    "  object Button1: TButton\n    Left = 8\n    OnClick = Button1Click\n  end\n"
@@ -21,7 +31,7 @@ TEST(FormCheckTest, AFormOfKnownClassesIsComplete)
     EXPECT_EQ(Report.Components, 3);
 }
 
-TEST(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
+TEST_F(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
 {
     TFormReport Report = CheckForm("object Form1: TForm1\n  Nope = 1\n"
                                    "  object A: TNobody\n    Whatever.Deep = 3\n    object B: TButton\n      Nope = 2\n"
@@ -34,10 +44,10 @@ TEST(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
     EXPECT_THAT(Report.Values, ElementsAre("Left: Invalid property value"));
     EXPECT_EQ(Report.Components, 5);
     EXPECT_FALSE(Report.Complete());
-    EXPECT_TRUE(Report.ComesBack);
+    EXPECT_EQ(Report.Change, "");
 }
 
-TEST(FormCheckTest, InheritedFormsAndUnknownFramesAreLoadedAsFarAsTheyGo)
+TEST_F(FormCheckTest, InheritedFormsAndUnknownFramesAreLoadedAsFarAsTheyGo)
 {
     TFormReport Report = CheckForm("inherited Form2: TForm2\n  inherited Button1: TButton\n    Caption = 'x'\n  end\n"
                                    "  inline Frame1: TFrame1\n    inherited Button1: TButton\n    end\n  end\n"
@@ -47,7 +57,7 @@ TEST(FormCheckTest, InheritedFormsAndUnknownFramesAreLoadedAsFarAsTheyGo)
     EXPECT_THAT(Report.MissingProperties, IsEmpty());
 }
 
-TEST(FormCheckTest, DataModulesAreTakenForWhatTheyAre)
+TEST_F(FormCheckTest, DataModulesAreTakenForWhatTheyAre)
 {
     TFormReport Report = CheckForm("object DataModule1: TDataModule1\n  OldCreateOrder = False\n  Height = 150\n"
                                    "  HorizontalOffset = 20\n  VerticalOffset = 30\n  Width = 215\nend\n");
@@ -55,25 +65,33 @@ TEST(FormCheckTest, DataModulesAreTakenForWhatTheyAre)
     EXPECT_TRUE(Report.Complete());
 }
 
-TEST(FormCheckTest, BrokenFormsSayWhatIsWrong)
+TEST_F(FormCheckTest, BrokenFormsSayWhatIsWrong)
 {
-    EXPECT_THAT(CheckForm("object Form1 TForm1\nend\n").Error, HasSubstr("line 1"));
+    EXPECT_THAT(CheckForm("object Form1 TForm1\nend\n").Error, HasSubstr("on line 2"));
     EXPECT_THAT(CheckForm("TPF0\5TForm").Error, HasSubstr("offset"));
 }
 
-TEST(FormCheckTest, TheSummaryNamesEachFormAndCountsAll)
+TEST_F(FormCheckTest, TheSummaryNamesEachFormAndCountsAll)
 {
+    TFormReport Complete, Partial, Broken;
+    Complete.Components = 2;
+    Partial.Components = 3;
+    Partial.MissingClasses = {{"TX", 2}};
+    Partial.MissingProperties = {{"TY.Z", 1}};
+    Partial.Change = "A = 1 becomes A = 2";
+    Broken.Error = "broken";
     std::ostringstream Out;
     TSummary Summary;
-    Summary.Add(Out, "a.dfm", {.Components = 2, .ComesBack = true});
-    Summary.Add(Out, "b.dfm", {.Components = 3, .MissingClasses = {{"TX", 2}}, .MissingProperties = {{"TY.Z", 1}}});
-    Summary.Add(Out, "c.dfm", {.Error = "broken"});
+    Summary.Add(Out, "a.dfm", Complete);
+    EXPECT_TRUE(Summary.AllComplete());
+    Summary.Add(Out, "b.dfm", Partial);
+    Summary.Add(Out, "c.dfm", Broken);
     Summary.PrintTotals(Out);
     EXPECT_EQ(Out.str(), "a.dfm: 2 components, complete\n"
                          "b.dfm: 3 components\n"
                          "  missing classes: TX (2)\n"
                          "  missing properties: TY.Z\n"
-                         "  does not come back the same\n"
+                         "  does not come back the same: A = 1 becomes A = 2\n"
                          "c.dfm: broken\n"
                          "Missing classes, with the number of forms:\n  1  TX\n"
                          "Missing properties, with the number of forms:\n  1  TY.Z\n"
