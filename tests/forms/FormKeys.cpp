@@ -238,6 +238,19 @@ TEST_F(FormKeys, DeletingAControlOfAnotherOwnerForgetsIt)
     EXPECT_TRUE(A->Focused());
 }
 
+TEST_F(FormKeys, AFormThatIsDeletedTellsNoControlOfIt)
+{
+    int Exits = 0;
+    A->OnExit = [&](TObject*) { ++Exits; };
+    Form->OnDeactivate = [&](TObject*) { ++Exits; };
+    Form->Open();
+    PumpMessages();
+    ASSERT_TRUE(A->Focused());
+    Form.reset();
+    PumpMessages();
+    EXPECT_EQ(Exits, 0);
+}
+
 TEST_F(FormKeys, AHandlerMayDeleteTheControlThatGetsTheFocus)
 {
     Form->Open();

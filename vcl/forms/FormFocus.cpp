@@ -39,6 +39,9 @@ bool TFormFocus::StillOn(HWND Focus, const TWinControl* Control) const
 
 bool TFormFocus::SetFocusedControl(TWinControl* Control)
 {
+    // The windows of a form that is being deleted pass the focus on as they go; nobody is told.
+    if (FForm->ComponentState.Contains(csDestroying))
+        return false;
     if (!FForm->GetDesigner())
         FActive = Control == FForm ? nullptr : Control;
     Screen->SetActive(FForm, Control);
