@@ -177,7 +177,8 @@ void TkelSpeedButton::MouseMove(TShiftState Shift, int X, int Y)
 void TkelSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
     inherited::MouseUp(Button, Shift, X, Y);
-    if (!FDragging || Button != mbLeft)
+    // Any button's release ends the press.
+    if (!FDragging)
         return;
     FDragging = false;
     const bool Inside = IsInside(X, Y);

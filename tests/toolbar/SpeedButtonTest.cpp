@@ -333,10 +333,17 @@ TEST_F(SpeedButtonTest, OtherButtonsOfTheMouseDoNotPress)
     Button->MouseDown(mbRight, {ssRight}, 5, 5);
     EXPECT_EQ(Button->State(), bsUp);
     Button->MouseUp(mbRight, {}, 5, 5);
+    EXPECT_EQ(Clicks, 0);
+}
+
+TEST_F(SpeedButtonTest, TheReleaseOfAnyButtonEndsThePress)
+{
+    int Clicks = 0;
+    Button->OnClick = [&](TObject*) { ++Clicks; };
     Press(Button);
     Button->MouseUp(mbRight, {ssLeft}, 5, 5); // the left one is still held
-    EXPECT_EQ(Button->State(), bsDown);
-    EXPECT_EQ(Clicks, 0);
+    EXPECT_EQ(Button->State(), bsUp);
+    EXPECT_EQ(Clicks, 1);
     Release(Button);
     EXPECT_EQ(Clicks, 1);
 }
