@@ -1,6 +1,7 @@
 #include "vcl/stdctrls/CustomLabel.h"
 
 #include "vcl/controls/WinControl.h"
+#include "vcl/graphics/Canvas.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -45,8 +46,15 @@ void TCustomLabel::DoDrawText(TRect& Rect, unsigned Flags)
     if (BiDiMode != bdLeftToRight)
         Flags |= DT_RTLREADING;
 
+    if (Measuring) {
+        // No canvas: a label that is measured while nothing is painted would keep one for good.
+        HGDIOBJ Old = SelectObject(MeasureContext(), Font->Handle);
+        DrawText(MeasureContext(), Text, Rect, Flags);
+        SelectObject(MeasureContext(), Old);
+        return;
+    }
     Canvas->Font = Font;
-    if (!Enabled && !Measuring) {
+    if (!Enabled) {
         OffsetRect(Rect, 1, 1);
         Canvas->Font->Color = clBtnHighlight;
         DrawText(Canvas->Handle, Text, Rect, Flags);
@@ -80,9 +88,7 @@ void TCustomLabel::AdjustBounds()
     if (IsLoading() || !AutoSize)
         return;
     TRect Text = ClientRect;
-    Canvas->Handle = MeasureContext();
     DoDrawText(Text, TextFlags() | DT_CALCRECT);
-    Canvas->Handle = nullptr;
     int NewLeft = FAlignment == taRightJustify ? Left + Width - Text.Right : Left;
     SetBounds(NewLeft, Top, Text.Right, Text.Bottom);
 }
