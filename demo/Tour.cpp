@@ -39,13 +39,26 @@ LONG Normalized(int Pixel, int Size)
     return static_cast<LONG>((int64_t{Pixel} * 65536 + 32768) / Size);
 }
 
-void MovePointer(const TPoint& Target)
+// The desktop can be another program, which hears of the pointer later than we do and then reports a place that the
+// pointer has left already. It gets the time for that.
+void SettleDesktop()
 {
-    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Normalized(Target.x, GetSystemMetrics(SM_CXSCREEN)),
-              Normalized(Target.y, GetSystemMetrics(SM_CYSCREEN)));
-    WaitFor("the pointer to move", [&] {
+    for (int I = 0; I < 2; ++I) {
+        DWORD_PTR Result;
+        SendMessageTimeoutW(GetDesktopWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 1000, &Result);
+    }
+}
+
+// Moves the pointer until it is at Target and Control has noticed.
+void MovePointer(const TPoint& Target, const TControl* Control)
+{
+    WaitFor("a control to notice the pointer", [&] {
+        SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Normalized(Target.x, GetSystemMetrics(SM_CXSCREEN)),
+                  Normalized(Target.y, GetSystemMetrics(SM_CYSCREEN)));
+        SettleDesktop();
+        Application->ProcessMessages();
         TPoint Now;
-        return GetCursorPos(&Now) && Now == Target;
+        return GetCursorPos(&Now) && Now == Target && TMouse::HotControl() == Control;
     });
 }
 
@@ -78,8 +91,8 @@ void TTour::Run()
     Application->HintShortPause = NoHints;
     Application->HintHidePause = NoHints;
     FForm->Show();
-    MovePointer({GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2});
     WaitFor("the window to be active", [this] { return FForm->Active; });
+    MovePointer({GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2}, nullptr);
     TakePicture("start");
     ShowButtons();
     ShowMagnifier();
@@ -138,13 +151,7 @@ void TTour::ShowSwitches()
 
 void TTour::PointAt(TControl* Control)
 {
-    PointAt(Control, Control->Width / 2, Control->Height / 2);
-}
-
-void TTour::PointAt(TControl* Control, int X, int Y)
-{
-    MovePointer(Control->ClientToScreen({X, Y}));
-    WaitFor("a control to notice the pointer", [Control] { return TMouse::HotControl() == Control; });
+    MovePointer(Control->ClientToScreen({Control->Width / 2, Control->Height / 2}), Control);
 }
 
 void TTour::Press()

@@ -25,7 +25,6 @@ private:
     void ShowMagnifier();
 
     void PointAt(TControl* Control);
-    void PointAt(TControl* Control, int X, int Y);
     void Press();
     void Release();
     void Click(TControl* Control);
