@@ -421,11 +421,16 @@ TEST_F(WriterTest, AFrameIsWrittenAgainstItsOwnForm)
     EXPECT_EQ(Stream.View(), Binary(FormWithFrame));
 }
 
-TEST_F(WriterTest, AFrameWithoutItsFormIsWrittenInFullAndComesBack)
+TEST_F(WriterTest, AFrameIsComparedWithANewOneOfItsClass)
 {
     Load(Form, FormWithFrame);
+    EXPECT_EQ(Written(Form), FormWithFrame);
+    auto* Frame = As<TSampleFrame>(Form->FindComponent("Frame1"));
+    Frame->Button1->SetNumber(5); // the class's default, but not the frame's
+    Frame->Button1->OnPing = {static_cast<TSampleForm*>(Frame), &TSampleForm::Ping};
+    Frame->SetChildOrder(Frame->Button1, 1);
     std::string Text = Written(Form);
-    EXPECT_NE(Text.find("inherited Button1: TSampleBox\n      Number = 20"), Text.npos) << Text;
+    EXPECT_NE(Text.find("inherited Button1: TSampleBox\n      Number = 5\n    end"), Text.npos) << Text;
     std::unique_ptr<TSampleForm> Copy(new TSampleForm);
     Load(Copy.get(), Text);
     EXPECT_EQ(Written(Copy.get()), Text);

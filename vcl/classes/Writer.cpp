@@ -142,8 +142,7 @@ TFormPrefix TWriter::FindAncestor(TComponent* Component)
         Found = FRootAncestor->FindComponent(Component->GetName());
     if (Found && !IsRoot && Found->ClassType() != Component->ClassType())
         Found = nullptr;
-    bool InFrame = Root && Root != FLookupRoot && Component != Root;
-    if (Found || (InFrame && !FRootAncestor))
+    if (Found)
         Prefix.Flags |= FilerFlagInherited;
     else if (IsInline)
         Prefix.Flags |= FilerFlagInline;
@@ -154,8 +153,13 @@ TFormPrefix TWriter::FindAncestor(TComponent* Component)
         Prefix.Flags |= FilerFlagChildPos;
     Prefix.ChildPos = FChildPos++;
 
-    if (!Found && IsInline && OnFindAncestor)
-        OnFindAncestor(this, Component, Component->GetName(), Found, FRootAncestor);
+    if (!Found && IsInline) {
+        if (OnFindAncestor)
+            OnFindAncestor(this, Component, Component->GetName(), Found, FRootAncestor);
+        // As the reader will make it.
+        if (!Found)
+            Found = FFrames.emplace_back(Component->ClassType()->Create(nullptr)).get();
+    }
     Ancestor = Found;
     return Prefix;
 }

@@ -8,6 +8,7 @@
 #include "vcl/classes/Filer.h"
 #include "vcl/classes/FormEncoder.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +17,8 @@ class TCollection;
 struct TPropertyInfo;
 struct TTypeInfo;
 
-// Component, of that name, has no ancestor yet; the handler may supply it with the root it belongs to.
+// Component is a frame in a form; the handler may supply the frame to compare it with, and its root. Otherwise that is
+// a new one of its class.
 using TFindAncestorEvent = TEvent<void(TWriter* Writer, TComponent* Component, const AnsiString& Name,
                                        TComponent*& Ancestor, TComponent*& RootAncestor)>;
 // MethodName is the handler's name in the root's method table, or empty: then the event is not written.
@@ -112,6 +114,7 @@ private:
     std::vector<TComponent*> FAncestorChildren; // in the ancestor of the object whose children are written
     size_t FAncestorPos = 0;
     int FChildPos = 0;
+    std::vector<std::unique_ptr<TComponent>> FFrames; // to compare frames with
     int FDepth = 0;
     int FUncaught; // exceptions that were on their way when the writer was made
 };

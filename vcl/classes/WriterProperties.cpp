@@ -112,7 +112,11 @@ void TWriter::WriteStringProperty(TPersistent* Instance, const TPropertyInfo& Pr
 
 void TWriter::WriteMethod(TPersistent* Instance, const TPropertyInfo& Property)
 {
-    AnsiString Name = FindMethodName(Property.GetEvent(Instance));
+    const TEventBase Method = Property.GetEvent(Instance);
+    // A frame's own handler: the frame sets it, the form has no name for it.
+    if (Root != FLookupRoot && Method.Data() && Method.Data() == Root)
+        return;
+    AnsiString Name = FindMethodName(Method);
     AnsiString InheritedName;
     if (const TPropertyInfo* Inherited = InheritedProperty(Property)) {
         TEventBase Event = Inherited->GetEvent(Ancestor);
