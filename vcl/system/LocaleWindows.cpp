@@ -28,12 +28,15 @@ int LocaleCompare(std::string_view A, std::string_view B, bool IgnoreCase)
 
 unsigned LegacyCodePage()
 {
-    // Not GetACP, which is UTF-8 for programs whose manifest says so.
-    DWORD CodePage = 0;
-    GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
-                    reinterpret_cast<wchar_t*>(&CodePage), sizeof CodePage / sizeof(wchar_t));
-    // Languages that never had one answer 0 or UTF-8.
-    return CodePage == 0 || CodePage == CP_UTF8 ? 1252 : CodePage;
+    static const unsigned Page = [] {
+        // Not GetACP, which is UTF-8 for programs whose manifest says so.
+        DWORD CodePage = 0;
+        GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
+                        reinterpret_cast<wchar_t*>(&CodePage), sizeof CodePage / sizeof(wchar_t));
+        // Languages that never had one answer 0 or UTF-8.
+        return CodePage == 0 || CodePage == CP_UTF8 ? 1252 : CodePage;
+    }();
+    return Page;
 }
 
 AnsiString DecodeCodePage(std::string_view Bytes, unsigned CodePage)
