@@ -97,6 +97,8 @@ TEST(ApplicationLoop, RunEndsWhenTheMainFormCloses)
     EXPECT_TRUE(Application->Terminated);
     delete Main;
     EXPECT_EQ(Application->MainForm, nullptr);
+    Application->Run(); // returns at once, and the program is a running one again
+    EXPECT_FALSE(Application->Terminated);
 }
 
 TEST(ApplicationLoop, TerminateEndsModalFormsToo)
@@ -112,6 +114,7 @@ TEST(ApplicationLoop, TerminateEndsModalFormsToo)
     Application->Run();
     EXPECT_EQ(Result, mrCancel);
     delete Main;
+    Application->Run(); // without a main form: at once
 }
 
 TEST(ApplicationWindow, HooksSeeItsMessagesAndLeaveInAnyOrder)

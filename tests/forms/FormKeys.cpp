@@ -1,29 +1,12 @@
-// Focus, tab order, dialog keys, accelerators and menus of forms, with real keys.
-#include "tests/forms/TestForms.h"
+// Focus, tab order, dialog keys and accelerators of forms, with real keys.
+#include "tests/forms/KeyTest.h"
 
 #include <utility>
 
 using testing::ElementsAre;
 
 namespace {
-
-class FormKeys : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        Form.reset(new TPlainForm(nullptr));
-        A = Form->AddProbe(10, "A");
-        B = Form->AddProbe(40, "B");
-        C = Form->AddProbe(70, "&Cc");
-    }
-    void TearDown() override { Form.reset(); }
-
-    TFormPtr Form;
-    TProbe* A = nullptr;
-    TProbe* B = nullptr;
-    TProbe* C = nullptr;
-};
-
+class FormKeys : public TKeyTest {};
 } // namespace
 
 TEST_F(FormKeys, TheFirstControlHasTheFocus)
@@ -264,108 +247,45 @@ TEST_F(FormKeys, AHandlerMayDeleteTheControlThatGetsTheFocus)
 
 namespace {
 
-class FormMenus : public FormKeys {
-protected:
-    void SetUp() override
+class TTestDesigner : public TDesignerHook {
+public:
+    bool IsDesignMsg(TControl* Sender, TMessage& Message) override
     {
-        FormKeys::SetUp();
-        auto Note = [this](TObject* Sender) { Log.push_back(StripHotkey(As<TMenuItem>(Sender)->Caption)); };
-        Menu = new TMainMenu(Form.get());
-        Menu->Items->Add(NewSubMenu("&File", 0, "",
-                                    {NewItem("&Open", scNone, false, true, Note, 0, "", Form.get()),
-                                     NewItem("&Save", ShortCut('S', {ssCtrl}), false, true, Note, 0, "", Form.get())},
-                                    true, Form.get()));
-        Menu->Items->Items[0]->Items[1]->Hint = "Save|Writes the file";
-        Form->Menu = Menu;
+        if (Message.Msg != WM_LBUTTONDOWN)
+            return false;
+        Pressed = Sender;
+        return true;
+    }
+    void Modified() override {}
+    void PaintGrid() override { ++Grids; }
+    void ValidateRename(TComponent*, std::string_view, std::string_view NewName) override
+    {
+        if (NewName == "Taken")
+            throw EComponentError("refused");
     }
 
-    TMainMenu* Menu = nullptr;
-    TLog Log;
+    TControl* Pressed = nullptr;
+    int Grids = 0;
 };
-
-// Sends keys when the menu is open; the menu has its own message loop.
-void KeysWhileMenuIsOpen(std::initializer_list<WORD> Keys)
-{
-    for (WORD Key : Keys)
-        for (DWORD Flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
-            INPUT Input{};
-            Input.type = INPUT_KEYBOARD;
-            Input.ki.wVk = Key;
-            Input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(Key, MAPVK_VK_TO_VSC));
-            Input.ki.dwFlags = Flags;
-            SendInput(1, &Input, sizeof Input);
-        }
-}
 
 } // namespace
 
-TEST_F(FormMenus, ShortCutsWorkFromEveryControl)
+TEST_F(FormKeys, ADesignerTakesMessagesBeforeTheControls)
 {
+    TTestDesigner Designer;
+    int Clicks = 0;
+    A->OnClick = [&](TObject*) { ++Clicks; };
+    Form->OnPaint = [&](TObject*) { ADD_FAILURE() << "the designer paints"; };
+    Form->Designer = &Designer;
+    EXPECT_TRUE(A->ComponentState.Contains(csDesigning));
     Form->Open();
-    B->SetFocus();
-    TypeKey('S', {ssCtrl});
-    EXPECT_THAT(Log, ElementsAre("Save"));
-    EXPECT_TRUE(B->Keys.empty() || B->Keys.back() != 'S') << "the key is used up";
-    Menu->Items->Items[0]->Enabled = false;
-    TypeKey('S', {ssCtrl});
-    EXPECT_EQ(Log.size(), 1u);
-}
-
-TEST_F(FormMenus, TheBarWorksByKey)
-{
-    TLog Hints;
-    Application->OnHint = [&](TObject*) { Hints.push_back(Application->Hint); };
-    Form->Open();
-    // Down to Save, with its hint told, then chosen.
-    HWND Window = Form->Handle;
-    SetTimer(Window, 77, 2000, [](HWND Owner, UINT, UINT_PTR Id, DWORD) {
-        KillTimer(Owner, Id);
-        EndMenu();
-    });
-    PostMessageW(Window, WM_SYSCOMMAND, SC_KEYMENU, 'f');
-    KeysWhileMenuIsOpen({VK_DOWN, VK_RETURN});
-    EXPECT_TRUE(PumpUntil([&] { return !Log.empty(); }));
-    KillTimer(Window, 77);
-    EXPECT_THAT(Log, ElementsAre("Save"));
-    EXPECT_THAT(Hints, testing::Contains("Writes the file"));
-    EXPECT_EQ(Application->Hint, "");
-    Application->OnHint = nullptr;
-}
-
-TEST_F(FormMenus, TheMainMenuComesAndGoesWithItsItems)
-{
-    Form->Open();
-    const int Height = Form->ClientHeight;
-    EXPECT_NE(::GetMenu(Form->Handle), nullptr);
-    Menu->Items->Items[0]->Visible = false;
-    EXPECT_EQ(::GetMenu(Form->Handle), nullptr) << "no blank strip";
-    EXPECT_GT(Form->ClientHeight, Height);
-    Menu->Items->Items[0]->Visible = true;
-    EXPECT_EQ(Form->ClientHeight, Height);
-    delete Menu;
-    EXPECT_EQ(Form->Menu, nullptr);
-    EXPECT_EQ(::GetMenu(Form->Handle), nullptr);
-}
-
-TEST_F(FormMenus, DialogsShowNone)
-{
-    Form->BorderStyle = bsDialog;
-    Form->Open();
-    EXPECT_EQ(::GetMenu(Form->Handle), nullptr);
-    Form->BorderStyle = bsSingle;
-    EXPECT_NE(::GetMenu(Form->Handle), nullptr);
-}
-
-TEST_F(FormMenus, PopupShortCutsWorkWhileTheirControlHasTheFocus)
-{
-    auto* Popup = new TPopupMenu(Form.get());
-    Popup->Items->Add(NewItem(
-        "Mark", ShortCut('M', {ssCtrl}), false, true, [this](TObject*) { Log.push_back("mark"); }, 0, "", Form.get()));
-    B->PopupMenu = Popup;
-    Form->Open();
-    TypeKey('M', {ssCtrl});
-    EXPECT_TRUE(Log.empty());
-    B->SetFocus();
-    TypeKey('M', {ssCtrl});
-    EXPECT_THAT(Log, ElementsAre("mark"));
+    MovePointerTo(A, 5, 5);
+    ClickButton();
+    EXPECT_EQ(Designer.Pressed, A);
+    EXPECT_EQ(Clicks, 0);
+    EXPECT_GT(Designer.Grids, 0);
+    EXPECT_THROW(A->Name = "Taken", EComponentError);
+    Form->Designer = nullptr;
+    EXPECT_FALSE(A->ComponentState.Contains(csDesigning));
+    MovePointerAway();
 }

@@ -111,7 +111,7 @@ void TCustomForm::BeforeDestruction()
     SetState(csDestroying, true);
     DoDestroy();
     // Without a window, deleting the controls one by one moves and paints nothing.
-    if (Active)
+    if (Active && !Application->Terminated)
         ActivateNext();
     DestroyHandle();
     TScrollingWinControl::BeforeDestruction();

@@ -5,6 +5,7 @@
 #include "vcl/forms/Screen.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -99,12 +100,13 @@ void THintController::Hide()
 void THintController::Start(TPhase Phase, int Milliseconds)
 {
     FPhase = Phase;
+    FTimerRuns = true;
     SetTimer(FApplication.Handle, TimerId, static_cast<UINT>(Milliseconds), nullptr);
 }
 
 void THintController::Stop()
 {
-    if (FApplication.HandleAllocated())
+    if (std::exchange(FTimerRuns, false) && FApplication.HandleAllocated())
         KillTimer(FApplication.Handle, TimerId);
 }
 

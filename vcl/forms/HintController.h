@@ -39,5 +39,6 @@ private:
     TControl* FControl = nullptr; // only compared with
     TRect FCursorRect;            // on the screen
     TPhase FPhase = hpNone;
+    bool FTimerRuns = false;
     bool FReshow = false;
 };
