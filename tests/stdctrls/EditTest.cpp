@@ -20,17 +20,17 @@ using testing::ElementsAre;
 
 TEST_F(EditTest, PublishesItsPropertiesInOrder)
 {
-    EXPECT_THAT(PublishedFrom(TEdit::StaticClass(), "Anchors"),
-                ElementsAre("Anchors = [akLeft,akTop]", "AutoSelect = True", "AutoSize = True",
-                            "BiDiMode = bdLeftToRight", "BorderStyle = bsSingle", "CharCase = ecNormal",
-                            "Color = clWindow", "Constraints", "Ctl3D", "DragCursor = crDrag", "DragKind = dkDrag",
-                            "DragMode = dmManual", "Enabled = True", "Font", "HideSelection = True", "MaxLength = 0",
-                            "OEMConvert = False", "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True",
-                            "ParentFont = True", "ParentShowHint = True", "PasswordChar = 0", "PopupMenu",
-                            "ReadOnly = False", "ShowHint", "TabOrder = -1", "TabStop = True", "Text", "Visible = True",
-                            "OnChange", "OnClick", "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver",
-                            "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown",
-                            "OnMouseMove", "OnMouseUp", "OnStartDrag"));
+    EXPECT_THAT(
+        PublishedFrom(TEdit::StaticClass(), "Anchors"),
+        ElementsAre("Anchors = [akLeft,akTop]", "AutoSelect = True", "AutoSize = True", "BiDiMode = bdLeftToRight",
+                    "BorderStyle = bsSingle", "CharCase = ecNormal", "Color = clWindow", "Constraints", "Ctl3D",
+                    "DragCursor = crDrag", "DragKind = dkDrag", "DragMode = dmManual", "Enabled = True", "Font",
+                    "HideSelection = True", "ImeMode = imDontCare", "ImeName", "MaxLength = 0", "OEMConvert = False",
+                    "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
+                    "ParentShowHint = True", "PasswordChar = 0", "PopupMenu", "ReadOnly = False", "ShowHint",
+                    "TabOrder = -1", "TabStop = True", "Text", "Visible = True", "OnChange", "OnClick",
+                    "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter", "OnExit",
+                    "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnStartDrag"));
 }
 
 TEST_F(EditTest, IsAsHighAsALineAndItsBorder)
@@ -171,13 +171,14 @@ protected:
 TEST_F(MemoTest, PublishesItsPropertiesInOrder)
 {
     EXPECT_THAT(PublishedFrom(TMemo::StaticClass(), "HideSelection"),
-                ElementsAre("HideSelection = True", "Lines", "MaxLength = 0", "OEMConvert = False",
-                            "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
-                            "ParentShowHint = True", "PopupMenu", "ReadOnly = False", "ScrollBars = ssNone", "ShowHint",
-                            "TabOrder = -1", "TabStop = True", "Visible = True", "WantReturns = True",
-                            "WantTabs = False", "WordWrap = True", "OnChange", "OnClick", "OnContextPopup",
-                            "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown",
-                            "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnStartDrag"));
+                ElementsAre("HideSelection = True", "ImeMode = imDontCare", "ImeName", "Lines", "MaxLength = 0",
+                            "OEMConvert = False", "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True",
+                            "ParentFont = True", "ParentShowHint = True", "PopupMenu", "ReadOnly = False",
+                            "ScrollBars = ssNone", "ShowHint", "TabOrder = -1", "TabStop = True", "Visible = True",
+                            "WantReturns = True", "WantTabs = False", "WordWrap = True", "OnChange", "OnClick",
+                            "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter",
+                            "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp",
+                            "OnStartDrag"));
 }
 
 TEST_F(MemoTest, LinesAreTheSameWithAndWithoutAWindow)

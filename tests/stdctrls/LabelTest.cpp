@@ -151,6 +151,37 @@ TEST_F(LabelTest, MeasuresAndPaintsThroughDoDrawText)
     EXPECT_THAT(Label->Flags, testing::ElementsAre(Flags | DT_CALCRECT, Flags));
 }
 
+namespace {
+
+// Measures on the canvas, as code written for the framework does.
+class TCanvasLabel : public TLabel {
+    VCL_CLASS(TCanvasLabel, TLabel)
+public:
+    using TLabel::TLabel;
+
+protected:
+    void DoDrawText(TRect& Rect, unsigned Flags) override
+    {
+        Canvas->Font = Font;
+        AnsiString Text = Caption;
+        DrawTextW(Canvas->Handle, ToWide(Text).c_str(), -1, &Rect, Flags);
+    }
+};
+void TCanvasLabel::Describe(TClassBuilder<TCanvasLabel>&)
+{}
+
+} // namespace
+
+TEST_F(LabelTest, MayBeMeasuredOnItsCanvasBeforeItHasAParent)
+{
+    auto Label = std::make_unique<TCanvasLabel>(nullptr);
+    Label->Caption = "some text";
+    EXPECT_EQ(SizeOf(Label.get()), Measure(Label.get(), "some text"));
+    Label->Parent = &Window;
+    Label->Caption = "some longer text";
+    EXPECT_EQ(SizeOf(Label.get()), Measure(Label.get(), "some longer text"));
+}
+
 TEST_F(LabelTest, PaintsItsTextOverItsColor)
 {
     TLabel* Label = Add("Caption");

@@ -38,13 +38,14 @@ TEST_F(ListBoxTest, PublishesItsPropertiesInOrder)
                 ElementsAre("Style = lbStandard", "AutoComplete = True", "Align = alNone", "Anchors = [akLeft,akTop]",
                             "BiDiMode = bdLeftToRight", "BorderStyle = bsSingle", "Color = clWindow", "Columns = 0",
                             "Constraints", "Ctl3D", "DragCursor = crDrag", "DragKind = dkDrag", "DragMode = dmManual",
-                            "Enabled = True", "ExtendedSelect = True", "Font", "IntegralHeight = False", "ItemHeight",
-                            "Items", "MultiSelect = False", "ParentBiDiMode = True", "ParentColor = False",
-                            "ParentCtl3D = True", "ParentFont = True", "ParentShowHint = True", "PopupMenu",
-                            "ScrollWidth = 0", "ShowHint", "Sorted = False", "TabOrder = -1", "TabStop = True",
-                            "TabWidth = 0", "Visible = True", "OnClick", "OnContextPopup", "OnDblClick", "OnDragDrop",
-                            "OnDragOver", "OnDrawItem", "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress",
-                            "OnKeyUp", "OnMeasureItem", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnStartDrag"));
+                            "Enabled = True", "ExtendedSelect = True", "Font", "ImeMode = imDontCare", "ImeName",
+                            "IntegralHeight = False", "ItemHeight", "Items", "MultiSelect = False",
+                            "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
+                            "ParentShowHint = True", "PopupMenu", "ScrollWidth = 0", "ShowHint", "Sorted = False",
+                            "TabOrder = -1", "TabStop = True", "TabWidth = 0", "Visible = True", "OnClick",
+                            "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnDrawItem", "OnEndDrag",
+                            "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMeasureItem", "OnMouseDown",
+                            "OnMouseMove", "OnMouseUp", "OnStartDrag"));
 }
 
 TEST_F(ListBoxTest, ItemsAreTheSameWithAndWithoutAWindow)
@@ -216,13 +217,14 @@ TEST_F(ComboBoxTest, PublishesItsPropertiesInOrder)
                 ElementsAre("AutoComplete = True", "AutoDropDown = False", "Style = csDropDown",
                             "Anchors = [akLeft,akTop]", "BiDiMode = bdLeftToRight", "CharCase = ecNormal",
                             "Color = clWindow", "Constraints", "Ctl3D", "DragCursor = crDrag", "DragKind = dkDrag",
-                            "DragMode = dmManual", "DropDownCount = 8", "Enabled = True", "Font", "ItemHeight",
-                            "ItemIndex = -1", "MaxLength = 0", "ParentBiDiMode = True", "ParentColor = False",
-                            "ParentCtl3D = True", "ParentFont = True", "ParentShowHint = True", "PopupMenu", "ShowHint",
-                            "Sorted = False", "TabOrder = -1", "TabStop = True", "Text", "Visible = True", "OnChange",
-                            "OnClick", "OnCloseUp", "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver",
-                            "OnDrawItem", "OnDropDown", "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress",
-                            "OnKeyUp", "OnMeasureItem", "OnSelect", "OnStartDrag", "Items"));
+                            "DragMode = dmManual", "DropDownCount = 8", "Enabled = True", "Font",
+                            "ImeMode = imDontCare", "ImeName", "ItemHeight", "ItemIndex = -1", "MaxLength = 0",
+                            "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
+                            "ParentShowHint = True", "PopupMenu", "ShowHint", "Sorted = False", "TabOrder = -1",
+                            "TabStop = True", "Text", "Visible = True", "OnChange", "OnClick", "OnCloseUp",
+                            "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnDrawItem", "OnDropDown",
+                            "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMeasureItem",
+                            "OnSelect", "OnStartDrag", "Items"));
 }
 
 TEST_F(ComboBoxTest, ItemsTextAndChoiceSurviveANewWindow)

@@ -12,6 +12,8 @@ void TCustomComboBox::Describe(TClassBuilder<TCustomComboBox>& Class)
     Class.Declare<&Self::GetCharCase, &Self::SetCharCase>("CharCase").Default(ecNormal);
     Class.Declare<&Self::GetColor, &Self::SetColor>("Color").Default(clWindow).Stored<&Self::IsColorStored>();
     Class.Declare<&Self::DropDownCount, &Self::DropDownCount>("DropDownCount").Default(8);
+    Class.Declare<&Self::ImeMode, &Self::ImeMode>("ImeMode").Default(imDontCare);
+    Class.Declare<&Self::ImeName, &Self::ImeName>("ImeName");
     Class.Declare<&Self::GetItemHeight, &Self::SetItemHeight>("ItemHeight");
     Class.Declare<&Self::GetItemIndex, &Self::SetItemIndex>("ItemIndex").Default(-1);
     Class.Declare<&Self::GetItems, &Self::SetItems>("Items");

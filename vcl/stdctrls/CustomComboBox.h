@@ -23,6 +23,9 @@ public:
     PROPERTY(TEditCharCase, CharCase);
     // How many items show at most when the list is dropped down.
     int DropDownCount = 8;
+    // Kept for form files: the input method stays as the user has set it.
+    TImeMode ImeMode = imDontCare;
+    AnsiString ImeName;
     // In pixels; for styles that the application draws.
     int GetItemHeight() const;
     void SetItemHeight(int Value);

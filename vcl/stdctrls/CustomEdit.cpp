@@ -12,6 +12,8 @@ void TCustomEdit::Describe(TClassBuilder<TCustomEdit>& Class)
     Class.Declare<&Self::GetCharCase, &Self::SetCharCase>("CharCase").Default(ecNormal);
     Class.Declare<&Self::GetColor, &Self::SetColor>("Color").Default(clWindow).Stored<&Self::IsColorStored>();
     Class.Declare<&Self::GetHideSelection, &Self::SetHideSelection>("HideSelection").Default(true);
+    Class.Declare<&Self::ImeMode, &Self::ImeMode>("ImeMode").Default(imDontCare);
+    Class.Declare<&Self::ImeName, &Self::ImeName>("ImeName");
     Class.Declare<&Self::GetMaxLength, &Self::SetMaxLength>("MaxLength").Default(0);
     Class.Declare<&Self::GetOEMConvert, &Self::SetOEMConvert>("OEMConvert").Default(false);
     Class.Declare<&Self::GetParentColor, &Self::SetParentColor>("ParentColor").Default(false);

@@ -24,6 +24,9 @@ public:
     bool GetHideSelection() const { return FHideSelection; }
     void SetHideSelection(bool Value);
     PROPERTY(bool, HideSelection);
+    // Kept for form files: the input method stays as the user has set it.
+    TImeMode ImeMode = imDontCare;
+    AnsiString ImeName;
     // The most characters that can be typed; 0 is no limit.
     int GetMaxLength() const { return FMaxLength; }
     void SetMaxLength(int Value);

@@ -48,9 +48,7 @@ void TCustomLabel::DoDrawText(TRect& Rect, unsigned Flags)
 
     if (Measuring) {
         // No canvas: a label that is measured while nothing is painted would keep one for good.
-        HGDIOBJ Old = SelectObject(MeasureContext(), Font->Handle);
-        DrawText(MeasureContext(), Text, Rect, Flags);
-        SelectObject(MeasureContext(), Old);
+        MeasureText(Font, Text, Rect, Flags);
         return;
     }
     Canvas->Font = Font;
@@ -88,9 +86,22 @@ void TCustomLabel::AdjustBounds()
     if (IsLoading() || !AutoSize)
         return;
     TRect Text = ClientRect;
+    FMeasuring = true;
     DoDrawText(Text, TextFlags() | DT_CALCRECT);
+    // Nothing is to be drawn on the context that the canvas got.
+    if (!std::exchange(FMeasuring, false))
+        TControlCanvas::FreeHandles();
     int NewLeft = FAlignment == taRightJustify ? Left + Width - Text.Right : Left;
     SetBounds(NewLeft, Top, Text.Right, Text.Bottom);
+}
+
+// An override of DoDrawText may measure on the canvas, also before the label has a parent.
+HDC TCustomLabel::GetDeviceContext(HWND& Window)
+{
+    if (!std::exchange(FMeasuring, false))
+        return inherited::GetDeviceContext(Window);
+    Window = nullptr;
+    return MeasureContext();
 }
 
 void TCustomLabel::SetAutoSize(bool Value)

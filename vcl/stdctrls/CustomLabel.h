@@ -51,6 +51,7 @@ protected:
     virtual void AdjustBounds();
 
     void Paint() override;
+    HDC GetDeviceContext(HWND& Window) override;
     void Loaded() override;
     void Notification(TComponent* Component, TOperation Operation) override;
 
@@ -66,4 +67,5 @@ private:
     TTextLayout FLayout = tlTop;
     bool FShowAccelChar = true;
     bool FWordWrap = false;
+    bool FMeasuring = false; // and the canvas has not asked for a context yet
 };

@@ -11,6 +11,8 @@ void TCustomListBox::Describe(TClassBuilder<TCustomListBox>& Class)
     Class.Declare<&Self::GetColor, &Self::SetColor>("Color").Default(clWindow).Stored<&Self::IsColorStored>();
     Class.Declare<&Self::GetColumns, &Self::SetColumns>("Columns").Default(0);
     Class.Declare<&Self::GetExtendedSelect, &Self::SetExtendedSelect>("ExtendedSelect").Default(true);
+    Class.Declare<&Self::ImeMode, &Self::ImeMode>("ImeMode").Default(imDontCare);
+    Class.Declare<&Self::ImeName, &Self::ImeName>("ImeName");
     Class.Declare<&Self::GetIntegralHeight, &Self::SetIntegralHeight>("IntegralHeight").Default(false);
     Class.Declare<&Self::GetItemHeight, &Self::SetItemHeight>("ItemHeight");
     Class.Declare<&Self::GetItems, &Self::SetItems>("Items");

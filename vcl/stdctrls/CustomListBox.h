@@ -30,6 +30,9 @@ public:
     bool GetMultiSelect() const { return FMultiSelect; }
     void SetMultiSelect(bool Value);
     PROPERTY(bool, MultiSelect);
+    // Kept for form files: the input method stays as the user has set it.
+    TImeMode ImeMode = imDontCare;
+    AnsiString ImeName;
     // The height is cut so that no item shows in part.
     bool GetIntegralHeight() const { return FIntegralHeight; }
     void SetIntegralHeight(bool Value);

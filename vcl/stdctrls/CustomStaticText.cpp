@@ -40,9 +40,7 @@ void TCustomStaticText::AdjustBounds()
     if (IsLoading() || !AutoSize)
         return;
     TRect Text;
-    HGDIOBJ Old = SelectObject(MeasureContext(), Font->Handle);
-    DrawText(MeasureContext(), Caption, Text, DT_CALCRECT | DT_SINGLELINE | (FShowAccelChar ? 0 : DT_NOPREFIX));
-    SelectObject(MeasureContext(), Old);
+    MeasureText(Font, Caption, Text, DT_CALCRECT | DT_SINGLELINE | (FShowAccelChar ? 0 : DT_NOPREFIX));
     SetBounds(Left, Top, Text.Width() + 4 * GetSystemMetrics(SM_CXBORDER),
               LineHeight(Font) + 4 * GetSystemMetrics(SM_CYBORDER));
 }
