@@ -3,17 +3,30 @@
 #include "bench/ButtonForms.h"
 #include "toolbar/SpeedButton.h"
 
-#include <psapi.h>
-
 namespace {
 
+double BytesIn(HANDLE Heap)
+{
+    double Bytes = 0;
+    PROCESS_HEAP_ENTRY Entry = {};
+    HeapLock(Heap);
+    while (HeapWalk(Heap, &Entry))
+        if (Entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+            Bytes += Entry.cbData + Entry.cbOverhead;
+    HeapUnlock(Heap);
+    return Bytes;
+}
+
+// What the process has on its heaps. (The system's own count of private memory moves by whole segments, and is not kept
+// everywhere.)
 double PrivateBytes()
 {
-    PROCESS_MEMORY_COUNTERS_EX Counters = {};
-    Counters.cb = sizeof(Counters);
-    K32GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&Counters),
-                            sizeof(Counters));
-    return static_cast<double>(Counters.PrivateUsage);
+    HANDLE Heaps[64];
+    const DWORD Count = std::min<DWORD>(GetProcessHeaps(64, Heaps), 64);
+    double Bytes = 0;
+    for (DWORD I = 0; I < Count; ++I)
+        Bytes += BytesIn(Heaps[I]);
+    return Bytes;
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "common/Label.h"
 
 #include "common/CaptionText.h"
+#include "vcl/graphics/Canvas.h"
+#include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TkelLabel::Describe(TClassBuilder<TkelLabel>& Class)
@@ -29,14 +31,16 @@ void TkelLabel::DoDrawText(TRect& Rect, unsigned Flags)
         Flags |= DT_NOPREFIX;
     if (BiDiMode != bdLeftToRight)
         Flags |= DT_RTLREADING;
-    Canvas->Font = Font;
 
     if (Flags & DT_CALCRECT) {
         if (Shown.empty() || (ShowAccelChar && Shown == "&"))
             Shown = " ";
-        DrawText(Canvas->Handle, Shown, Rect, Flags);
+        HGDIOBJ OldFont = SelectObject(MeasureContext(), Font->Handle);
+        DrawText(MeasureContext(), Shown, Rect, Flags);
+        SelectObject(MeasureContext(), OldFont);
         return;
     }
+    Canvas->Font = Font;
     const auto DrawShadow = [&](int Distance, TColor Color) {
         TRect Moved = Rect;
         OffsetRect(Moved, Distance, Distance);

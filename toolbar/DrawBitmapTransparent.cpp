@@ -7,5 +7,5 @@
 void DrawBitmapTransparent(TCanvas* Canvas, int X, int Y, TBitmap* Bitmap, TColor TransparentColor)
 {
     if (Bitmap && !Bitmap->Empty)
-        Bitmap->Masked(TransparentColor).Draw(Canvas->Handle, X, Y);
+        Bitmap->Masked(TransparentColor).Draw(Canvas->BareHandle(), X, Y);
 }

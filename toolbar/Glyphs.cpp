@@ -108,7 +108,7 @@ void TkelGlyphs::DrawBitmapCell(TCanvas* Canvas, int X, int Y, TBitmap* Bitmap, 
 {
     const TCellGrid Cells = Grid();
     if (Cells.Contains(Index))
-        Bitmap->Masked(IsMasked() ? MaskColor : clNone).Draw(Canvas->Handle, X, Y, Cells.Cell(Index));
+        Bitmap->Masked(IsMasked() ? MaskColor : clNone).Draw(Canvas->BareHandle(), X, Y, Cells.Cell(Index));
     else if (!IsMasked())
         Canvas->Draw(X, Y, GetCell(Index));
 }
@@ -119,7 +119,7 @@ void TkelGlyphs::DrawClipped(TCanvas* Canvas, int X, int Y, TGraphic* Graphic, i
     if (!Grid().Contains(Index))
         return;
     const TRect Cell = Grid().Cell(Index);
-    HDC Context = Canvas->Handle;
+    HDC Context = Canvas->BareHandle();
     const int Saved = SaveDC(Context);
     IntersectClipRect(Context, X, Y, X + Cell.Width(), Y + Cell.Height());
     Canvas->Draw(X - Cell.left, Y - Cell.top, Graphic);
@@ -141,5 +141,5 @@ void TkelGlyphs::DrawEmbossed(TCanvas* Canvas, int X, int Y, int Index)
         TBitmap Scratch;
         FEmbossed = std::make_unique<TEmbossedCells>(AsBitmap(Scratch), Cells);
     }
-    FEmbossed->Draw(Canvas->Handle, X, Y, Index);
+    FEmbossed->Draw(Canvas->BareHandle(), X, Y, Index);
 }

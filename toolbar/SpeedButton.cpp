@@ -315,7 +315,7 @@ void TkelSpeedButton::Paint()
         OffsetRect(R, 1, 1);
     DrawContent(R);
     if (FFlat && IsPressed())
-        TSolidFill(Canvas->Handle).Frame({0, 0, Width, Height}, clBtnShadow, clBtnHighlight);
+        TSolidFill(Canvas->BareHandle()).Frame({0, 0, Width, Height}, clBtnShadow, clBtnHighlight);
     if (FFlat && IsDesigning())
         DrawDesignOutline();
 }
@@ -337,16 +337,16 @@ void TkelSpeedButton::DrawFrame()
         return;
     }
     TRect R(0, 0, Width, Height);
-    DrawFrameControl(Canvas->Handle, &R, DFC_BUTTON, DFCS_BUTTONPUSH | (IsPressed() ? DFCS_PUSHED : 0));
+    DrawFrameControl(Canvas->BareHandle(), &R, DFC_BUTTON, DFCS_BUTTONPUSH | (IsPressed() ? DFCS_PUSHED : 0));
     if (FState == bsExclusive) {
         InflateRect(R, -PushFrame, -PushFrame);
-        FillDithered(Canvas->Handle, R);
+        FillDithered(Canvas->BareHandle(), R);
     }
 }
 
 void TkelSpeedButton::DrawFlatFrame()
 {
-    HDC Context = Canvas->Handle;
+    HDC Context = Canvas->BareHandle();
     const TRect R(0, 0, Width, Height);
     if (FState == bsExclusive && !FMouseInControl) {
         FillDithered(Context, R);
@@ -401,9 +401,9 @@ void TkelSpeedButton::DrawGlyph(const TPoint& At)
     else if (FGlyphs)
         FGlyphs->Draw(Canvas, At.x, At.y, std::max(FGlyphIndex, 0));
     else if (Disabled)
-        TImageCells::Of(FImages).DrawEmbossed(Canvas->Handle, At.x, At.y, FGlyphIndex);
+        TImageCells::Of(FImages).DrawEmbossed(Canvas->BareHandle(), At.x, At.y, FGlyphIndex);
     else
-        TImageCells::Of(FImages).Draw(Canvas->Handle, At.x, At.y, FGlyphIndex);
+        TImageCells::Of(FImages).Draw(Canvas->BareHandle(), At.x, At.y, FGlyphIndex);
 }
 
 void TkelSpeedButton::DrawCaption(TRect R, std::string_view Text)

@@ -36,20 +36,27 @@ void TGraphicControl::WMPaint(TMessage& Message)
     TControlCanvas Passing(this);
     FCanvas = &Passing;
     FCanvasPasses = true;
+    const auto Return = [this] {
+        FCanvas = nullptr;
+        FCanvasPasses = false;
+    };
     try {
         PaintOn(Passing, DC);
     } catch (...) {
-        FCanvas = nullptr;
-        FCanvasPasses = false;
+        Return();
         throw;
     }
-    FCanvas = nullptr;
-    FCanvasPasses = false;
+    Return();
 }
 
 void TGraphicControl::PaintOn(TControlCanvas& Canvas, HDC DC)
 {
     Canvas.SetHandle(DC);
-    Paint();
+    try {
+        Paint();
+    } catch (...) {
+        Canvas.SetHandle(nullptr);
+        throw;
+    }
     Canvas.SetHandle(nullptr);
 }

@@ -42,12 +42,17 @@ void TMouse::CaptureChanged(HWND NewOwner)
 
 void TMouse::SetHotControl(TControl* Control)
 {
+    if (Hot != Control)
+        SetHotControl(Control, CaptureControl());
+}
+
+void TMouse::SetHotControl(TControl* Control, TControl* Owner)
+{
     TControl* Old = Hot;
     if (Old == Control)
         return;
     Hot = Control;
     // What the pointer passes over while another control has the mouse is not told.
-    TControl* Owner = CaptureControl();
     if (Old && (!Owner || Owner == Old))
         Old->Perform(CM_MOUSELEAVE);
     if (Hot == Control && Control && (!Owner || Owner == Control))

@@ -15,6 +15,8 @@ public:
     // The pointer is now over Control (nullptr: over none of ours). While the mouse is captured only the capturing
     // control is told.
     static void SetHotControl(TControl* Control);
+    // The same by someone who knows that Owner has the mouse (nullptr: nobody of ours): asking the system takes long.
+    static void SetHotControl(TControl* Control, TControl* Owner);
     // Asks where the pointer is now; for when controls moved under it.
     static void UpdateHotControl();
     // The system gave the mouse to another window, or to none (nullptr).

@@ -61,14 +61,19 @@ TPaintBuffer::TPaintBuffer(const TRect& Area) : FArea(Area)
         FSurface->InUse = true;
     }
     FDC = FSurface->DC;
-    FSaved = SaveDC(FDC);
+    // As new, whatever the last painting left behind; restoring a saved context would take longer than painting a
+    // button.
+    SetMapMode(FDC, MM_TEXT);
+    SetTextAlign(FDC, TA_LEFT);
+    SetStretchBltMode(FDC, BLACKONWHITE);
+    SetBrushOrgEx(FDC, 0, 0, nullptr);
     SetViewportOrgEx(FDC, -Area.Left, -Area.Top, nullptr);
+    SelectClipRgn(FDC, nullptr);
     IntersectClipRect(FDC, Area.Left, Area.Top, Area.Right, Area.Bottom);
 }
 
 TPaintBuffer::~TPaintBuffer()
 {
-    RestoreDC(FDC, FSaved);
     if (FShared)
         FSurface->InUse = false;
     else

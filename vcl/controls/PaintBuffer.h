@@ -25,6 +25,5 @@ private:
     TRect FArea;
     TSurface* FSurface;
     bool FShared;
-    int FSaved;
     HDC FDC;
 };

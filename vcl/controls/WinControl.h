@@ -225,7 +225,7 @@ private:
     void UpdateShowing();
     void UpdateBounds();
     bool IsControlMouseMsg(TWMMouse& Message);
-    void TrackPointer(const TPoint& Pos);
+    void TrackPointer(const TPoint& Pos, bool Captured);
     bool IsCtl3DStored() const { return !FParentCtl3D; }
     bool SystemPaints() const;
     void RestoreWindowOrder(TWinControl* Control);

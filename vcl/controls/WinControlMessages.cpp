@@ -133,7 +133,8 @@ bool TWinControl::IsControlMouseMsg(TWMMouse& Message)
 {
     TPoint Pos = Message.Pos;
     TControl* Target = nullptr;
-    if (GetCapture() == FHandle) {
+    const bool Captured = GetCapture() == FHandle;
+    if (Captured) {
         TControl* Owner = TMouse::CaptureControl();
         if (Owner && Owner->FParent == this)
             Target = Owner;
@@ -141,7 +142,7 @@ bool TWinControl::IsControlMouseMsg(TWMMouse& Message)
         Target = ControlAtPos(Pos, false);
     }
     if (Message.Msg == WM_MOUSEMOVE)
-        TrackPointer(Pos);
+        TrackPointer(Pos, Captured);
     else if (Message.Msg != WM_LBUTTONUP && Message.Msg != WM_RBUTTONUP && Message.Msg != WM_MBUTTONUP)
         TFormHost::Get().CancelHint();
     if (!Target)
@@ -153,13 +154,13 @@ bool TWinControl::IsControlMouseMsg(TWMMouse& Message)
     return true;
 }
 
-void TWinControl::TrackPointer(const TPoint& Pos)
+void TWinControl::TrackPointer(const TPoint& Pos, bool Captured)
 {
-    if (GetCapture() == FHandle) {
+    if (Captured) {
         TControl* Owner = TMouse::CaptureControl();
         bool Own = Owner == this;
         bool Inside = Owner && (Own ? GetClientRect() : Owner->GetBoundsRect()).Contains(Pos);
-        TMouse::SetHotControl(Inside ? Owner : nullptr);
+        TMouse::SetHotControl(Inside ? Owner : nullptr, Owner);
         return;
     }
     TControl* Child = ControlAtPos(Pos, true, true);
@@ -172,7 +173,8 @@ void TWinControl::TrackPointer(const TPoint& Pos)
         TRACKMOUSEEVENT Track{sizeof(TRACKMOUSEEVENT), TME_LEAVE, FHandle, 0};
         TrackMouseEvent(&Track);
     }
-    TMouse::SetHotControl(Now);
+    // The mouse would not have come here if another window had it.
+    TMouse::SetHotControl(Now, nullptr);
 }
 
 void TWinControl::WMSetCursor(TMessage& Message)

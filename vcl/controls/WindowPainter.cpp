@@ -3,6 +3,25 @@
 #include "vcl/controls/PaintBuffer.h"
 #include "vcl/controls/WinControl.h"
 
+namespace {
+
+// What a context is clipped to, to be selected again.
+class TClipRegion {
+public:
+    explicit TClipRegion(HDC DC) : FRegion(CreateRectRgn(0, 0, 0, 0)), FIsClipped(GetClipRgn(DC, FRegion) == 1) {}
+    ~TClipRegion() { DeleteObject(FRegion); }
+    TClipRegion(const TClipRegion&) = delete;
+
+    // nullptr: not clipped.
+    HRGN Get() const { return FIsClipped ? FRegion : nullptr; }
+
+private:
+    HRGN FRegion;
+    bool FIsClipped;
+};
+
+} // namespace
+
 void TWindowPainter::Paint(TWinControl& Window)
 {
     PAINTSTRUCT Paint;
@@ -26,7 +45,7 @@ bool TWindowPainter::PaintAlone(TControl& Control)
     if (!IntersectRect(Area, Area, Client))
         return true;
     TPaintBuffer Buffer(Area);
-    PaintControl(Control, Buffer.DC());
+    PaintControl(Control, Buffer.DC(), nullptr);
     HDC Screen = GetDC(Parent.FHandle);
     Buffer.CopyTo(Screen);
     ReleaseDC(Parent.FHandle, Screen);
@@ -79,22 +98,33 @@ void TWindowPainter::PaintInto(TWinControl& Window, HDC DC, const TRect& Clip)
 
 void TWindowPainter::PaintControls(TWinControl& Window, HDC DC, size_t First, const TRect& Clip)
 {
+    TClipRegion Whole(DC);
     // By index and with the size asked for each time: a control's Paint may change the list.
     for (size_t I = First; I < Window.FGraphics.size(); ++I) {
         TControl& Control = *Window.FGraphics[I];
         TRect Common;
         bool Shown = Control.FVisible || (Control.IsDesigning() && !Control.FControlStyle.Contains(csNoDesignVisible));
         if (Shown && IntersectRect(Common, Clip, Control.GetBoundsRect()))
-            PaintControl(Control, DC);
+            PaintControl(Control, DC, Whole.Get());
     }
 }
 
-void TWindowPainter::PaintControl(TControl& Control, HDC DC)
+// Saving and restoring the whole context would take longer than most controls take to paint themselves. A canvas takes
+// its objects out by itself; place, clipping and modes are put back here.
+void TWindowPainter::PaintControl(TControl& Control, HDC DC, HRGN Clip)
 {
-    int Saved = SaveDC(DC);
-    POINT Origin;
+    const int MapMode = GetMapMode(DC);
+    const UINT TextAlign = GetTextAlign(DC);
+    const int StretchMode = GetStretchBltMode(DC);
+    POINT Origin, BrushOrigin;
+    GetBrushOrgEx(DC, &BrushOrigin);
     OffsetViewportOrgEx(DC, Control.FLeft, Control.FTop, &Origin);
     IntersectClipRect(DC, 0, 0, Control.FWidth, Control.FHeight);
     Control.Perform(WM_PAINT, reinterpret_cast<uintptr_t>(DC));
-    RestoreDC(DC, Saved);
+    SetMapMode(DC, MapMode);
+    SetTextAlign(DC, TextAlign);
+    SetStretchBltMode(DC, StretchMode);
+    SetBrushOrgEx(DC, BrushOrigin.x, BrushOrigin.y, nullptr);
+    SetViewportOrgEx(DC, Origin.x, Origin.y, nullptr);
+    SelectClipRgn(DC, Clip);
 }

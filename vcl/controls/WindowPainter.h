@@ -18,7 +18,8 @@ public:
     static void PaintControls(TWinControl& Window, HDC DC, size_t First, const TRect& Clip);
 
 private:
-    static void PaintControl(TControl& Control, HDC DC);
+    // Clip, in device coordinates, is selected afterwards; nullptr: no clipping.
+    static void PaintControl(TControl& Control, HDC DC, HRGN Clip);
     static bool IsCovered(const TControl& Control);
     // The topmost opaque child that alone covers Clip, as an index; size() when there is none.
     static size_t FindCover(const TWinControl& Window, const TRect& Clip);

@@ -53,6 +53,13 @@ public:
     void SetHandle(HDC Value);
     PROPERTY(HDC, Handle);
     bool HandleAllocated() const { return FHandle != nullptr; }
+    // The context for drawing that uses neither pen, brush nor font of the canvas: they may not be selected, which
+    // saves the time that selecting a font takes.
+    HDC BareHandle()
+    {
+        Changing();
+        return RequireHandle();
+    }
     // Selects pen, brush and font anew before the next drawing, for when something else has changed the context.
     void Refresh();
 
