@@ -14,41 +14,37 @@ uint32_t OpaquePixel(COLORREF Color)
 
 } // namespace
 
-TMaskedImage ClearImage(int Width, int Height)
-{
-    TBitmap Blank;
-    Blank.SetSize(Width, Height); // white
-    return TMaskedImage(&Blank, clWhite);
-}
-
-TEmbossedCells::TEmbossedCells(TBitmap* Picture, const TCellGrid& Grid)
+TEmbossedCells::TEmbossedCells(const TCellGrid& Grid)
     : FGrid(Grid),
       FShadow(ColorToRGB(clBtnShadow)),
       FHighlight(ColorToRGB(clBtnHighlight)),
-      FImage(ClearImage(Grid.Cols * (Grid.CellWidth + 1), Grid.Rows * (Grid.CellHeight + 1)))
+      FImage(Grid.Cols * (Grid.CellWidth + 1), Grid.Rows * (Grid.CellHeight + 1))
+{}
+
+TEmbossedCells::TEmbossedCells(TBitmap* Picture, const TCellGrid& Grid) : TEmbossedCells(Grid)
 {
     TMaskedImage Source(Picture, clNone);
-    Emboss(Source.Pixels(), Source.Width());
+    for (int Index = 0; Index < Grid.Cols * Grid.Rows; ++Index) {
+        const TRect Cell = Grid.Cell(Index);
+        SetCell(Index, Source.Pixels() + Cell.top * Source.Width() + Cell.left, Source.Width());
+    }
 }
 
-void TEmbossedCells::Emboss(const uint32_t* Source, int SourceWidth)
+void TEmbossedCells::SetCell(int Index, const uint32_t* Source, int SourceWidth)
 {
     const uint32_t Shadow = OpaquePixel(FShadow);
     const uint32_t Highlight = OpaquePixel(FHighlight);
+    const TRect Cell = FGrid.CellAt(Index, FGrid.CellWidth + 1, FGrid.CellHeight + 1);
     const int Width = FImage.Width();
-    for (int Index = 0; Index < FGrid.Cols * FGrid.Rows; ++Index) {
-        const TRect From = FGrid.Cell(Index);
-        const TRect To = FGrid.CellAt(Index, FGrid.CellWidth + 1, FGrid.CellHeight + 1);
-        for (int Y = 0; Y < FGrid.CellHeight; ++Y)
-            for (int X = 0; X < FGrid.CellWidth; ++X) {
-                if (Source[(From.top + Y) * SourceWidth + From.left + X] & ColorBits)
-                    continue;
-                // In this order: where two black pixels follow each other, the shadow of the second stays on top.
-                uint32_t* Pixel = FImage.Pixels() + (To.top + Y) * Width + To.left + X;
-                Pixel[Width + 1] = Highlight;
-                *Pixel = Shadow;
-            }
-    }
+    for (int Y = 0; Y < FGrid.CellHeight; ++Y)
+        for (int X = 0; X < FGrid.CellWidth; ++X) {
+            if (Source[Y * SourceWidth + X] & ColorBits)
+                continue;
+            // In this order: where two black pixels follow each other, the shadow of the second stays on top.
+            uint32_t* Pixel = FImage.Pixels() + (Cell.top + Y) * Width + Cell.left + X;
+            Pixel[Width + 1] = Highlight;
+            *Pixel = Shadow;
+        }
 }
 
 bool TEmbossedCells::IsCurrent(const TCellGrid& Grid) const

@@ -27,20 +27,19 @@ class TEmbossedCells {
 public:
     // The cells of Picture, all of which lie inside of it.
     TEmbossedCells(TBitmap* Picture, const TCellGrid& Grid);
+    // Empty cells, which SetCell fills.
+    explicit TEmbossedCells(const TCellGrid& Grid);
 
+    // Source is the cell's first pixel, in rows of SourceWidth; Index is one of the grid's.
+    void SetCell(int Index, const uint32_t* Source, int SourceWidth);
     // Made for this grid and in the system's present colours.
     bool IsCurrent(const TCellGrid& Grid) const;
     // With the cell's upper left corner at X, Y. An index outside of the grid draws nothing.
     void Draw(HDC Target, int X, int Y, int Index) const;
 
 private:
-    void Emboss(const uint32_t* Source, int SourceWidth);
-
     TCellGrid FGrid;
     COLORREF FShadow;
     COLORREF FHighlight;
     TMaskedImage FImage;
 };
-
-// An image of this size that draws nothing, to be filled through its Pixels.
-TMaskedImage ClearImage(int Width, int Height);

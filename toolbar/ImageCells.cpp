@@ -25,34 +25,42 @@ void TImageCells::ListChanged(TObject*)
     FEmbossed.reset();
 }
 
-void TImageCells::CopyImages(TBitmap* Strip)
+void TImageCells::Prepare(int Index)
 {
     const TCellGrid Cells = Grid();
-    Strip->SetSize(Cells.Cols * Cells.CellWidth, Cells.CellHeight);
-    TBitmap Image;
-    for (int I = 0; I < Cells.Cols; ++I) {
-        FList->GetBitmap(I, &Image);
-        Strip->Canvas->Draw(I * Cells.CellWidth, 0, &Image);
+    if (FImages.Empty()) {
+        FImages = TMaskedImage(Cells.Cols * Cells.CellWidth, Cells.CellHeight);
+        FIsPrepared.assign(static_cast<size_t>(Cells.Cols), false);
     }
+    if (FIsPrepared[static_cast<size_t>(Index)])
+        return;
+    FIsPrepared[static_cast<size_t>(Index)] = true;
+
+    TBitmap Image;
+    FList->GetBitmap(Index, &Image);
+    TMaskedImage Source(&Image, clNone);
+    const uint32_t Background = Source.Pixels()[(Cells.CellHeight - 1) * Cells.CellWidth];
+    for (int Y = 0; Y < Cells.CellHeight; ++Y)
+        for (int X = 0; X < Cells.CellWidth; ++X)
+            if (const uint32_t Pixel = Source.Pixels()[Y * Cells.CellWidth + X]; Pixel != Background)
+                FImages.Pixels()[Y * FImages.Width() + Index * Cells.CellWidth + X] = Pixel;
 }
 
-void TImageCells::Prepare()
+void TImageCells::PrepareEmbossed(int Index)
 {
-    TBitmap Strip;
-    CopyImages(&Strip);
-    TMaskedImage Source(&Strip, clNone);
-    FImages = ClearImage(Source.Width(), Source.Height());
-
     const TCellGrid Cells = Grid();
-    const int Width = Source.Width();
-    for (int I = 0; I < Cells.Cols; ++I) {
-        const int Left = I * Cells.CellWidth;
-        const uint32_t Background = Source.Pixels()[(Cells.CellHeight - 1) * Width + Left];
-        for (int Y = 0; Y < Cells.CellHeight; ++Y)
-            for (int X = Left; X < Left + Cells.CellWidth; ++X)
-                if (const uint32_t Pixel = Source.Pixels()[Y * Width + X]; Pixel != Background)
-                    FImages.Pixels()[Y * Width + X] = Pixel;
+    if (!FEmbossed || !FEmbossed->IsCurrent(Cells)) {
+        FEmbossed = std::make_unique<TEmbossedCells>(Cells);
+        FIsEmbossed.assign(static_cast<size_t>(Cells.Cols), false);
     }
+    if (FIsEmbossed[static_cast<size_t>(Index)])
+        return;
+    FIsEmbossed[static_cast<size_t>(Index)] = true;
+
+    TBitmap Image;
+    FList->GetBitmap(Index, &Image);
+    TMaskedImage Source(&Image, clNone);
+    FEmbossed->SetCell(Index, Source.Pixels(), Source.Width());
 }
 
 void TImageCells::Draw(HDC Target, int X, int Y, int Index)
@@ -60,20 +68,14 @@ void TImageCells::Draw(HDC Target, int X, int Y, int Index)
     const TCellGrid Cells = Grid();
     if (Index < 0 || Index >= Cells.Cols)
         return;
-    if (FImages.Empty())
-        Prepare();
+    Prepare(Index);
     FImages.Draw(Target, X, Y, Cells.Cell(Index));
 }
 
 void TImageCells::DrawEmbossed(HDC Target, int X, int Y, int Index)
 {
-    const TCellGrid Cells = Grid();
-    if (Index < 0 || Index >= Cells.Cols)
+    if (Index < 0 || Index >= FList->Count)
         return;
-    if (!FEmbossed || !FEmbossed->IsCurrent(Cells)) {
-        TBitmap Strip;
-        CopyImages(&Strip);
-        FEmbossed = std::make_unique<TEmbossedCells>(&Strip, Cells);
-    }
+    PrepareEmbossed(Index);
     FEmbossed->Draw(Target, X, Y, Index);
 }

@@ -7,12 +7,13 @@
 #include "vcl/graphics/ImageList.h"
 
 #include <memory>
+#include <vector>
 
 // Belongs to its list. All buttons that show images of one list share it.
 class TImageCells : public TComponent {
     VCL_CLASS(TImageCells, TComponent)
 public:
-    // Those of List, prepared when they are first asked for, and again after the list has changed.
+    // Those of List. Each is prepared when it is first drawn, and again after the list has changed.
     static TImageCells& Of(TCustomImageList* List);
 
     // With the image's upper left corner at X, Y. An index that does not exist draws nothing.
@@ -24,13 +25,14 @@ private:
     explicit TImageCells(TCustomImageList* List);
 
     TCellGrid Grid() const { return {FList->Count, 1, FList->Width, FList->Height}; }
-    // All images side by side, each on the list's background.
-    void CopyImages(TBitmap* Strip);
-    void Prepare();
+    void Prepare(int Index);
+    void PrepareEmbossed(int Index);
     void ListChanged(TObject* Sender);
 
     TCustomImageList* FList;
     TChangeLink FLink;
     TMaskedImage FImages; // empty until they are needed
     std::unique_ptr<TEmbossedCells> FEmbossed;
+    std::vector<bool> FIsPrepared; // of FImages
+    std::vector<bool> FIsEmbossed;
 };
