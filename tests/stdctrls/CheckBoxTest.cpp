@@ -139,6 +139,23 @@ TEST_F(RadioButtonTest, IsCheckedByMouseAndAccelerator)
     EXPECT_THAT(Clicked, ElementsAre("&B", "&A"));
 }
 
+TEST_F(RadioButtonTest, ArrowKeysMoveTheMark)
+{
+    TRadioButton* A = AddRadio("A", 10);
+    TRadioButton* B = AddRadio("B", 40);
+    A->Checked = true;
+    Show();
+    A->SetFocus();
+    Clicked.clear();
+    TypeKey(VK_DOWN);
+    ASSERT_TRUE(PumpUntil([&] { return B->Focused(); }));
+    ASSERT_TRUE(PumpUntil([&] { return B->Checked; }));
+    EXPECT_FALSE(A->Checked);
+    TypeKey(VK_UP);
+    ASSERT_TRUE(PumpUntil([&] { return A->Checked; }));
+    EXPECT_THAT(Clicked, ElementsAre("B", "A"));
+}
+
 namespace {
 
 class GroupBoxTest : public TFormTest {

@@ -87,7 +87,10 @@ private:
 TTimer::TTimer(TComponent* AOwner) : TComponent(AOwner)
 {}
 
-TTimer::~TTimer() = default;
+TTimer::~TTimer()
+{
+    Stop();
+}
 
 void TTimer::BeforeDestruction()
 {

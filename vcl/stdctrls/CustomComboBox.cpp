@@ -78,7 +78,7 @@ void TCustomComboBox::CreateParams(TCreateParams& Params)
 
 void TCustomComboBox::CreateWnd()
 {
-    AnsiString Kept = TControl::GetText();
+    AnsiString Kept = inherited::GetText();
     inherited::CreateWnd();
     SetWindowLongPtrW(Handle, GWLP_ID, reinterpret_cast<LONG_PTR>(Handle));
     if (!IsList()) {
@@ -111,7 +111,7 @@ void TCustomComboBox::DestroyWnd()
     FItems.MoveFromWindow();
     FEdit = nullptr;
     inherited::DestroyWnd();
-    TControl::StoreText(Kept);
+    inherited::StoreText(Kept);
 }
 
 LRESULT CALLBACK TCustomComboBox::EditProcedure(HWND Edit, UINT Msg, WPARAM WParam, LPARAM LParam, UINT_PTR,

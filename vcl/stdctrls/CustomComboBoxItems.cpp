@@ -20,7 +20,7 @@ void TCustomComboBox::SetItemIndex(int Value)
     // A form file gives the number before the items.
     FKeptIndex = Value >= 0 && (IsLoading() || Value < FItems.Count) ? Value : -1;
     if (!IsLoading())
-        TControl::StoreText(FKeptIndex >= 0 ? FItems[FKeptIndex] : "");
+        inherited::StoreText(FKeptIndex >= 0 ? FItems[FKeptIndex] : "");
 }
 
 AnsiString TCustomComboBox::GetText() const
@@ -30,7 +30,7 @@ AnsiString TCustomComboBox::GetText() const
     int Index = GetItemIndex();
     if (Index >= 0 && Index < FItems.Count)
         return FItems[Index];
-    return HandleAllocated() ? "" : TControl::GetText();
+    return HandleAllocated() ? "" : inherited::GetText();
 }
 
 void TCustomComboBox::StoreText(const AnsiString& Value)
@@ -43,7 +43,7 @@ void TCustomComboBox::StoreText(const AnsiString& Value)
     if (HandleAllocated() || Index >= 0)
         SetItemIndex(Index);
     else
-        TControl::StoreText(Value);
+        inherited::StoreText(Value);
 }
 
 void TCustomComboBox::Clear()

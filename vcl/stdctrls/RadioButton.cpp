@@ -13,6 +13,7 @@ void TRadioButton::Describe(TClassBuilder<TRadioButton>& Class)
                      "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove",
                      "OnMouseUp", "OnStartDrag");
 
+    Class.Message<&Self::WMSetFocus>(WM_SETFOCUS);
     Class.Message<&Self::CNCommand>(CN_COMMAND);
     Class.Message<&Self::CMDialogChar>(CM_DIALOGCHAR);
 }
@@ -76,6 +77,15 @@ void TRadioButton::CNCommand(TWMCommand& Message)
         SetChecked(true);
     else if (Message.NotifyCode() == BN_DOUBLECLICKED)
         DblClick();
+}
+
+// The arrow keys move the mark along with the focus; not every system tells so by itself.
+void TRadioButton::WMSetFocus(TMessage& Message)
+{
+    auto* Before = As<TRadioButton>(FindControl(reinterpret_cast<HWND>(Message.WParam)));
+    Inherited(Message);
+    if (Before && Before->Parent == Parent && !ClicksDisabled && !IsDesigning())
+        SetChecked(true);
 }
 
 // Focusing it by its accelerator checks it, as the arrow keys do.

@@ -27,6 +27,7 @@ protected:
     void CreateWnd() override;
 
 private:
+    void WMSetFocus(TMessage& Message);
     void CNCommand(TWMCommand& Message);
     void CMDialogChar(TCMDialogChar& Message);
     void TurnSiblingsOff();
