@@ -201,7 +201,7 @@ void TSampleBox::SetParentComponent(TComponent* Value)
 void TSampleBox::GetChildren(const TGetChildProc& Proc, TComponent* Root)
 {
     for (TSampleBox* Child : Children)
-        if (Child->Owner == Root || Child->Owner == this)
+        if (Child->Owner == Root)
             Proc(Child);
     if (this != Root)
         return;

@@ -1,10 +1,12 @@
 #include "vcl/forms/Screen.h"
 
+#include "vcl/classes/FixupList.h"
 #include "vcl/classes/StringList.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/DataModule.h"
 #include "vcl/forms/Form.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Ident.h"
 #include "vcl/system/Utf.h"
 
 #include <algorithm>
@@ -35,6 +37,18 @@ void AssignLogFont(TFont& Font, const LOGFONTW& Source)
     Font.Charset = TFontCharset(Source.lfCharSet);
 }
 
+// Form files refer to the components of other forms and data modules by these names.
+TComponent* FindRoot(std::string_view Name)
+{
+    for (int I = 0; I < Screen->CustomFormCount; ++I)
+        if (SameIdent(Screen->CustomForms[I]->Name, Name))
+            return Screen->CustomForms[I];
+    for (int I = 0; I < Screen->DataModuleCount; ++I)
+        if (SameIdent(Screen->DataModules[I]->Name, Name))
+            return Screen->DataModules[I];
+    return nullptr;
+}
+
 } // namespace
 
 void TScreen::Describe(TClassBuilder<TScreen>&)
@@ -50,10 +64,12 @@ TScreen::TScreen(TComponent* AOwner) : TComponent(AOwner)
     }
     FHintFont.Color = clInfoText;
     FMenuFont.Color = clMenuText;
+    RegisterFindGlobalComponentProc(&FindRoot);
 }
 
 TScreen::~TScreen()
 {
+    UnregisterFindGlobalComponentProc(&FindRoot);
     for (const auto& [Index, Cursor] : FCursors)
         DestroyCursor(Cursor);
 }
