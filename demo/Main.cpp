@@ -12,7 +12,6 @@ void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
     Class.Field<&Self::Images>("Images");
     Class.Field<&Self::OpenButton>("OpenButton");
     Class.Field<&Self::PasteButton>("PasteButton");
-    Class.Field<&Self::BoldButton>("BoldButton");
     Class.Field<&Self::ItalicButton>("ItalicButton");
     Class.Field<&Self::AlignLeftButton>("AlignLeftButton");
     Class.Field<&Self::AlignCenterButton>("AlignCenterButton");

@@ -19,7 +19,6 @@ public:
     // Some of the tool buttons.
     TkelSpeedButton* OpenButton = nullptr;
     TkelSpeedButton* PasteButton = nullptr;
-    TkelSpeedButton* BoldButton = nullptr;
     TkelSpeedButton* ItalicButton = nullptr;
     TkelSpeedButton* AlignLeftButton = nullptr;
     TkelSpeedButton* AlignCenterButton = nullptr;
