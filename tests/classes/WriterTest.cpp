@@ -436,6 +436,23 @@ TEST_F(WriterTest, AFrameIsComparedWithANewOneOfItsClass)
     EXPECT_EQ(Written(Copy.get()), Text);
 }
 
+TEST_F(DescendentTest, AnInheritedObjectCannotStandInItself)
+{
+    for (const char* Text :
+         {"inherited Child: TSampleForm\n inherited A: TSampleBox\n inherited A: TSampleBox\n end\n end\nend",
+          "inherited Child: TSampleForm\n inherited B: TSampleBox\n inherited C: TSampleBox\n"
+          " inherited B: TSampleBox\n end\n end\n end\nend"}) {
+        try {
+            Load(Form, Text);
+            FAIL();
+        } catch (const EFormDataError& Error) {
+            EXPECT_TRUE(Error.Detail.ends_with("stands in itself")) << Error.Message;
+        }
+        EXPECT_EQ(Find("C")->GetParentComponent(), Find("B"));
+        EXPECT_TRUE(Find("C")->ComponentState.Empty());
+    }
+}
+
 TEST_F(WriterTest, AFrameThatFailsLeavesNothing)
 {
     std::string Text = FormWithFrame;

@@ -200,6 +200,9 @@ TComponent* TReader::FindInherited(std::string_view Name, std::string_view Class
         OnAncestorNotFound(this, AnsiString(Name), GetClass(ClassName), Found);
     if (!Found)
         throw EFormDataError("Ancestor for '" + AnsiString(Name) + "' not found", FBase + Start);
+    // It would become its own parent.
+    if (Found->FState.Contains(csReading))
+        throw EFormDataError("The object '" + AnsiString(Name) + "' stands in itself", FBase + Start);
     return Found;
 }
 
