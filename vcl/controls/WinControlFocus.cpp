@@ -247,8 +247,7 @@ void TWinControl::CNKeyUp(TWMKey& Message)
         return;
     unsigned Wanted = WantedBy(Message.CharCode);
     if (Wanted != 0 && Perform(CM_WANTSPECIALKEY, Message.WParam) == 0 &&
-        (static_cast<unsigned>(Perform(WM_GETDLGCODE)) & Wanted) == 0 &&
-        Message.CharCode == VK_TAB)
+        (static_cast<unsigned>(Perform(WM_GETDLGCODE)) & Wanted) == 0 && Message.CharCode == VK_TAB)
         Message.Result = 1;
 }
 
