@@ -43,9 +43,9 @@ TEST_F(ListBoxTest, PublishesItsPropertiesInOrder)
                             "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
                             "ParentShowHint = True", "PopupMenu", "ScrollWidth = 0", "ShowHint", "Sorted = False",
                             "TabOrder = -1", "TabStop = True", "TabWidth = 0", "Visible = True", "OnClick",
-                            "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnDrawItem", "OnEndDrag",
-                            "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMeasureItem", "OnMouseDown",
-                            "OnMouseMove", "OnMouseUp", "OnStartDrag"));
+                            "OnContextPopup", "OnData", "OnDataFind", "OnDataObject", "OnDblClick", "OnDragDrop",
+                            "OnDragOver", "OnDrawItem", "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress",
+                            "OnKeyUp", "OnMeasureItem", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnStartDrag"));
 }
 
 TEST_F(ListBoxTest, ItemsAreTheSameWithAndWithoutAWindow)
@@ -185,6 +185,55 @@ TEST_F(ListBoxTest, FixedItemsHaveTheirHeight)
     List->Style = lbOwnerDrawFixed;
     List->ItemHeight = 27;
     EXPECT_EQ(List->ItemRect(1), TRect(0, 27, List->ClientWidth, 54));
+}
+
+TEST_F(ListBoxTest, AVirtualListAsksForItsItems)
+{
+    Fill({"own"});
+    EXPECT_THROW(List->Count = 5, EListError);
+    List->Style = lbVirtual;
+    EXPECT_EQ(List->Count, 0);
+    List->OnData = [](TWinControl*, int Index, AnsiString& Data) { Data = "Item " + std::to_string(Index); };
+    List->OnDataObject = [](TWinControl* Control, int, TObject*& Object) { Object = Control; };
+    List->OnDataFind = [](TWinControl*, const AnsiString& Text) { return Text == "it" ? 4711 : -1; };
+    List->Count = 1000000;
+    for (bool WithWindow : {false, true}) {
+        if (WithWindow)
+            List->HandleNeeded();
+        EXPECT_EQ(List->Count, 1000000);
+        EXPECT_EQ(List->Items->Strings[123456], "Item 123456");
+        EXPECT_EQ(List->Items->Objects[7], List);
+        EXPECT_EQ(List->Items->IndexOf("it"), 4711);
+        EXPECT_THROW(List->Items->Add("x"), EInvalidOperation);
+        EXPECT_THROW(List->Items->GetStrings(1000000), EStringListError);
+    }
+    EXPECT_EQ(SendMessageW(List->Handle, LB_GETCOUNT, 0, 0), 1000000);
+    EXPECT_THAT(FormText(Form.get()), testing::Not(testing::HasSubstr("Items")));
+    List->ItemIndex = 500000;
+    List->BorderStyle = bsNone;
+    List->HandleNeeded();
+    EXPECT_EQ(List->ItemIndex, 500000);
+    List->Items->Clear();
+    EXPECT_EQ(List->Count, 0);
+    List->Style = lbStandard;
+    EXPECT_EQ(List->Items->Add("own"), 0);
+}
+
+TEST_F(ListBoxTest, AVirtualListShowsAndFindsWhatItIsTold)
+{
+    std::vector<int> Asked;
+    List->Style = lbVirtual;
+    List->OnData = [&](TWinControl*, int Index, AnsiString& Data) {
+        Asked.push_back(Index);
+        Data = std::to_string(Index);
+    };
+    List->OnDataFind = [](TWinControl*, const AnsiString& Text) { return Text == "t" ? 2 : -1; };
+    List->Count = 3;
+    Show();
+    EXPECT_THAT(Asked, testing::IsSupersetOf({0, 1, 2}));
+    List->SetFocus();
+    TypeKey('T');
+    EXPECT_TRUE(PumpUntil([&] { return List->ItemIndex == 2; }));
 }
 
 namespace {

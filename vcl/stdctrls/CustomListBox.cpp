@@ -1,6 +1,7 @@
 #include "vcl/stdctrls/CustomListBox.h"
 
 #include "vcl/stdctrls/OwnerDraw.h"
+#include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/Format.h"
 
@@ -23,6 +24,9 @@ void TCustomListBox::Describe(TClassBuilder<TCustomListBox>& Class)
     Class.Declare<&Self::GetStyle, &Self::SetStyle>("Style").Default(lbStandard);
     Class.Declare<&Self::GetTabStop, &Self::SetTabStop>("TabStop").Default(true);
     Class.Declare<&Self::GetTabWidth, &Self::SetTabWidth>("TabWidth").Default(0);
+    Class.DeclareEvent<&Self::OnData>("OnData");
+    Class.DeclareEvent<&Self::OnDataFind>("OnDataFind");
+    Class.DeclareEvent<&Self::OnDataObject>("OnDataObject");
     Class.DeclareEvent<&Self::OnDrawItem>("OnDrawItem");
     Class.DeclareEvent<&Self::OnMeasureItem>("OnMeasureItem");
 
@@ -32,25 +36,7 @@ void TCustomListBox::Describe(TClassBuilder<TCustomListBox>& Class)
     Class.Message<&Self::CMCtl3DChanged>(CM_CTL3DCHANGED);
 }
 
-namespace {
-
-constexpr TWindowStrings::TMessages ListMessages = {
-    .Add = LB_ADDSTRING,
-    .Insert = LB_INSERTSTRING,
-    .Delete = LB_DELETESTRING,
-    .Reset = LB_RESETCONTENT,
-    .GetCount = LB_GETCOUNT,
-    .GetText = LB_GETTEXT,
-    .GetTextLength = LB_GETTEXTLEN,
-    .GetData = LB_GETITEMDATA,
-    .SetData = LB_SETITEMDATA,
-    .GetSelected = LB_GETCURSEL,
-    .SetSelected = LB_SETCURSEL,
-};
-
-} // namespace
-
-TCustomListBox::TCustomListBox(TComponent* AOwner) : TWinControl(AOwner), FItems(this, ListMessages), FCanvas(this)
+TCustomListBox::TCustomListBox(TComponent* AOwner) : TWinControl(AOwner), FItems(this), FCanvas(this)
 {
     ControlStyle = TControlStyle{csSetCaption, csDoubleClicks, csOpaque};
     SetBounds(0, 0, 121, 97);
@@ -62,10 +48,11 @@ TCustomListBox::TCustomListBox(TComponent* AOwner) : TWinControl(AOwner), FItems
 
 void TCustomListBox::CreateParams(TCreateParams& Params)
 {
-    constexpr DWORD Styles[] = {0, LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS};
+    constexpr DWORD Styles[] = {0, LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS,
+                                LBS_OWNERDRAWFIXED | LBS_NODATA, LBS_OWNERDRAWFIXED | LBS_NODATA};
     inherited::CreateParams(Params);
     CreateSubClass(Params, L"LISTBOX");
-    Params.Style |= WS_HSCROLL | LBS_NOTIFY | Styles[FStyle] | (FSorted ? LBS_SORT : 0) |
+    Params.Style |= WS_HSCROLL | LBS_NOTIFY | Styles[FStyle] | (FSorted && !IsVirtual() ? LBS_SORT : 0) |
                     (FColumns > 0 ? LBS_MULTICOLUMN : WS_VSCROLL) | (FIntegralHeight ? 0 : LBS_NOINTEGRALHEIGHT) |
                     (FTabWidth > 0 ? LBS_USETABSTOPS : 0);
     if (FMultiSelect)
@@ -84,13 +71,18 @@ void TCustomListBox::CreateWnd()
     // Integral heights are the window's; the control keeps its own to come back to.
     inherited::CreateWnd();
     SetWindowLongPtrW(Handle, GWLP_ID, reinterpret_cast<LONG_PTR>(Handle));
-    if (FStyle == lbOwnerDrawFixed)
+    if (FStyle == lbVirtual)
+        FItemHeight = LineHeight(Font);
+    if (OwnerDrawn() && FStyle != lbOwnerDrawVariable)
         SendMessageW(Handle, LB_SETITEMHEIGHT, 0, FItemHeight);
     if (FTabWidth > 0)
         SendMessageW(Handle, LB_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&FTabWidth));
     SendMessageW(Handle, LB_SETHORIZONTALEXTENT, FScrollWidth, 0);
     UpdateColumnWidth();
-    FItems.MoveToWindow();
+    if (IsVirtual())
+        SendMessageW(Handle, LB_SETCOUNT, FVirtualCount, 0);
+    else
+        FItems.MoveToWindow();
     for (int Index : FKeptSelection)
         SendMessageW(Handle, LB_SETSEL, TRUE, Index);
     FKeptSelection.clear();
@@ -107,7 +99,8 @@ void TCustomListBox::DestroyWnd()
         FKeptSelection.resize(static_cast<size_t>(GetSelCount()));
         SendMessageW(Handle, LB_GETSELITEMS, FKeptSelection.size(), reinterpret_cast<LPARAM>(FKeptSelection.data()));
     }
-    FItems.MoveFromWindow();
+    if (!IsVirtual())
+        FItems.MoveFromWindow();
     inherited::DestroyWnd();
 }
 
@@ -130,9 +123,11 @@ void TCustomListBox::KeyPress(char16_t& Key)
         return;
     const TWideString& Typed = FTypeAhead.Type(Key);
     // A letter alone goes on from the chosen item, as the list box does by itself.
-    if (Typed.size() == 1)
+    if (Typed.size() == 1 && !IsVirtual())
         return;
-    auto Found = SendMessageW(Handle, LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(Typed.c_str()));
+    int Found = IsVirtual() ? FItems.IndexOf(FromWide(Typed))
+                            : static_cast<int>(SendMessageW(Handle, LB_FINDSTRING, static_cast<WPARAM>(-1),
+                                                            reinterpret_cast<LPARAM>(Typed.c_str())));
     Key = 0;
     if (Found < 0) {
         FTypeAhead.Drop();
@@ -140,7 +135,7 @@ void TCustomListBox::KeyPress(char16_t& Key)
     }
     if (Found == GetItemIndex())
         return;
-    SetItemIndex(static_cast<int>(Found));
+    SetItemIndex(Found);
     Changed();
     Click();
 }
@@ -156,7 +151,7 @@ void TCustomListBox::CNDrawItem(TMessage& Message)
 
 void TCustomListBox::DrawItem(int Index, const TRect& Rect, TOwnerDrawState State)
 {
-    if (OnDrawItem) {
+    if (OnDrawItem && FStyle != lbVirtual) {
         OnDrawItem(this, Index, Rect, State);
         return;
     }
@@ -181,6 +176,15 @@ void TCustomListBox::CheckItem(int Index) const
 {
     if (Index < 0 || Index >= FItems.Count)
         throw EListError(Format("List index out of bounds (%d)", Index));
+}
+
+void TCustomListBox::SetCount(int Value)
+{
+    if (!IsVirtual())
+        throw EListError("Listbox (" + Name + ") style must be virtual in order to set Count");
+    FVirtualCount = std::max(Value, 0);
+    if (HandleAllocated())
+        SendMessageW(Handle, LB_SETCOUNT, FVirtualCount, 0);
 }
 
 int TCustomListBox::GetItemIndex() const

@@ -5,9 +5,14 @@
 
 #include "vcl/controls/ControlCanvas.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/stdctrls/ListBoxItems.h"
 #include "vcl/stdctrls/StdTypes.h"
 #include "vcl/stdctrls/TypeAhead.h"
-#include "vcl/stdctrls/WindowStrings.h"
+
+// What a virtual list box asks for: the text of an item, its object, and the item that begins with a text (-1: none).
+using TLBGetDataEvent = TEvent<void(TWinControl* Control, int Index, AnsiString& Data)>;
+using TLBGetDataObjectEvent = TEvent<void(TWinControl* Control, int Index, TObject*& DataObject)>;
+using TLBFindDataEvent = TEvent<int(TWinControl* Control, const AnsiString& FindString)>;
 
 class TCustomListBox : public TWinControl {
     VCL_CLASS(TCustomListBox, TWinControl)
@@ -60,8 +65,12 @@ public:
     void SetTabWidth(int Value);
     PROPERTY(int, TabWidth);
 
+    // Setting raises EListError unless the list is virtual: then the application has that many items.
     int GetCount() const { return FItems.Count; }
-    PROPERTY_READ(int, Count);
+    void SetCount(int Value);
+    PROPERTY(int, Count);
+    // The application keeps the items and tells what is asked for; with lbVirtualOwnerDraw it draws them, too.
+    bool IsVirtual() const { return FStyle >= lbVirtual; }
     // The chosen item, with MultiSelect the one that has the focus; -1 when there is none. A number that no item has
     // chooses none.
     int GetItemIndex() const;
@@ -94,6 +103,10 @@ public:
     // For the styles that the application draws. The background has been chosen in the canvas, not drawn.
     TDrawItemEvent OnDrawItem;
     TMeasureItemEvent OnMeasureItem;
+    // For virtual lists.
+    TLBGetDataEvent OnData;
+    TLBFindDataEvent OnDataFind;
+    TLBGetDataObjectEvent OnDataObject;
 
     int AccessibleRole() const override;
 
@@ -107,6 +120,8 @@ protected:
     virtual void MeasureItem(int Index, int& Height) { OnMeasureItem(this, Index, Height); }
 
 private:
+    friend class TListBoxItems;
+
     void CNCommand(TWMCommand& Message);
     void CNDrawItem(TMessage& Message);
     void CNMeasureItem(TMessage& Message);
@@ -116,12 +131,13 @@ private:
     void UpdateColumnWidth();
     bool OwnerDrawn() const { return FStyle != lbStandard; }
 
-    TWindowStrings FItems;
+    TListBoxItems FItems;
     TControlCanvas FCanvas;
     TTypeAhead FTypeAhead;
     std::vector<int> FKeptSelection; // while there is no window
     int FKeptIndex = -1;
     int FKeptTop = 0;
+    int FVirtualCount = 0;
     int FColumns = 0;
     int FItemHeight = 16;
     int FScrollWidth = 0;

@@ -111,8 +111,13 @@ void TCustomListBox::SetStyle(TListBoxStyle Value)
 {
     if (FStyle == Value)
         return;
+    if (HandleAllocated())
+        DestroyHandle();
+    // Items of its own are of no use to a virtual list.
+    if (!IsVirtual() && Value >= lbVirtual)
+        FItems.Clear();
     FStyle = Value;
-    RecreateWnd();
+    UpdateControlState();
 }
 
 void TCustomListBox::SetTabWidth(int Value)

@@ -9,7 +9,7 @@ void TListBox::Describe(TClassBuilder<TListBox>& Class)
                      "ImeMode", "ImeName", "IntegralHeight", "ItemHeight", "Items", "MultiSelect", "ParentBiDiMode",
                      "ParentColor", "ParentCtl3D", "ParentFont", "ParentShowHint", "PopupMenu", "ScrollWidth",
                      "ShowHint", "Sorted", "TabOrder", "TabStop", "TabWidth", "Visible", "OnClick", "OnContextPopup",
-                     "OnDblClick", "OnDragDrop", "OnDragOver", "OnDrawItem", "OnEndDrag", "OnEnter", "OnExit",
-                     "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMeasureItem", "OnMouseDown", "OnMouseMove", "OnMouseUp",
-                     "OnStartDrag");
+                     "OnData", "OnDataFind", "OnDataObject", "OnDblClick", "OnDragDrop", "OnDragOver", "OnDrawItem",
+                     "OnEndDrag", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMeasureItem",
+                     "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnStartDrag");
 }

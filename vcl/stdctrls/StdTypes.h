@@ -9,7 +9,7 @@ VCL_ENUM(TScrollCode, scLineUp, scLineDown, scPageUp, scPageDown, scPosition, sc
 VCL_ENUM(TScrollStyle, ssNone, ssHorizontal, ssVertical, ssBoth);
 VCL_ENUM(TEditCharCase, ecNormal, ecUpperCase, ecLowerCase);
 VCL_ENUM(TCheckBoxState, cbUnchecked, cbChecked, cbGrayed);
-VCL_ENUM(TListBoxStyle, lbStandard, lbOwnerDrawFixed, lbOwnerDrawVariable);
+VCL_ENUM(TListBoxStyle, lbStandard, lbOwnerDrawFixed, lbOwnerDrawVariable, lbVirtual, lbVirtualOwnerDraw);
 VCL_ENUM(TComboBoxStyle, csDropDown, csSimple, csDropDownList, csOwnerDrawFixed, csOwnerDrawVariable);
 VCL_ENUM(TStaticBorderStyle, sbsNone, sbsSingle, sbsSunken);
 // A check mark stands on one side of its text: taLeftJustify or taRightJustify. taCenter counts as the latter.
