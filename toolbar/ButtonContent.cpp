@@ -1,5 +1,7 @@
 #include "toolbar/ButtonContent.h"
 
+#include "vcl/graphics/Canvas.h"
+
 namespace {
 
 constexpr int Gap = 4;
@@ -28,4 +30,31 @@ TButtonContent PlaceContent(const TRect& R, const TSize& Glyph, const TSize& Cap
     case blGlyphBottom: PlaceInLine(R.top, R.bottom, Caption.cy, Glyph.cy, Place.Caption.y, Place.Glyph.y); break;
     }
     return Place;
+}
+
+TSize MeasureCaption(TCanvas* Canvas, TFont* Font, std::string_view Text)
+{
+    if (Text.empty())
+        return {};
+    Canvas->Font = Font;
+    TRect R;
+    DrawText(Canvas->Handle, Text, R, DT_CALCRECT | DT_SINGLELINE);
+    return {R.Width(), R.Height()};
+}
+
+void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRect R, bool Disabled)
+{
+    constexpr unsigned Flags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    if (Text.empty())
+        return;
+    Canvas->Font = Font;
+    Canvas->Brush->Style = bsClear;
+    if (Disabled) {
+        OffsetRect(R, 1, 1);
+        Canvas->Font->Color = clBtnHighlight;
+        DrawText(Canvas->Handle, Text, R, Flags);
+        OffsetRect(R, -1, -1);
+        Canvas->Font->Color = clBtnShadow;
+    }
+    DrawText(Canvas->Handle, Text, R, Flags);
 }

@@ -13,8 +13,6 @@ constexpr int DefaultSize = 22;
 constexpr int ContentMargin = 2;
 constexpr int PushFrame = 2; // what the system's push button frame takes on each side
 
-constexpr unsigned CaptionFlags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-
 } // namespace
 
 void TkelSpeedButton::Describe(TClassBuilder<TkelSpeedButton>& Class)
@@ -363,15 +361,16 @@ void TkelSpeedButton::DrawContent(const TRect& R)
     const AnsiString Text = Caption;
     const TSize Glyph = GlyphSize();
     if (Glyph.cx == 0 || Glyph.cy == 0) {
-        DrawCaption(R, Text);
+        DrawButtonCaption(Canvas, Font, Text, R, FState == bsDisabled);
         return;
     }
     TRect Content = R;
     InflateRect(Content, -ContentMargin, -ContentMargin);
-    const TSize TextSize = CaptionSize(Text);
+    const TSize TextSize = MeasureCaption(Canvas, Font, Text);
     const TButtonContent Place = PlaceContent(Content, Glyph, TextSize, FLayout);
     DrawGlyph(Place.Glyph);
-    DrawCaption(Bounds(Place.Caption.x, Place.Caption.y, TextSize.cx, TextSize.cy), Text);
+    DrawButtonCaption(Canvas, Font, Text, Bounds(Place.Caption.x, Place.Caption.y, TextSize.cx, TextSize.cy),
+                      FState == bsDisabled);
 }
 
 TSize TkelSpeedButton::GlyphSize() const
@@ -381,16 +380,6 @@ TSize TkelSpeedButton::GlyphSize() const
     if (FImages)
         return {FImages->Width, FImages->Height};
     return {};
-}
-
-TSize TkelSpeedButton::CaptionSize(std::string_view Text)
-{
-    if (Text.empty())
-        return {};
-    Canvas->Font = Font;
-    TRect R;
-    DrawText(Canvas->Handle, Text, R, DT_CALCRECT | DT_SINGLELINE);
-    return {R.Width(), R.Height()};
 }
 
 void TkelSpeedButton::DrawGlyph(const TPoint& At)
@@ -404,22 +393,6 @@ void TkelSpeedButton::DrawGlyph(const TPoint& At)
         TImageCells::Of(FImages).DrawEmbossed(Canvas->BareHandle(), At.x, At.y, FGlyphIndex);
     else
         TImageCells::Of(FImages).Draw(Canvas->BareHandle(), At.x, At.y, FGlyphIndex);
-}
-
-void TkelSpeedButton::DrawCaption(TRect R, std::string_view Text)
-{
-    if (Text.empty())
-        return;
-    Canvas->Font = Font;
-    Canvas->Brush->Style = bsClear;
-    if (FState == bsDisabled) {
-        OffsetRect(R, 1, 1);
-        Canvas->Font->Color = clBtnHighlight;
-        DrawText(Canvas->Handle, Text, R, CaptionFlags);
-        OffsetRect(R, -1, -1);
-        Canvas->Font->Color = clBtnShadow;
-    }
-    DrawText(Canvas->Handle, Text, R, CaptionFlags);
 }
 
 // So that it can be seen in the designer, where no pointer makes it hot.

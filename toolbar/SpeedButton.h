@@ -105,10 +105,8 @@ private:
     void DrawFlatFrame();
     void DrawContent(const TRect& R);
     void DrawGlyph(const TPoint& At);
-    void DrawCaption(TRect R, std::string_view Text);
     void DrawDesignOutline();
     TSize GlyphSize() const;
-    TSize CaptionSize(std::string_view Text);
 
     static inline int Created = 0;
 
