@@ -31,6 +31,16 @@ TEST_F(FormCheckTest, AFormOfKnownClassesIsComplete)
     EXPECT_EQ(Report.Components, 3);
 }
 
+TEST_F(FormCheckTest, TheComponentLibraryIsKnown)
+{
+    TFormReport Report = CheckForm("object Form1: TForm1\n  object Glyphs: TkelGlyphs\n    Cols = 2\n  end\n"
+                                   "  object Panel: TkelPanel\n    BevelSides = [sdLeft]\n"
+                                   "    object Button: TkelSpeedButton\n      Glyphs = Glyphs\n    end\n"
+                                   "    object Align: TAlignSpeedButton\n      Align = alLeft\n    end\n  end\nend\n");
+    EXPECT_EQ(Report.Error, "");
+    EXPECT_TRUE(Report.Complete());
+}
+
 TEST_F(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
 {
     TFormReport Report = CheckForm("object Form1: TForm1\n  Nope = 1\n"
