@@ -129,6 +129,16 @@ void ShowPainted(HWND Window)
     GdiFlush();
 }
 
+void BringUp(HWND Window)
+{
+    SetWindowPos(Window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    MSG Message;
+    while (PeekMessageW(&Message, nullptr, 0, 0, PM_REMOVE))
+        DispatchMessageW(&Message);
+    RedrawWindow(Window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    GdiFlush();
+}
+
 void RepaintAll(HWND Window)
 {
     RedrawWindow(Window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -36,5 +36,7 @@ private:
 
 // Shows the window with all that is in it, and returns when it is painted.
 void ShowPainted(HWND Window);
+// Puts a shown window on top of the others, painted, and handles the messages that come of it.
+void BringUp(HWND Window);
 // Paints all of it again, and returns when that is done.
 void RepaintAll(HWND Window);

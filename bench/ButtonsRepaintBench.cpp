@@ -4,25 +4,21 @@
 
 void ButtonsRepaintBench()
 {
-    constexpr double Buttons = BarCount * ButtonsPerBar;
     TMemoryStream Stream;
     WriteButtonForm(Stream);
     auto Form = ReadButtonForm(Stream);
     Form->Show();
     ShowPainted(Form->Handle);
-    std::vector<double> Values, Baselines;
-    for (int I = 0; I < 11; ++I) {
-        TStopwatch Watch;
-        RepaintAll(Form->Handle);
-        Values.push_back(Watch.Microseconds() / Buttons);
-    }
-    Form->Hide();
     TToolBars Bars;
     ShowPainted(Bars.Window);
-    for (int I = 0; I < 7; ++I) {
-        TStopwatch Watch;
-        RepaintAll(Bars.Window);
-        Baselines.push_back(Watch.Microseconds() / Buttons);
-    }
-    PrintFigure("buttons_repaint", Median(Values), "us", Median(Baselines));
+    const auto PerButton = [](HWND Window) {
+        return [Window] {
+            BringUp(Window);
+            TStopwatch Watch;
+            RepaintAll(Window);
+            return Watch.Microseconds() / (BarCount * ButtonsPerBar);
+        };
+    };
+    const TMeasure Repaint = Compare(PerButton(Form->Handle), PerButton(Bars.Window), 11);
+    PrintFigure("buttons_repaint", Repaint.Value, "us", Repaint.Baseline);
 }

@@ -5,25 +5,23 @@
 
 namespace {
 
-// The time of one step of the pointer within Window, between two neighbouring buttons.
-double StepOver(HWND Window)
+// The time of one step of the pointer between two neighbouring buttons of Bar, which lies in Window.
+double StepOver(HWND Window, HWND Bar)
 {
     // The pointer is really there, so that nobody finds it elsewhere.
     POINT Place = {ButtonSize, ButtonSize / 2};
-    ClientToScreen(Window, &Place);
+    ClientToScreen(Bar, &Place);
     SetCursorPos(Place.x, Place.y);
-    MSG Message;
-    while (PeekMessageW(&Message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageW(&Message);
+    BringUp(Window);
 
     constexpr int Steps = 20;
     std::vector<double> Times;
     for (int I = 0; I < Steps; ++I) {
         const int X = ButtonSize / 2 + I % 2 * ButtonSize;
         TStopwatch Watch;
-        const MSG Move = {Window, WM_MOUSEMOVE, 0, MAKELPARAM(X, ButtonSize / 2), 0, {}};
+        const MSG Move = {Bar, WM_MOUSEMOVE, 0, MAKELPARAM(X, ButtonSize / 2), 0, {}};
         DispatchMessageW(&Move);
-        UpdateWindow(Window);
+        UpdateWindow(Bar);
         GdiFlush();
         Times.push_back(Watch.Microseconds());
     }
@@ -40,13 +38,9 @@ void HotTrackBench()
     Form->Show();
     ShowPainted(Form->Handle);
     HWND Panel = GetWindow(Form->Handle, GW_CHILD);
-    std::vector<double> Values, Baselines;
-    for (int I = 0; I < 7; ++I)
-        Values.push_back(StepOver(Panel));
-    Form->Hide();
     TToolBars Bars;
     ShowPainted(Bars.Window);
-    for (int I = 0; I < 7; ++I)
-        Baselines.push_back(StepOver(Bars.Bars[0]));
-    PrintFigure("hot_track", Median(Values), "us", Median(Baselines));
+    const TMeasure Step =
+        Compare([&] { return StepOver(Form->Handle, Panel); }, [&] { return StepOver(Bars.Window, Bars.Bars[0]); });
+    PrintFigure("hot_track", Step.Value, "us", Step.Baseline);
 }
