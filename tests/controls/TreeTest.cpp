@@ -101,6 +101,23 @@ TEST_F(TreeTest, TheWindowsCaptionIsInUnicode)
     EXPECT_EQ(Box->Caption, "日本 Отмена 🙂");
 }
 
+TEST_F(TreeTest, AWindowMadeVisibleWithItsParentCanBeHiddenAndShownAgain)
+{
+    auto* Outer = Add<TBox>(&Window, 0, 0, 50, 50);
+    auto* Inner = Add<TBox>(Outer, 0, 0, 20, 20);
+    Outer->Visible = false;
+    Window.Open();
+    EXPECT_FALSE(Inner->HandleAllocated());
+    Outer->Visible = true;
+    EXPECT_TRUE(IsWindowVisible(Inner->Handle));
+    Inner->Visible = false;
+    EXPECT_FALSE(IsWindowVisible(Inner->Handle));
+    Window.Visible = false;
+    Inner->Visible = true;
+    Window.Visible = true;
+    EXPECT_TRUE(IsWindowVisible(Inner->Handle));
+}
+
 TEST_F(TreeTest, LaterSiblingsLieOnTopWhateverTheOrderOfTheirWindows)
 {
     auto* Low = Add<TBox>(&Window, 0, 0, 50, 50);

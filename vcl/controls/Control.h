@@ -234,6 +234,7 @@ protected:
     void Loaded() override;
     void Notification(TComponent* Component, TOperation Operation) override;
     void ReadState(TReader& Reader) override;
+    void DefineProperties(TFiler& Filer) override;
     virtual void VisibleChanging() {}
     // Asks the parent to lay its children out again, if this control takes part.
     void RequestAlign();

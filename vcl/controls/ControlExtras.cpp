@@ -1,5 +1,7 @@
 #include "vcl/controls/ControlExtras.h"
 
+#include "vcl/classes/Reader.h"
+#include "vcl/classes/Writer.h"
 #include "vcl/controls/DragManager.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/menus/PopupMenu.h"
@@ -117,4 +119,22 @@ void TControl::DoEndDrag(TObject* Target, int X, int Y)
 {
     if (FExtras)
         FExtras->OnEndDrag(this, Target, X, Y);
+}
+
+// The bounds a control would have without its Align, as designers note them. They are kept for the form file only.
+void TControl::DefineProperties(TFiler& Filer)
+{
+    inherited::DefineProperties(Filer);
+    const auto Define = [&](const char* Name, LONG TRect::* Side) {
+        const int Value = FExtras ? FExtras->ExplicitBounds.*Side : 0;
+        const TReaderProc Read = [this, Side](TReader* Reader) {
+            Extras().ExplicitBounds.*Side = Reader->ReadInteger();
+        };
+        const TWriterProc Write = [Value](TWriter* Writer) { Writer->WriteInteger(Value); };
+        Filer.DefineProperty(Name, Read, Write, Value != 0);
+    };
+    Define("ExplicitLeft", &TRect::left);
+    Define("ExplicitTop", &TRect::top);
+    Define("ExplicitWidth", &TRect::right);
+    Define("ExplicitHeight", &TRect::bottom);
 }

@@ -10,6 +10,7 @@ struct TControlExtras {
     AnsiString HelpKeyword;
     std::unique_ptr<TSizeConstraints> Constraints;
     TPopupMenu* PopupMenu = nullptr;
+    TRect ExplicitBounds; // what designers note beside the bounds of an aligned control; Right and Bottom are the size
     THelpContext HelpContext = 0;
     THelpType HelpType = htContext;
     TBiDiMode BiDiMode = bdLeftToRight;

@@ -246,6 +246,7 @@ private:
     TTabOrder FReadTabOrder = -1;
     bool FTabStop = false;
     bool FShowing = false;
+    bool FCreateVisible = false;
     bool FCtl3D = true;
     bool FParentCtl3D = true;
     bool FDoubleBuffered = false;

@@ -338,6 +338,8 @@ void TWinControl::CMRecreateWnd(TMessage&)
 void TWinControl::CMShowingChanged(TMessage&)
 {
     constexpr UINT Keep = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
+    if (FShowing == ((GetWindowLongW(FHandle, GWL_STYLE) & WS_VISIBLE) != 0))
+        return;
     SetWindowPos(FHandle, nullptr, 0, 0, 0, 0, Keep | (FShowing ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
 }
 

@@ -47,6 +47,8 @@ void TWinControl::CreateParams(TCreateParams& Params)
         Params.Style |= WS_DISABLED;
     if (FTabStop)
         Params.Style |= WS_TABSTOP;
+    if (std::exchange(FCreateVisible, false))
+        Params.Style |= WS_VISIBLE;
     Params.X = GetLeft();
     Params.Y = GetTop();
     Params.Width = GetWidth();
@@ -145,8 +147,12 @@ void TWinControl::UpdateShowing()
     bool Show = (GetVisible() || (IsDesigning() && !GetControlStyle().Contains(csNoDesignVisible))) &&
                 !GetControlState().Contains(csReadingState);
     if (Show) {
-        if (!FHandle)
+        if (!FHandle) {
+            // In a parent that is not on the screen yet the window may be visible from the start: that spares showing
+            // each one.
+            FCreateVisible = GetParent() && !IsWindowVisible(GetParent()->GetHandle());
             CreateHandle();
+        }
         for (size_t I = 0; I < FWindows.size(); ++I)
             FWindows[I]->UpdateShowing();
     }

@@ -41,6 +41,15 @@ TEST_F(FormCheckTest, TheComponentLibraryIsKnown)
     EXPECT_TRUE(Report.Complete());
 }
 
+TEST_F(FormCheckTest, TheBoundsThatDesignersNoteBesideTheAlignmentAreKept)
+{
+    TFormReport Report = CheckForm("object Form1: TForm1\n  object Panel1: TPanel\n    Align = alTop\n"
+                                   "    ExplicitLeft = 8\n    ExplicitWidth = 185\n  end\nend\n");
+    EXPECT_EQ(Report.Error, "");
+    EXPECT_TRUE(Report.Complete());
+    EXPECT_EQ(Report.Change, "");
+}
+
 TEST_F(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
 {
     TFormReport Report = CheckForm("object Form1: TForm1\n  Nope = 1\n"
