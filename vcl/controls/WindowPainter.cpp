@@ -5,17 +5,29 @@
 
 namespace {
 
-// What a context is clipped to, to be selected again.
+// What a context is clipped to, to be selected again. The region that holds it is made once; only painting inside
+// painting makes another.
 class TClipRegion {
 public:
-    explicit TClipRegion(HDC DC) : FRegion(CreateRectRgn(0, 0, 0, 0)), FIsClipped(GetClipRgn(DC, FRegion) == 1) {}
-    ~TClipRegion() { DeleteObject(FRegion); }
+    explicit TClipRegion(HDC DC) : FRegion(Spare ? std::exchange(Spare, nullptr) : CreateRectRgn(0, 0, 0, 0))
+    {
+        FIsClipped = GetClipRgn(DC, FRegion) == 1;
+    }
+    ~TClipRegion()
+    {
+        if (Spare)
+            DeleteObject(FRegion);
+        else
+            Spare = FRegion;
+    }
     TClipRegion(const TClipRegion&) = delete;
 
     // nullptr: not clipped.
     HRGN Get() const { return FIsClipped ? FRegion : nullptr; }
 
 private:
+    static inline HRGN Spare = nullptr;
+
     HRGN FRegion;
     bool FIsClipped;
 };
