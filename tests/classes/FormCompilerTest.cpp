@@ -122,6 +122,7 @@ constexpr TValueCase ValueCases[] = {
     {"EmptySet", "[]", "0B 00"},
     {"Set", "[a,b , c]", "0B 01'a' 01'b' 01'c' 00"},
     {"SetOfNumbers", "[1, 31]", "0B 01'1' 02'31' 00"},
+    {"SetOfNumbersSpeltOtherwise", "[$1F, 007]", "0B 02'31' 01'7' 00"},
     {"EmptyList", "()", "01 00"},
     {"List", "(1 'a' 'b' (2))", "01 02 01 06 01'a' 06 01'b' 01 02 02 00 00"},
     {"EmptyCollection", "<>", "0E 00"},

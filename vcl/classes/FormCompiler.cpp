@@ -216,8 +216,8 @@ void TFormCompiler::Set()
     FEncoder.Type(vaSet);
     FLexer.Next();
     while (!FLexer.IsSymbol(']')) {
-        if (FLexer.Kind() == TFormToken::Integer && FLexer.Spelling().size() < 20)
-            FEncoder.Name(FLexer.Spelling()), FLexer.Next();
+        if (FLexer.Kind() == TFormToken::Integer)
+            NumberedElement();
         else
             FEncoder.Name(TakeName("A set element"));
         if (FLexer.IsSymbol(']'))
@@ -227,6 +227,16 @@ void TFormCompiler::Set()
             FLexer.FailExpected("A set element");
     }
     FEncoder.Terminator();
+    FLexer.Next();
+}
+
+// An element without a name is written as its number, in the one spelling that the text form has for it.
+void TFormCompiler::NumberedElement()
+{
+    const std::int64_t Number = ParseInteger();
+    if (Number < 0)
+        FLexer.Fail("A set element cannot be negative");
+    FEncoder.Name(std::to_string(Number));
     FLexer.Next();
 }
 

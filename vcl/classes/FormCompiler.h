@@ -43,6 +43,7 @@ private:
     void FloatValue();
     void StringValue();
     void Set();
+    void NumberedElement();
     void List();
     void Collection();
     void Binary();

@@ -36,8 +36,9 @@ bool IsConstant(std::string_view Name)
 
 bool IsNumber(std::string_view Name)
 {
-    return !Name.empty() && Name.size() < 20 &&
-           std::all_of(Name.begin(), Name.end(), [](char C) { return C >= '0' && C <= '9'; });
+    std::int64_t Number = -1;
+    std::from_chars(Name.data(), Name.data() + Name.size(), Number);
+    return Number >= 0 && std::to_string(Number) == Name;
 }
 
 } // namespace
