@@ -4,7 +4,6 @@
 #include "vcl/classes/FormLexer.h"
 #include "vcl/classes/FormStringPrinter.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 
