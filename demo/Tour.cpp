@@ -2,6 +2,7 @@
 
 #include "demo/Main.h"
 #include "glyphs/toolbar16.h"
+#include "tests/support/SystemInput.h"
 
 namespace {
 
@@ -12,54 +13,15 @@ constexpr int NoHints = 3600 * 1000;
 // Handles messages until Condition holds. What names it in the exception.
 void WaitFor(std::string_view What, const std::function<bool()>& Condition)
 {
-    const ULONGLONG Deadline = GetTickCount64() + Patience;
-    for (;;) {
-        Application->ProcessMessages();
-        if (Condition())
-            return;
-        if (GetTickCount64() >= Deadline)
-            throw Exception(Format("The tour waits in vain: %s", What));
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-    }
-}
-
-void SendMouse(DWORD Flags, LONG X = 0, LONG Y = 0)
-{
-    INPUT Input = {};
-    Input.type = INPUT_MOUSE;
-    Input.mi.dwFlags = Flags;
-    Input.mi.dx = X;
-    Input.mi.dy = Y;
-    SendInput(1, &Input, sizeof(Input));
-}
-
-// A pixel in the units of absolute movements: the middle of what the system rounds to it.
-LONG Normalized(int Pixel, int Size)
-{
-    return static_cast<LONG>((int64_t{Pixel} * 65536 + 32768) / Size);
-}
-
-// The desktop can be another program, which hears of the pointer later than we do and then reports a place that the
-// pointer has left already. It gets the time for that.
-void SettleDesktop()
-{
-    for (int I = 0; I < 2; ++I) {
-        DWORD_PTR Result;
-        SendMessageTimeoutW(GetDesktopWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, 1000, &Result);
-    }
+    if (!PumpUntil(Condition, Patience))
+        throw Exception(Format("The tour waits in vain: %s", What));
 }
 
 // Moves the pointer until it is at Target and Control has noticed.
 void MovePointer(const TPoint& Target, const TControl* Control)
 {
-    WaitFor("a control to notice the pointer", [&] {
-        SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, Normalized(Target.x, GetSystemMetrics(SM_CXSCREEN)),
-                  Normalized(Target.y, GetSystemMetrics(SM_CYSCREEN)));
-        SettleDesktop();
-        Application->ProcessMessages();
-        TPoint Now;
-        return GetCursorPos(&Now) && Now == Target && TMouse::HotControl() == Control;
-    });
+    if (!MovePointerUntil(Target, [&] { return TMouse::HotControl() == Control; }, Patience))
+        throw Exception("The tour waits in vain: a control to notice the pointer");
 }
 
 // A picture of the screen does not have the pointer in it.
@@ -87,12 +49,13 @@ bool IsHintShowing()
 
 void TTour::Run()
 {
+    UseMessageLoop([] { Application->ProcessMessages(); });
     Application->HintPause = NoHints;
     Application->HintShortPause = NoHints;
     Application->HintHidePause = NoHints;
     FForm->Show();
     WaitFor("the window to be active", [this] { return FForm->Active; });
-    MovePointer({GetSystemMetrics(SM_CXSCREEN) - 2, GetSystemMetrics(SM_CYSCREEN) - 2}, nullptr);
+    MovePointer(FarCorner(), nullptr);
     TakePicture("start");
     ShowButtons();
     ShowMagnifier();
@@ -156,13 +119,13 @@ void TTour::PointAt(TControl* Control)
 
 void TTour::Press()
 {
-    SendMouse(MOUSEEVENTF_LEFTDOWN);
+    SendButton(mbLeft, true);
     WaitFor("a control to take the mouse", [] { return TMouse::CaptureControl() != nullptr; });
 }
 
 void TTour::Release()
 {
-    SendMouse(MOUSEEVENTF_LEFTUP);
+    SendButton(mbLeft, false);
     WaitFor("the mouse to be free", [] { return TMouse::CaptureControl() == nullptr; });
 }
 

@@ -28,14 +28,7 @@ protected:
 void KeysWhileMenuIsOpen(std::initializer_list<WORD> Keys)
 {
     for (WORD Key : Keys)
-        for (DWORD Flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
-            INPUT Input{};
-            Input.type = INPUT_KEYBOARD;
-            Input.ki.wVk = Key;
-            Input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(Key, MAPVK_VK_TO_VSC));
-            Input.ki.dwFlags = Flags;
-            SendInput(1, &Input, sizeof Input);
-        }
+        SendKey(Key);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "vcl/menus/PopupList.h"
 #include "vcl/menus/UtilityWindow.h"
 
+#include "tests/support/SystemInput.h"
 #include "vcl/system/LiveCount.h"
 
 #include <functional>
@@ -13,40 +14,7 @@ namespace {
 void SendKeys(std::initializer_list<WORD> Keys)
 {
     for (WORD Key : Keys)
-        for (DWORD Flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
-            INPUT Input{};
-            Input.type = INPUT_KEYBOARD;
-            Input.ki.wVk = Key;
-            Input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(Key, MAPVK_VK_TO_VSC));
-            Input.ki.dwFlags = Flags;
-            SendInput(1, &Input, sizeof Input);
-        }
-}
-
-void SendClick(int X, int Y)
-{
-    const int Width = GetSystemMetrics(SM_CXSCREEN);
-    const int Height = GetSystemMetrics(SM_CYSCREEN);
-    for (DWORD Flags : {MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-        INPUT Input{};
-        Input.type = INPUT_MOUSE;
-        Input.mi.dwFlags = Flags;
-        Input.mi.dx = static_cast<LONG>((int64_t{X} * 65536 + 32768) / Width);
-        Input.mi.dy = static_cast<LONG>((int64_t{Y} * 65536 + 32768) / Height);
-        SendInput(1, &Input, sizeof Input);
-    }
-}
-
-bool HandleMessagesUntil(const std::function<bool()>& Condition)
-{
-    const ULONGLONG Deadline = GetTickCount64() + 5000;
-    while (!Condition() && GetTickCount64() < Deadline) {
-        MSG Message;
-        while (PeekMessageW(&Message, nullptr, 0, 0, PM_REMOVE))
-            DispatchMessageW(&Message);
-        MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
-    }
-    return Condition();
+        SendKey(Key);
 }
 
 // Once the menu is on the screen, does what it was made for, and closes the menu after three seconds whatever happens.
@@ -123,7 +91,7 @@ using testing::ElementsAre;
 TEST_F(PopupMenus, CommandsChosenByKeyReachTheirHandler)
 {
     PopupWith([] { SendKeys({VK_DOWN, VK_DOWN, VK_RETURN}); });
-    EXPECT_TRUE(HandleMessagesUntil([&] { return !FLog.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));
     EXPECT_THAT(FLog, ElementsAre("Second"));
     EXPECT_EQ(FMenu->PopupPoint, TPoint(150, 150));
 }
@@ -131,7 +99,7 @@ TEST_F(PopupMenus, CommandsChosenByKeyReachTheirHandler)
 TEST_F(PopupMenus, CommandsChosenByLetterReachTheirHandler)
 {
     PopupWith([] { SendKeys({'T'}); });
-    EXPECT_TRUE(HandleMessagesUntil([&] { return !FLog.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));
     EXPECT_THAT(FLog, ElementsAre("Third"));
 }
 
@@ -145,9 +113,11 @@ TEST_F(PopupMenus, CommandsChosenByMouseReachTheirHandler)
             GetWindowRect(FindWindowW(L"#32768", nullptr), &Window);
             R = {Window.left, Window.bottom - 14, Window.right, Window.bottom - 6};
         }
-        SendClick((R.left + R.right) / 2, (R.top + R.bottom) / 2);
+        SendMove({(R.left + R.right) / 2, (R.top + R.bottom) / 2});
+        SendButton(mbLeft, true);
+        SendButton(mbLeft, false);
     });
-    EXPECT_TRUE(HandleMessagesUntil([&] { return !FLog.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));
     EXPECT_THAT(FLog, ElementsAre("Third"));
 }
 
@@ -169,7 +139,7 @@ TEST_F(PopupMenus, OnPopupComesBeforeTheMenuShows)
         FMenu->Items->Items[0]->Visible = false;
     };
     PopupWith([] { SendKeys({VK_DOWN, VK_RETURN}); });
-    EXPECT_TRUE(HandleMessagesUntil([&] { return !FLog.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));
     EXPECT_THAT(FLog, ElementsAre("Second"));
 }
 
@@ -182,7 +152,7 @@ TEST_F(PopupMenus, SubmenusFillWhenTheyOpen)
     };
     FMenu->Items->Add(More);
     PopupWith([] { SendKeys({'M', 'L'}); });
-    EXPECT_TRUE(HandleMessagesUntil([&] { return !FLog.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));
     EXPECT_THAT(FLog, ElementsAre("Late"));
 }
 

@@ -32,11 +32,8 @@ protected:
     void ClickAt(int X)
     {
         MovePointerTo(Bar, X, 10);
-        INPUT Inputs[2] = {};
-        Inputs[0].type = Inputs[1].type = INPUT_MOUSE;
-        Inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-        Inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-        SendInput(2, Inputs, sizeof(INPUT));
+        SendButton(mbLeft, true);
+        SendButton(mbLeft, false);
         ASSERT_TRUE(PumpUntil([&] { return !Scrolls.empty() && Scrolls.back().first == scEndScroll; }));
     }
 

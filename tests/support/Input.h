@@ -1,20 +1,10 @@
-// Real mouse and keyboard input: events that go through the system's queue, with the message loop running.
+// Real mouse and keyboard input for tests, with the messages that follow handled.
 #pragma once
 
-#include "vcl/controls/ControlTypes.h"
-
-#include <functional>
-
-// Handles what is in the message queue, and returns.
-void PumpMessages();
-// From here on ProcessMessages does that: an application's own loop, which knows more than the system's. nullptr: the
-// system's again.
-void UseMessageLoop(void (*ProcessMessages)());
-// Handles messages until Condition is true. False when that has not happened within the time.
-bool PumpUntil(const std::function<bool()>& Condition, int Milliseconds = 5000);
+#include "tests/support/SystemInput.h"
 
 // Moves the pointer to a point of the screen, or of a control; returns when the system has it there and the messages
-// that follow are handled.
+// that follow are handled. It is a failure of the test when the pointer does not get there.
 void MovePointer(const TPoint& Screen);
 void MovePointerTo(TControl* Control, int X, int Y);
 // To a corner of the screen, away from all windows of the tests.
