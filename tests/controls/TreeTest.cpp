@@ -133,6 +133,61 @@ TEST_F(TreeTest, LaterSiblingsLieOnTopWhateverTheOrderOfTheirWindows)
     EXPECT_EQ(GetTopWindow(Window.Handle), High->Handle);
 }
 
+TEST_F(TreeTest, AWindowMovesToAnotherParentWithAllThatIsInIt)
+{
+    auto* First = Add<TBox>(&Window, 0, 0, 100, 100);
+    auto* Second = Add<TBox>(&Window, 200, 50, 100, 100);
+    auto* Moved = Add<TBox>(First, 10, 20, 40, 40);
+    auto* Inner = Add<TBox>(Moved, 5, 5, 10, 10);
+    Inner->Color = clRed;
+    Add<TBox>(Second, 0, 0, 50, 50);
+    Window.Open();
+    const HWND Handle = Moved->Handle;
+    Moved->Parent = Second;
+    EXPECT_EQ(Moved->Handle, Handle);
+    EXPECT_EQ(Moved->Created + Inner->Created, 2);
+    EXPECT_EQ(GetParent(Handle), Second->Handle);
+    EXPECT_EQ(Moved->BoundsRect, TRect(10, 20, 50, 60));
+    EXPECT_EQ(GetTopWindow(Second->Handle), Handle) << "the last child is on top";
+    EXPECT_EQ(Second->Controls[1], Moved);
+    EXPECT_EQ(First->ControlCount, 0);
+    Window.Update();
+    UpdateWindow(Inner->Handle);
+    EXPECT_EQ(PixelOnScreen(Inner, 5, 5), clRed);
+}
+
+TEST_F(TreeTest, AHiddenWindowMovesAndStaysHidden)
+{
+    auto* First = Add<TBox>(&Window, 0, 0, 100, 100);
+    auto* Second = Add<TBox>(&Window, 200, 50, 100, 100);
+    auto* Moved = Add<TBox>(First, 10, 20, 40, 40);
+    Window.Open();
+    Moved->Visible = false;
+    Moved->Parent = Second;
+    EXPECT_EQ(Moved->Created, 1);
+    EXPECT_FALSE(IsWindowVisible(Moved->Handle));
+    Moved->Visible = true;
+    EXPECT_TRUE(IsWindowVisible(Moved->Handle));
+}
+
+TEST_F(TreeTest, AWindowThatMovesToAParentThatDoesNotShowIsCreatedAnewWhenItDoes)
+{
+    auto* First = Add<TBox>(&Window, 0, 0, 100, 100);
+    auto* Second = Add<TBox>(&Window, 200, 50, 100, 100);
+    auto* Moved = Add<TBox>(First, 10, 20, 40, 40);
+    Second->Visible = false;
+    Window.Open();
+    Moved->Parent = Second;
+    EXPECT_FALSE(Moved->HandleAllocated());
+    Second->Visible = true;
+    EXPECT_TRUE(Moved->HandleAllocated());
+    EXPECT_TRUE(IsWindowVisible(Moved->Handle));
+    Moved->Parent = nullptr;
+    EXPECT_FALSE(Moved->HandleAllocated());
+    Moved->Parent = First;
+    EXPECT_EQ(GetParent(Moved->Handle), First->Handle);
+}
+
 TEST_F(TreeTest, WindowProcCanBeHookedAndUnhookedInAnyOrderWithTheWindowRecreated)
 {
     auto* Box = Add<TBox>(&Window, 0, 0, 50, 50);

@@ -43,6 +43,9 @@ public:
     HWND GetParentWindow() const { return FParentWindow; }
     void SetParentWindow(HWND Value);
     PROPERTY(HWND, ParentWindow);
+    // Between parents that show, the window moves over with all that is in it; otherwise it is destroyed, and created
+    // anew when it is needed.
+    void SetParent(TWinControl* Value) override;
 
     // ---- children
 
@@ -228,6 +231,7 @@ private:
     void TrackPointer(const TPoint& Pos, bool Captured);
     bool IsCtl3DStored() const { return !FParentCtl3D; }
     bool SystemPaints() const;
+    void TakeWindow(TWinControl& Child);
     void RestoreWindowOrder(TWinControl* Control);
     void FixupTabList();
     void MoveInTabList(TTabOrder Value);
@@ -247,6 +251,7 @@ private:
     bool FTabStop = false;
     bool FShowing = false;
     bool FCreateVisible = false;
+    bool FMovesOver = false; // to a new parent, window and all
     bool FCtl3D = true;
     bool FParentCtl3D = true;
     bool FDoubleBuffered = false;

@@ -25,6 +25,8 @@ void TWinControl::InsertControl(TControl* Control)
         Control->Perform(CM_PARENTFONTCHANGED);
         if (auto* Window = As<TWinControl>(Control)) {
             Window->Perform(CM_PARENTCTL3DCHANGED);
+            if (Window->FMovesOver)
+                TakeWindow(*Window);
             Window->UpdateControlState();
         } else if (FHandle) {
             Control->Invalidate();
@@ -40,7 +42,8 @@ void TWinControl::RemoveControl(TControl* Control)
     if (auto* Window = As<TWinControl>(Control)) {
         if (TFormLink* Form = ParentFormLink())
             Form->DefocusControl(Window, true);
-        Window->DestroyHandle();
+        if (!Window->FMovesOver)
+            Window->DestroyHandle();
     } else if (FHandle) {
         Control->InvalidateControl(Control->GetVisible(), false);
     }

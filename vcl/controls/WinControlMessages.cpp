@@ -239,7 +239,8 @@ void TWinControl::WMEraseBkgnd(TMessage& Message)
     // buffer's context.
     bool IntoBuffer = Message.WParam == static_cast<uintptr_t>(Message.LParam);
     if (SystemPaints() || IntoBuffer) {
-        TRect Area = GetClientRect();
+        // The whole of it, whatever a descendant leaves to its content.
+        TRect Area = TWinControl::GetClientRect();
         FillRect(reinterpret_cast<HDC>(Message.WParam), &Area, GetBrush()->GetHandle());
     }
     Message.Result = 1;

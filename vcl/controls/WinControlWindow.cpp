@@ -121,6 +121,29 @@ void TWinControl::DestroyHandle()
     DestroyWnd();
 }
 
+void TWinControl::SetParent(TWinControl* Value)
+{
+    const TWinControl* Before = GetParent();
+    const bool MovesOver =
+        FHandle && Before && Value && Before->FShowing && Value->FShowing && !FormLink() && !IsDestroying();
+    const bool Outer = std::exchange(FMovesOver, MovesOver);
+    try {
+        inherited::SetParent(Value);
+    } catch (...) {
+        FMovesOver = Outer;
+        if (!GetParent())
+            DestroyHandle();
+        throw;
+    }
+    FMovesOver = Outer;
+}
+
+void TWinControl::TakeWindow(TWinControl& Child)
+{
+    ::SetParent(Child.FHandle, FHandle);
+    RestoreWindowOrder(&Child);
+}
+
 void TWinControl::SetParentWindow(HWND Value)
 {
     if (GetParent() || FParentWindow == Value)
