@@ -2,6 +2,7 @@
 
 #include "vcl/classes/FixupList.h"
 #include "vcl/classes/StringList.h"
+#include "vcl/forms/CursorResource.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/DataModule.h"
 #include "vcl/forms/Form.h"
@@ -35,6 +36,12 @@ void AssignLogFont(TFont& Font, const LOGFONTW& Source)
     Font.Name = FromWide(Source.lfFaceName);
     Font.Height = Source.lfHeight;
     Font.Charset = TFontCharset(Source.lfCharSet);
+}
+
+// The caller's to destroy; nullptr when there is none of this name.
+HCURSOR LoadOwnCursor(const wchar_t* Name)
+{
+    return static_cast<HCURSOR>(LoadImageW(GetModuleHandleW(nullptr), Name, IMAGE_CURSOR, 0, 0, LR_DEFAULTSIZE));
 }
 
 // Form files refer to the components of other forms and data modules by these names.
@@ -131,6 +138,10 @@ HCURSOR TScreen::GetCursors(int Index) const
 {
     if (const auto Found = FCursors.find(Index); Found != FCursors.end())
         return Found->second;
+    for (const TCursorResource* Each = TCursorResource::First; Each; Each = Each->FNext)
+        if (Each->FIndex == Index)
+            if (HCURSOR Cursor = LoadOwnCursor(Each->FName))
+                return FCursors[Index] = Cursor;
     static TFormHost Defaults;
     return Defaults.CursorHandle(static_cast<TCursor>(Index));
 }

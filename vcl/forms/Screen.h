@@ -52,7 +52,7 @@ public:
     PROPERTY(TCursor, Cursor);
     // A slot's cursor; the arrow for a slot that nobody set, nullptr for crNone. A cursor that is set is the screen's
     // from then on, and is destroyed with it or when another takes its place; nullptr brings the slot's own back. Slots
-    // above 0 are the application's; setting one of the system's replaces that.
+    // above 0 are the application's, see TCursorResource; setting one of the system's replaces that.
     HCURSOR GetCursors(int Index) const;
     void SetCursors(int Index, HCURSOR Value);
     PROPERTY_INDEXED(HCURSOR, Cursors);
@@ -115,7 +115,7 @@ private:
 
     std::vector<TCustomForm*> FCustomForms;
     std::vector<TDataModule*> FDataModules;
-    std::map<int, HCURSOR> FCursors;
+    mutable std::map<int, HCURSOR> FCursors; // those of resources come in when they are asked for
     std::unique_ptr<TStrings> FFonts;
     TFont FHintFont;
     TFont FMenuFont;
