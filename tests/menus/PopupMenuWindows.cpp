@@ -1,4 +1,5 @@
 // Popup menus on the screen, with real input.
+#include "tests/support/WhileMenuOpen.h"
 #include "vcl/menus/PopupList.h"
 #include "vcl/menus/UtilityWindow.h"
 
@@ -16,38 +17,6 @@ void SendKeys(std::initializer_list<WORD> Keys)
     for (WORD Key : Keys)
         SendKey(Key);
 }
-
-// Once the menu is on the screen, does what it was made for, and closes the menu after three seconds whatever happens.
-class TWhileOpen {
-public:
-    explicit TWhileOpen(std::function<void()> Action)
-        : FAction(std::move(Action)),
-          FWindow(AllocateHWnd([this](TMessage& Message) { Tick(Message); }))
-    {
-        SetTimer(FWindow, 1, 30, nullptr);
-        SetTimer(FWindow, 2, 3000, nullptr);
-    }
-    ~TWhileOpen() { DeallocateHWnd(FWindow); }
-
-    bool TimedOut = false;
-
-private:
-    void Tick(TMessage& Message)
-    {
-        if (Message.Msg == WM_TIMER && Message.WParam == 2) {
-            TimedOut = true;
-            EndMenu();
-        } else if (Message.Msg == WM_TIMER && FindWindowW(L"#32768", nullptr)) {
-            KillTimer(FWindow, 1);
-            FAction();
-        } else if (Message.Msg != WM_TIMER) {
-            DefaultWindowProc(FWindow, Message);
-        }
-    }
-
-    std::function<void()> FAction;
-    HWND FWindow;
-};
 
 class PopupMenus : public testing::Test {
 protected:
@@ -73,7 +42,7 @@ protected:
     // Opens the menu, does Action while it is open, and handles what it posts.
     void PopupWith(const std::function<void()>& Action)
     {
-        TWhileOpen WhileOpen(Action);
+        TWhileMenuOpen WhileOpen(Action);
         FMenu->Popup(150, 150);
         EXPECT_FALSE(WhileOpen.TimedOut) << "the menu did not close by itself";
         EXPECT_EQ(FindWindowW(L"#32768", nullptr), nullptr);
