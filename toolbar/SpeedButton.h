@@ -73,6 +73,9 @@ protected:
     void MouseMove(TShiftState Shift, int X, int Y) override;
     void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override;
 
+    // Draws glyph and caption in the middle of R, over the frame and what it encloses.
+    virtual void DrawContent(const TRect& R);
+
     // Finds out whether the pointer is over the button, for when that may have changed without a message.
     void UpdateTracking();
     // Tells the other buttons of the group.
@@ -103,7 +106,6 @@ private:
     void UpdateState();
     void DrawFrame();
     void DrawFlatFrame();
-    void DrawContent(const TRect& R);
     void DrawGlyph(const TPoint& At);
     void DrawDesignOutline();
     TSize GlyphSize() const;

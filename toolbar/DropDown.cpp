@@ -1,0 +1,38 @@
+#include "toolbar/DropDown.h"
+
+#include "toolbar/SpeedButton.h"
+#include "vcl/controls/WinControl.h"
+#include "vcl/menus/PopupMenu.h"
+
+namespace {
+
+// The press that closed the menu is still to come: it would open the menu again.
+void DropPressOn(TControl* Control)
+{
+    TWinControl* Parent = Control->Parent;
+    if (!Parent || !Parent->HandleAllocated())
+        return;
+    const TRect Area = Control->BoundsRect;
+    MSG Press;
+    for (UINT Kind : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK})
+        if (PeekMessageW(&Press, Parent->Handle, Kind, Kind, PM_NOREMOVE) &&
+            Area.Contains(TPoint(GET_X_LPARAM(Press.lParam), GET_Y_LPARAM(Press.lParam))))
+            PeekMessageW(&Press, Parent->Handle, Kind, Kind, PM_REMOVE);
+}
+
+} // namespace
+
+void DropDown(TPopupMenu* Menu, TControl* Control, TkelSpeedButton* Latch)
+{
+    const TPoint Place = Control->ClientToScreen(TPoint(0, Control->Height));
+    Menu->PopupComponent = Control;
+    Latch->Down = true;
+    try {
+        Menu->Popup(Place.x, Place.y);
+    } catch (...) {
+        Latch->Down = false;
+        throw;
+    }
+    DropPressOn(Latch);
+    Latch->Down = false;
+}

@@ -1,0 +1,10 @@
+// What a button with a menu does when it is clicked.
+#pragma once
+
+class TControl;
+class TkelSpeedButton;
+class TPopupMenu;
+
+// Opens Menu at the lower left corner of Control and returns when it is closed. Until then Latch stays down; it needs a
+// GroupIndex and AllowAllUp for that. A press on Latch closes the menu and does nothing else.
+void DropDown(TPopupMenu* Menu, TControl* Control, TkelSpeedButton* Latch);
