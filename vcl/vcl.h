@@ -43,6 +43,8 @@
 #include "vcl/menus/MainMenu.h"
 #include "vcl/menus/PopupMenu.h"
 #include "vcl/menus/ShortCut.h"
+#include "vcl/registry/RegIniFile.h"
+#include "vcl/registry/Registry.h"
 #include "vcl/stdctrls/Button.h"
 #include "vcl/stdctrls/CheckBox.h"
 #include "vcl/stdctrls/ComboBox.h"
