@@ -1,10 +1,13 @@
-// The unit Tsy_common: panels, labels and small graphic controls.
+// The unit Tsy_common: panels, labels, small graphic controls, and settings that outlive the program.
 #pragma once
 
 #include "common/AlignSpeedButton.h"
 #include "common/CustomPanel.h"
+#include "common/FormPosition.h"
 #include "common/Image.h"
 #include "common/Label.h"
 #include "common/Panel.h"
+#include "common/SavePos.h"
 #include "common/ScrollBar.h"
+#include "common/Settings.h"
 #include "common/Shape.h"

@@ -1,0 +1,36 @@
+#include "common/SavePos.h"
+
+#include "vcl/system/ClassBuilder.h"
+
+void TkelSavePos::Describe(TClassBuilder<TkelSavePos>&)
+{}
+
+TkelSavePos::TkelSavePos(TComponent* AOwner) : TComponent(AOwner)
+{
+    if (IsDesigning())
+        return;
+    if (auto* Form = As<TForm>(Owner))
+        RestoreFormPosition(Form);
+    FWindow = AllocateHWnd({this, &TkelSavePos::WndProc});
+}
+
+TkelSavePos::~TkelSavePos()
+{
+    DeallocateHWnd(FWindow);
+    if (IsDesigning())
+        return;
+    try {
+        SaveFormPosition(FPosition);
+    } catch (...) {
+        ReportException(nullptr); // nothing may leave a destructor
+    }
+}
+
+// A form whose destructors run is no TForm any more, and is left alone.
+void TkelSavePos::WndProc(TMessage&)
+{
+    if (IsDesigning())
+        return;
+    if (auto* Form = As<TForm>(Owner))
+        FPosition = TFormPosition(*Form);
+}
