@@ -12,10 +12,6 @@ constexpr wchar_t ClassName[] = L"TessaryUtilityWindow";
 
 LRESULT CALLBACK UtilityProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam)
 {
-    if (Msg == WM_NCCREATE) {
-        auto* Create = reinterpret_cast<CREATESTRUCTW*>(LParam);
-        SetWindowLongPtrW(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Create->lpCreateParams));
-    }
     auto* Held = reinterpret_cast<TWndMethod*>(GetWindowLongPtrW(Window, GWLP_USERDATA));
     if (!Held)
         return DefWindowProcW(Window, Msg, WParam, LParam);
@@ -23,10 +19,7 @@ LRESULT CALLBACK UtilityProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam
 
     TMessage Message{.Msg = Msg, .WParam = WParam, .LParam = LParam};
     try {
-        if (Msg == WM_NCCREATE || Msg == WM_CREATE || Msg == WM_NCCALCSIZE)
-            DefaultWindowProc(Window, Message); // the caller does not have the handle yet
-        else
-            Method(Message);
+        Method(Message);
     } catch (...) {
         ReportException(Method.Data());
     }
@@ -67,10 +60,11 @@ HWND AllocateHWnd(const TWndMethod& Method)
     RegisterUtilityClass();
     auto Holder = std::make_unique<TWndMethod>(Method);
     HWND Window = CreateWindowExW(WS_EX_TOOLWINDOW, ClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
-                                  GetModuleHandleW(nullptr), Holder.get());
+                                  GetModuleHandleW(nullptr), nullptr);
     if (!Window)
         RaiseOutOfResources();
-    Holder.release();
+    // Not earlier: until now the caller does not have the handle yet.
+    SetWindowLongPtrW(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Holder.release()));
     CountLiveHandle(+1);
     return Window;
 }

@@ -4,8 +4,8 @@
 #include "vcl/classes/InputTypes.h"
 #include "vcl/system/WindowsApi.h"
 
-// Makes a hidden top-level window whose messages go to Method. Every message arrives, WM_NCDESTROY included;
-// DefaultWindowProc gives one to the system. Raises EOutOfResources when the system has no window left.
+// Makes a hidden top-level window whose messages go to Method, once it is made; DefaultWindowProc gives one to the
+// system. Raises EOutOfResources when the system has no window left.
 HWND AllocateHWnd(const TWndMethod& Method);
 // Destroys it; from here on Method is not called. nullptr is ignored.
 void DeallocateHWnd(HWND Window);
