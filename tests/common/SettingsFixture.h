@@ -1,0 +1,31 @@
+// Tests of what is kept in the settings store. The title that the store's first call finds is the same for all of them:
+// the store stays with it for the rest of the program.
+#pragma once
+
+#include "tests/support/RegistryProbe.h"
+#include "vcl/forms/Application.h"
+
+#include <gmock/gmock.h>
+
+inline constexpr char SettingsTitle[] = "Tessary tests: Настройки";
+
+class TSettingsTest : public testing::Test {
+protected:
+    TSettingsTest() { Application->Title = SettingsTitle; }
+
+    std::optional<std::string> Saved(std::string_view Section, std::string_view Ident) const
+    {
+        return Store.Text(Section, Ident);
+    }
+
+    TRegistryProbe Store{std::string("Software\\Halvent\\") + SettingsTitle};
+};
+
+// A value in the store.
+MATCHER_P(Is, Text, "")
+{
+    return arg == std::string(Text);
+}
+
+// Runs a test, a disabled one, in a process of its own; what it expects decides on the result.
+bool PassesInAnotherProcess(const std::string& Test);
