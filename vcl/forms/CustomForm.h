@@ -243,6 +243,7 @@ private:
     TFormState FFormState;
     TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
     TPoint FReadClientSize{-1, -1}; // as the form file says; -1: it does not
+    TPoint FSizeBefore;             // the outer size that goes by it; another one was set on purpose
     int FReadTextHeight = 0;        // 0: not read
     int FBorderWidth = 0;
     TColor FTransparentColorValue = clBlack;

@@ -19,26 +19,35 @@ void TCustomForm::Loaded()
 
 void TCustomForm::SetReadClientWidth(int Value)
 {
-    if (ControlState.Contains(csReadingState))
-        FReadClientSize.X = Value;
-    else
+    if (!ControlState.Contains(csReadingState)) {
         ClientWidth = Value;
+        return;
+    }
+    FReadClientSize.X = Value;
+    FSizeBefore.X = Width;
 }
 
 void TCustomForm::SetReadClientHeight(int Value)
 {
-    if (ControlState.Contains(csReadingState))
-        FReadClientSize.Y = Value;
-    else
+    if (!ControlState.Contains(csReadingState)) {
         ClientHeight = Value;
+        return;
+    }
+    FReadClientSize.Y = Value;
+    FSizeBefore.Y = Height;
 }
 
+// A component of the form may have given it another size meanwhile, the one from the program's last run for example.
 void TCustomForm::ApplyReadClientSize()
 {
-    if (FReadClientSize.X >= 0)
+    if (FReadClientSize.X >= 0 && Width == FSizeBefore.X) {
         ClientWidth = FReadClientSize.X;
-    if (FReadClientSize.Y >= 0)
+        FSizeBefore.X = Width;
+    }
+    if (FReadClientSize.Y >= 0 && Height == FSizeBefore.Y) {
         ClientHeight = FReadClientSize.Y;
+        FSizeBefore.Y = Height;
+    }
 }
 
 bool TCustomForm::IsAutoScrollStored() const
