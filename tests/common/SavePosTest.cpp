@@ -246,6 +246,25 @@ TEST_F(SavePosTest, FormFilesMayHoldIt)
                                                          "  end\n"));
 }
 
+TEST_F(SavePosTest, TheClientSizeInAFormFileGivesWay)
+{
+    auto Form = NewForm("");
+    const char Text[] = "object Form1: TForm\n"
+                        "  AutoScroll = False\n"
+                        "  ClientHeight = 190\n"
+                        "  ClientWidth = 290\n"
+                        "  object SavePos1: TkelSavePos\n"
+                        "  end\n"
+                        "end\n";
+    ReadFormText(Form.get(), Text);
+    EXPECT_EQ(Form->ClientRect, TRect(0, 0, 290, 190)); // nothing was saved yet
+    Form = NewForm("");
+    WriteInteger(Section, "Width", 555);
+    ReadFormText(Form.get(), Text);
+    EXPECT_EQ(Form->Width, 555);
+    EXPECT_EQ(Form->ClientHeight, 190);
+}
+
 // ---- from one run of a program to the next
 
 TEST_F(SavePosTest, TheNextRunOfTheProgramFindsTheFormWhereTheUserLeftIt)
