@@ -3,6 +3,7 @@
 #include "tests/support/PaintToBitmap.h"
 #include "tests/toolbar/ButtonParts.h"
 #include "toolbar/ComboButton.h"
+#include "vcl/controls/Mouse.h"
 
 #include <gmock/gmock.h>
 
@@ -91,6 +92,20 @@ TEST_F(ComboButtonInputTest, EachHalfRaisesItsOwnEvent)
     EXPECT_FALSE(Arrow->Down);
     ExpectShown();
     EXPECT_THAT(Events, ElementsAre("button", "list"));
+}
+
+// As a menu does it that covers the combo button for a while.
+TEST_F(ComboButtonInputTest, AClickThatLostThePointerFindsItAgainForBothHalves)
+{
+    Combo->OnListDown = [&](TObject*) {
+        TMouse::SetHotControl(nullptr);
+        EXPECT_TRUE(BothCold());
+    };
+    Show();
+    MovePointerTo(Arrow, 5, 10);
+    Arrow->Perform(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 10));
+    Arrow->Perform(WM_LBUTTONUP, 0, MAKELPARAM(5, 10));
+    EXPECT_TRUE(BothHot());
 }
 
 TEST_F(ComboButtonInputTest, APressDraggedToTheOtherHalfClicksNeither)
