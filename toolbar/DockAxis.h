@@ -1,0 +1,37 @@
+// TDockAxis: the two directions of a dock. Bars lie along it, its rows are stacked across it.
+#pragma once
+
+#include "vcl/controls/Control.h"
+
+class TDockAxis {
+public:
+    // The orientation of what is aligned to an edge of its parent; other alignments count as horizontal.
+    explicit TDockAxis(TAlign Align) : FVertical(Align == alLeft || Align == alRight) {}
+
+    bool IsVertical() const { return FVertical; }
+
+    // All in pixels of the parent's client area.
+    int Start(const TControl& Bar) const { return FVertical ? Bar.Top : Bar.Left; }
+    int Length(const TControl& Bar) const { return FVertical ? Bar.Height : Bar.Width; }
+    int End(const TControl& Bar) const { return Start(Bar) + Length(Bar); }
+    int Row(const TControl& Bar) const { return FVertical ? Bar.Left : Bar.Top; }
+    int Thickness(const TControl& Bar) const { return FVertical ? Bar.Width : Bar.Height; }
+    // The place across of what would lie directly behind Bar's row.
+    int NextRow(const TControl& Bar) const { return Row(Bar) + Thickness(Bar); }
+    int Across(const TPoint& Point) const { return FVertical ? Point.X : Point.Y; }
+
+    void SetStart(TControl& Bar, int Value) const { FVertical ? Bar.SetTop(Value) : Bar.SetLeft(Value); }
+    void SetRow(TControl& Bar, int Value) const { FVertical ? Bar.SetLeft(Value) : Bar.SetTop(Value); }
+    void Grow(TControl& Dock, int By) const
+    {
+        FVertical ? Dock.SetWidth(Dock.Width + By) : Dock.SetHeight(Dock.Height + By);
+    }
+    // Lies in the row that begins at Place and is as thick as Bar.
+    bool IsInRow(const TControl& Other, int Place, int Thick) const
+    {
+        return Row(Other) == Place && Thickness(Other) == Thick;
+    }
+
+private:
+    bool FVertical;
+};

@@ -1,0 +1,105 @@
+#include "toolbar/Flpfrm97.h"
+
+#include "toolbar/ToolBar.h"
+#include "toolbar/ToolBarPosition.h"
+#include "vcl/system/ClassBuilder.h"
+
+void TFPForm97::Describe(TClassBuilder<TFPForm97>& Class)
+{
+    Class.Method<&Self::FormClose>("FormClose");
+    Class.Method<&Self::FormCreate>("FormCreate");
+    Class.Method<&Self::FormDeactivate>("FormDeactivate");
+    Class.Method<&Self::FormMouseDown>("FormMouseDown");
+    Class.Method<&Self::FormMouseMove>("FormMouseMove");
+    Class.Method<&Self::FormMouseUp>("FormMouseUp");
+    Class.Method<&Self::FormResize>("FormResize");
+
+    Class.Message<&Self::WMNCHitTest>(WM_NCHITTEST);
+    Class.Message<&Self::WMGetMinMaxInfo>(WM_GETMINMAXINFO);
+}
+
+TFPForm97::TFPForm97(TComponent* AOwner) : TForm(AOwner)
+{
+    LoadForm(this);
+}
+
+void TFPForm97::BeforeDestruction()
+{
+    if (FToolBar)
+        FToolBar->LeaveFrame();
+    inherited::BeforeDestruction();
+}
+
+void TFPForm97::CarryBar(TkelToolBar& Bar, bool Resizable, bool CloseBox)
+{
+    BorderStyle = Resizable ? bsSizeToolWin : bsToolWindow;
+    AutoScroll = false;
+    BorderIcons = CloseBox ? TBorderIcons{biSystemMenu} : TBorderIcons{};
+    ClientWidth = Bar.Width;
+    ClientHeight = Bar.Height;
+    Caption = Bar.Caption;
+    FToolBar = &Bar;
+}
+
+TPoint TFPForm97::BarOffset() const
+{
+    return ClientOrigin - TPoint(Left, Top + CapSize);
+}
+
+void TFPForm97::FormCreate(TObject*)
+{
+    FToolBar = nullptr;
+}
+
+// Closing hides the bar, and with it the frame.
+void TFPForm97::FormClose(TObject*, TCloseAction&)
+{
+    if (FToolBar)
+        FToolBar->HidePanel();
+}
+
+void TFPForm97::FormDeactivate(TObject*)
+{
+    if (FToolBar)
+        SaveToolBarPosition(FToolBar);
+}
+
+void TFPForm97::FormResize(TObject*)
+{
+    if (FToolBar)
+        FToolBar->SetBounds(FToolBar->Left, FToolBar->Top, ClientWidth, ClientHeight);
+}
+
+// ---- the mouse; the bar lies at the client area's origin, so coordinates mean the same to it
+
+void TFPForm97::WMNCHitTest(TMessage& Message)
+{
+    Inherited(Message);
+    if (Message.Result == HTCAPTION)
+        Message.Result = HTCLIENT;
+}
+
+void TFPForm97::FormMouseDown(TObject*, TMouseButton Button, TShiftState Shift, int X, int Y)
+{
+    if (FToolBar)
+        FToolBar->PublicMouseDown(Button, Shift, X, Y);
+}
+
+void TFPForm97::FormMouseMove(TObject*, TShiftState Shift, int X, int Y)
+{
+    if (FToolBar)
+        FToolBar->PublicMouseMove(Shift, X, Y);
+}
+
+void TFPForm97::FormMouseUp(TObject*, TMouseButton Button, TShiftState Shift, int X, int Y)
+{
+    if (FToolBar)
+        FToolBar->PublicMouseUp(Button, Shift, X, Y);
+}
+
+// Bars may be narrower than the system lets windows with a caption be.
+void TFPForm97::WMGetMinMaxInfo(TMessage& Message)
+{
+    Inherited(Message);
+    reinterpret_cast<MINMAXINFO*>(Message.LParam)->ptMinTrackSize = {};
+}

@@ -1,0 +1,43 @@
+// TFPForm97: the frame of a floating tool bar, a small window that stays on top.
+//
+// Its caption takes the mouse as its inside does, and the bar is dragged by it.
+#pragma once
+
+#include "vcl/forms/Form.h"
+
+class TkelToolBar;
+
+class TFPForm97 : public TForm {
+    VCL_CLASS(TFPForm97, TForm)
+public:
+    // Empty; a bar makes its own frame when it begins to float.
+    explicit TFPForm97(TComponent* AOwner);
+    void BeforeDestruction() override;
+
+    // The bar that this is the frame of, nullptr when there is none.
+    TkelToolBar* GetToolBar() const { return FToolBar; }
+    PROPERTY_READ(TkelToolBar*, ToolBar);
+
+    // Becomes the frame of Bar, with its caption and as large as it takes. The bar comes here by itself.
+    void CarryBar(TkelToolBar& Bar, bool Resizable, bool CloseBox);
+    // The mouse, closing and resizing no longer concern the bar.
+    void ForgetBar() { FToolBar = nullptr; }
+    // Where the bar begins, seen from where it would with a caption of CapSize and no border; in pixels.
+    TPoint BarOffset() const;
+
+private:
+    friend class TClassBuilder<TFPForm97>;
+
+    void FormClose(TObject* Sender, TCloseAction& Action);
+    void FormCreate(TObject* Sender);
+    void FormDeactivate(TObject* Sender);
+    void FormMouseDown(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
+    void FormMouseMove(TObject* Sender, TShiftState Shift, int X, int Y);
+    void FormMouseUp(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
+    void FormResize(TObject* Sender);
+
+    void WMNCHitTest(TMessage& Message);
+    void WMGetMinMaxInfo(TMessage& Message);
+
+    TkelToolBar* FToolBar = nullptr;
+};

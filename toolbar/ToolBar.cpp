@@ -1,0 +1,189 @@
+#include "toolbar/ToolBar.h"
+
+#include "toolbar/FlagScope.h"
+#include "toolbar/Flpfrm97.h"
+#include "toolbar/TBDragBox.h"
+#include "toolbar/ToolBarPosition.h"
+#include "vcl/registry/Registry.h"
+#include "vcl/system/ClassBuilder.h"
+
+namespace {
+
+constexpr int DefaultHeight = 26;
+
+} // namespace
+
+void TkelToolBar::Describe(TClassBuilder<TkelToolBar>& Class)
+{
+    Class.PublishAll("Caption", "PopupMenu", "Visible", "Font", "DragMode", "DragCursor", "OnDragDrop", "OnDragOver",
+                     "OnStartDrag", "OnEndDrag");
+    Class.Property<&Self::GetAutoSave, &Self::SetAutoSave>("AutoSave");
+    Class.Property<&Self::GetCloseButton, &Self::SetCloseButton>("CloseButton");
+    Class.Property<&Self::AllowResize, &Self::AllowResize>("AllowResize");
+    Class.Event<&Self::OnShow>("OnShow");
+    Class.Event<&Self::OnHide>("OnHide");
+    Class.Event<&Self::OnFloat>("OnFloat");
+    Class.Event<&Self::OnStatic>("OnStatic");
+
+    Class.Message<&Self::WMSize>(WM_SIZE);
+    Class.Message<&Self::WMWindowPosChanged>(WM_WINDOWPOSCHANGED);
+    Class.Message<&Self::CMControlListChange>(CM_CONTROLLISTCHANGE);
+}
+
+TkelToolBar::TkelToolBar(TComponent* AOwner) : TkelCustomPanel(AOwner)
+{
+    LayoutSuspended = true;
+    ControlStyle = ControlStyle + TControlStyle{csOpaque};
+    SetBounds(0, 0, Width, DefaultHeight);
+    Caption = ClassName() + std::to_string(AOwner ? AOwner->ComponentCount : 0);
+    BevelInner = bvRaised;
+    BevelOuter = bvNone;
+    FDragBox = new TkelTBDragBox(this);
+    FDragBox->Align = alLeft;
+    FDragBox->Parent = this;
+}
+
+void TkelToolBar::BeforeDestruction()
+{
+    CloseFrame(LeaveFrame());
+    inherited::BeforeDestruction();
+}
+
+// What the reader puts somewhere is complete when it has been loaded, what code makes as soon as it lies somewhere.
+// Elsewhere than in its frame a bar does not float.
+void TkelToolBar::SetParent(TWinControl* Value)
+{
+    TFPForm97* Emptied = Value != FFrame ? LeaveFrame() : nullptr;
+    inherited::SetParent(Value);
+    CloseFrame(Emptied);
+    if (Value && std::exchange(FIsNew, false) && !IsLoading())
+        LayoutSuspended = false;
+}
+
+void TkelToolBar::Loaded()
+{
+    TFlagScope Suspended(LayoutSuspended);
+    inherited::Loaded();
+    SortControls();
+    if (FAutoSave && !IsDesigning())
+        RestoreToolBarPosition(this);
+    FRowThickness = LiesHorizontally() ? Height : Width;
+}
+
+TkelDock* TkelToolBar::GetDock() const
+{
+    return As<TkelDock>(Parent);
+}
+
+// A bar that does not lie in a vertical dock is horizontal.
+bool TkelToolBar::LiesHorizontally() const
+{
+    const TkelDock* InDock = Dock;
+    return !InDock || !InDock->Axis().IsVertical();
+}
+
+int TkelToolBar::AccessibleRole() const
+{
+    return ROLE_SYSTEM_TOOLBAR;
+}
+
+// ---- painting
+
+void TkelToolBar::Paint()
+{
+    if (FAutoSave && !IsDesigning())
+        SaveQuietly();
+    inherited::Paint();
+}
+
+// Where nothing can be written, a message at every painting would help nobody.
+void TkelToolBar::SaveQuietly()
+{
+    try {
+        SaveToolBarPosition(this);
+    } catch (const ERegistryException&) {
+    }
+}
+
+// ---- layout of the items
+
+TRect TkelToolBar::GetClientRect() const
+{
+    TRect R = inherited::GetClientRect();
+    InflateRect(R, -1, -1);
+    return R;
+}
+
+void TkelToolBar::Aligning()
+{
+    if (Parent) {
+        int NewLeft = std::max(Left, 0);
+        int NewTop = std::max(Top, 0);
+        if (NewLeft + Width > Parent->Width)
+            NewLeft = Parent->Width - Width;
+        if (NewTop + Height > Parent->Height)
+            NewTop = Parent->Height - Height;
+        SetBounds(NewLeft, NewTop, Width, Height);
+    }
+    FDragBox->SetBounds(0, 0, FDragBox->Width, FDragBox->Height);
+}
+
+// Before the form shows its docks may still be smaller than they will be, and bars keep the places they were given.
+void TkelToolBar::AlignControls(TControl* Control, TRect& Rect)
+{
+    if (HandleAllocated() && IsWindowVisible(Handle))
+        Aligning();
+    inherited::AlignControls(Control, Rect);
+}
+
+void TkelToolBar::WMSize(TWMSize& Message)
+{
+    Inherited(Message);
+    PlaceDragBox();
+}
+
+// A bar that has moved is painted anew, which also saves its place.
+void TkelToolBar::WMWindowPosChanged(TMessage& Message)
+{
+    Inherited(Message);
+    if (FAutoSave && Message.LParam && !(reinterpret_cast<WINDOWPOS*>(Message.LParam)->flags & SWP_NOMOVE))
+        Invalidate();
+}
+
+void TkelToolBar::CMControlListChange(TMessage& Message)
+{
+    auto* Control = reinterpret_cast<TControl*>(Message.WParam);
+    if (Message.LParam)
+        FItems.push_back(Control);
+    else
+        std::erase(FItems, Control);
+    Inherited(Message);
+}
+
+// ---- showing and hiding
+
+void TkelToolBar::HidePanel()
+{
+    if (!Visible)
+        return;
+    OnHide(this);
+    if (FFloating)
+        FFrame->Hide();
+    else
+        DeleteFromDock();
+    Hide();
+    if (!LayoutSuspended)
+        SaveToolBarPosition(this);
+}
+
+void TkelToolBar::ShowPanel()
+{
+    if (Visible)
+        return;
+    OnShow(this);
+    Show();
+    if (FFloating)
+        FFrame->Show();
+    else
+        InsertToDock();
+}

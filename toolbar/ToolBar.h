@@ -1,0 +1,172 @@
+// TkelToolBar: a bar of buttons that lies in a dock, or floats in a frame of its own.
+//
+// The user drags it by its grip, its separators or its background: along its row, to another place in the dock, to
+// another dock, or off all docks, where it floats. In a dock at the left or right edge it is vertical.
+#pragma once
+
+#include "toolbar/Dock.h"
+
+#include <vector>
+
+class TFPForm97;
+class TkelTBDragBox;
+
+VCL_ENUM(TToolBarStyle, psStatic, psFloat);
+
+// How far below the upper edge of a floating frame its client area is taken to begin, in pixels.
+inline int CapSize = 20;
+
+class TkelToolBar : public TkelCustomPanel {
+    VCL_CLASS(TkelToolBar, TkelCustomPanel)
+public:
+    // 26 pixels high, visible, with AutoSave. The caption is the class's name and the number of the owner's components.
+    explicit TkelToolBar(TComponent* AOwner);
+    void BeforeDestruction() override;
+    void SetParent(TWinControl* Value) override;
+
+    // The bar's place is kept in the settings, under its caption: written whenever the bar is painted, read when it
+    // has been loaded. Bars with the same caption share one record.
+    bool GetAutoSave() const { return FAutoSave; }
+    void SetAutoSave(bool Value) { FAutoSave = Value; }
+    PROPERTY(bool, AutoSave);
+    // The same flag as AutoSave, whatever its name says: setting one sets the other. A floating frame has its close
+    // box in any case.
+    bool GetCloseButton() const { return FAutoSave; }
+    void SetCloseButton(bool Value) { FAutoSave = Value; }
+    PROPERTY(bool, CloseButton);
+    // Whether the user can change the size of the floating frame, and the bar with it. Applies to the next frame.
+    bool AllowResize = false;
+
+    // The bar appears or is hidden by ShowPanel and HidePanel, begins to float, comes to lie in a dock.
+    TNotifyEvent OnShow;
+    TNotifyEvent OnHide;
+    TNotifyEvent OnFloat;
+    TNotifyEvent OnStatic;
+
+    // ---- showing and floating
+
+    // Shows a hidden bar: in a frame where it was, in a dock as a new row behind the others.
+    void ShowPanel();
+    // Hides the bar and its frame; in a dock it gives up its room. Its place is saved, with AutoSave or without.
+    void HidePanel();
+    bool GetFloating() const { return FFloating; }
+    PROPERTY_READ(bool, Floating);
+    // Makes the bar float, or moves its frame: Left becomes X, Top becomes Y - CapSize, in pixels of the screen.
+    void FloatToPos(int X, int Y);
+    // False, with X and Y the bar's Left and Top, in a dock. True when it floats: one pixel right and below of what
+    // FloatToPos would put the frame where it is.
+    bool isFloat(int& X, int& Y) const;
+    // The frame while the bar floats, else nullptr. It belongs to the bar.
+    TFPForm97* GetFrame() const { return FFrame; }
+    PROPERTY_READ(TFPForm97*, Frame);
+
+    // ---- layout in a dock
+
+    // Makes the bar, whose parent is a dock already, a row of its own behind the others, and turns it to the dock's
+    // direction. Does nothing in a parent that has no rows, as do the following.
+    void InsertToDock();
+    // Gives up the bar's row when no other bar is in it. Out of a vertical dock the bar turns horizontal. It remains
+    // the dock's child.
+    void DeleteFromDock();
+    // Where in this bar's row ToolBar could be added, in pixels along the dock: 0 or the end of the row; -1 when it is
+    // of another thickness or too long.
+    int isInsert(const TkelToolBar* ToolBar) const;
+    // Trades places with another bar of the same dock while this one is dragged over it. nullptr and the bar itself
+    // are ignored.
+    void SwapToolBar(TkelToolBar* ToolBar);
+    // Moves the bar into its parent, the far edges first to go outside when it is larger.
+    void Aligning();
+    // The thickness the bar had in its dock when it was loaded, in pixels.
+    int GetRowThickness() const { return FRowThickness; }
+    PROPERTY_READ(int, RowThickness);
+    // The dock the bar lies in (hidden or not), nullptr while it floats or lies elsewhere.
+    TkelDock* GetDock() const;
+    PROPERTY_READ(TkelDock*, Dock);
+
+    // ---- items
+
+    // The bar's controls in their order along the bar, the drag box among them. As many as there are controls.
+    const std::vector<TControl*>& Items() const { return FItems; }
+    // Finds the order anew, from where the controls lie. Controls at the same place keep the order they were added in.
+    void SortControls();
+    // Turns each item to the direction of the bar's dock: what was at the far end stays there, the others follow from
+    // the near end in their order. Items keep the length they take of the bar.
+    void CorrectAlign();
+    TkelTBDragBox* GetDragBox() const { return FDragBox; }
+    PROPERTY_READ(TkelTBDragBox*, DragBox);
+
+    // ---- dragging
+
+    // For items and frames, which pass the mouse on to their bar: in the bar's coordinates.
+    void PublicMouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) { MouseDown(Button, Shift, X, Y); }
+    void PublicMouseMove(TShiftState Shift, int X, int Y) { MouseMove(Shift, X, Y); }
+    void PublicMouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) { MouseUp(Button, Shift, X, Y); }
+    // The first of the owner's docks that is near enough to a point of the bar to take it, nullptr when there is none.
+    TkelDock* FindDock(const TPoint& Point) const;
+    // The bar of this dock that a pointer at a point of this bar has gone over the middle of, nullptr when there is
+    // none.
+    TkelToolBar* FindToolBar(const TPoint& Point) const;
+
+    // True while bars are made and loaded: nothing is reported, saved or captured then.
+    static bool IsLayoutSuspended() { return LayoutSuspended; }
+
+    TRect GetClientRect() const override;
+    int AccessibleRole() const override;
+
+protected:
+    virtual void DoFloat() { OnFloat(this); }
+    virtual void DoStatic() { OnStatic(this); }
+
+    void Loaded() override;
+    void Paint() override;
+    void AlignControls(TControl* Control, TRect& Rect) override;
+    void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
+    void MouseMove(TShiftState Shift, int X, int Y) override;
+
+private:
+    friend class TFPForm97;
+
+    void WMSize(TWMSize& Message);
+    void WMWindowPosChanged(TMessage& Message);
+    void CMControlListChange(TMessage& Message);
+
+    void SaveQuietly();
+    bool LiesHorizontally() const;
+    bool LeadsRow() const;
+    void SetDockedLook(bool Docked);
+    void TurnTo(bool Vertical);
+    void TurnItems(bool Vertical);
+    void PlaceDragBox();
+    void PassInRow(TkelToolBar& Other);
+    void JoinRow(TkelToolBar& Other, int Place, int LowerRow);
+    void TradeRows(TkelToolBar& Upper, TkelToolBar& Lower, TkelToolBar& Other);
+
+    // P is in the bar's coordinates, Pointer the same place on the screen.
+    void DragAlong(TkelDock& InDock, const TPoint& P);
+    void DragInto(TkelDock& Target, const TPoint& Pointer);
+    void DragFree(const TPoint& Pointer, const TPoint& P);
+    void TearOff(const TPoint& P);
+    void Slide(const TkelDock& InDock, const TPoint& P);
+    bool IsNear(const TkelDock& Candidate, const TPoint& Pointer) const;
+    TRect FloatingRect() const;
+    void CaptureDrag();
+    void PlaceFrame(TPoint Place, bool Exactly);
+    void MakeFrame();
+    void EnterFrame();
+    TFPForm97* LeaveFrame();
+    static void CloseFrame(TFPForm97* Emptied);
+
+    static inline bool LayoutSuspended = false;
+    static inline bool InDragStep = false;
+
+    int FRowThickness = 0;
+    TPoint FAnchor; // where in the bar the drag began
+    TPoint FReach;  // from the pointer to the dock it has put the bar into from outside
+    std::vector<TControl*> FItems;
+    bool FFloating = false;
+    bool FAutoSave = true;
+    bool FCloseBox = true; // of the floating frame; not to be changed
+    bool FIsNew = true;    // has not been put anywhere yet
+    TkelTBDragBox* FDragBox;
+    TFPForm97* FFrame = nullptr;
+};
