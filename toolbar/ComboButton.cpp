@@ -117,8 +117,9 @@ TkelSpeedButton* TkelComboButton::ArrowButton() const
 // The halves have one parent; the arrow's group must stay its own.
 void TkelComboButton::SetGroupIndex(int Value)
 {
-    while (Value != 0 && FArrow->GroupIndex == Value)
-        FArrow->GroupIndex = RandomGroup(LastRandomGroup);
+    while (FArrow->GroupIndex == Value)
+        if (const int Group = RandomGroup(LastRandomGroup); Group != FMain->GroupIndex)
+            FArrow->GroupIndex = Group;
     FMain->GroupIndex = Value;
 }
 

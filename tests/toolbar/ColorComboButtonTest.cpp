@@ -118,7 +118,7 @@ TEST_F(ColorComboButtonTest, AChangeRepaintsTheMainHalfAtOnceAndMakesNoSystemObj
     Combo->CurrentColor = clRed;
     EXPECT_EQ(ScreenPixels(Combo).At(5, 18), clRed);
     const int64_t Handles = LiveHandleCount(), Objects = LiveObjectCount();
-    const DWORD System = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const size_t Pens = TSharedPen::KeptCount(), Brushes = TSharedBrush::KeptCount();
     for (TColor Color : {clLime, clNone, clTeal}) {
         Combo->CurrentColor = Color;
         Combo->Repaint();
@@ -126,7 +126,8 @@ TEST_F(ColorComboButtonTest, AChangeRepaintsTheMainHalfAtOnceAndMakesNoSystemObj
     EXPECT_EQ(ScreenPixels(Combo).At(5, 18), clTeal);
     EXPECT_EQ(LiveHandleCount(), Handles);
     EXPECT_EQ(LiveObjectCount(), Objects);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), System);
+    EXPECT_EQ(TSharedPen::KeptCount(), Pens);
+    EXPECT_EQ(TSharedBrush::KeptCount(), Brushes);
 }
 
 TEST_F(ColorComboButtonTest, TheArrowRaisesOnListDown)

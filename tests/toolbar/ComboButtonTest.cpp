@@ -423,11 +423,12 @@ TEST_F(ComboButtonTest, RepaintingMakesNoSystemObjects)
     };
     PaintAll();
     const int64_t Handles = LiveHandleCount(), Objects = LiveObjectCount();
-    const DWORD System = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const size_t Pens = TSharedPen::KeptCount(), Brushes = TSharedBrush::KeptCount();
     PaintAll();
     EXPECT_EQ(LiveHandleCount(), Handles);
     EXPECT_EQ(LiveObjectCount(), Objects);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), System);
+    EXPECT_EQ(TSharedPen::KeptCount(), Pens);
+    EXPECT_EQ(TSharedBrush::KeptCount(), Brushes);
 }
 
 // ---- for assistive technology
