@@ -1,0 +1,17 @@
+// What separators and drag boxes have in common: the bar that they lie on can be dragged by them.
+#pragma once
+
+#include "vcl/controls/GraphicControl.h"
+
+// Not a class of its own to the framework: descendants say that they descend from TGraphicControl.
+class TTBHandle : public TGraphicControl {
+public:
+    // Size pixels wide and high, with the hand as its cursor.
+    TTBHandle(TComponent* AOwner, int Size);
+
+protected:
+    // On a tool bar the bar gets the event too, in its own coordinates.
+    void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
+    void MouseMove(TShiftState Shift, int X, int Y) override;
+    void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override;
+};
