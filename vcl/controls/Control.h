@@ -195,10 +195,14 @@ public:
     void SetMouseCapture(bool Value);
     PROPERTY(bool, MouseCapture);
 
-    // Starts dragging the control: at once, or after a small movement with the button held.
+    // Starts dragging the control: at once, or when the pointer has moved by Threshold pixels (negative: the system's
+    // measure) with the button held. Does nothing while something is being dragged.
     void BeginDrag(bool Immediate, int Threshold = -1);
+    // Ends it: with Drop on the control under the pointer, if that takes it.
     void EndDrag(bool Drop);
+    // True from BeginDrag to the end, before the events that tell of the end.
     bool Dragging() const;
+    // Source is the control dragged, or the drag object that OnStartDrag has supplied.
     virtual void DragDrop(TObject* Source, int X, int Y);
 
     // True when the point, in the control's coordinates, is one where the control takes the mouse.
@@ -224,6 +228,8 @@ protected:
     virtual void DragOver(TObject* Source, int X, int Y, TDragState State, bool& Accept);
     virtual void DoStartDrag(TDragObject*& DragObject);
     virtual void DoEndDrag(TObject* Target, int X, int Y);
+    // Dragging the control ended without a drop, or the button came up before it had started.
+    virtual void DragCanceled() {}
     virtual bool DoMouseWheel(TShiftState Shift, int WheelDelta, const TPoint& MousePos);
     virtual void DoContextPopup(const TPoint& MousePos, bool& Handled);
     // Adjusts a size before it is taken; false refuses it.

@@ -4,32 +4,90 @@
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/Mouse.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/menus/UtilityWindow.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <cstdlib>
-#include <memory>
+
+// ---- TDragObject
 
 void TDragObject::Describe(TClassBuilder<TDragObject>&)
 {}
 
-namespace {
-
-struct TDrag {
-    TControl* Source = nullptr;
-    TControl* Target = nullptr;
-    std::unique_ptr<TDragObject> Object;
-    TPoint StartedAt;
-    int Threshold = 0;
-    bool Active = false; // past the threshold
-    bool Accepted = false;
-};
-TDrag Drag;
-
-// What handlers get as the source: the drag object if there is one.
-TObject* Dragged()
+TDragObject::~TDragObject()
 {
-    return Drag.Object ? static_cast<TObject*>(Drag.Object.get()) : Drag.Source;
+    TDragManager::Forget(this);
 }
+
+TCursor TDragObject::GetDragCursor(bool Accepted, int, int)
+{
+    return Accepted ? crDrag : crNoDrop;
+}
+
+void TDragObject::Finished(TObject*, int, int, bool)
+{}
+
+// ---- TDrag
+
+// One drag, from the press until everybody has heard of its end. Source, target and object are looked up anew after
+// each event: they are cleared when they go away.
+class TDragManager::TDrag {
+public:
+    explicit TDrag(TControl* Source) : FSource(Source), FNext(std::exchange(First, this)) {}
+    ~TDrag();
+    TDrag(const TDrag&) = delete;
+    TDrag& operator=(const TDrag&) = delete;
+
+    TControl* Source() const { return FSource; }
+    bool IsWaiting() const { return FStage == TStage::Waiting; }
+    bool IsDragging() const { return FStage == TStage::Dragging; }
+    // The window that hears of the mouse before dragging starts.
+    TWinControl* PressedWindow() const;
+
+    void TakePress();
+    void Wait(int Threshold);
+    bool IsFarEnough() const;
+    void Start();
+    void MoveTo(const TPoint& Screen);
+    void Finish(bool Drop);
+    // Gives the mouse back.
+    void ReleaseMouse();
+
+    static void ForgetEverywhere(const TObject* Gone);
+
+private:
+    enum class TStage { Beginning, Waiting, Dragging };
+
+    bool GoesOn() const { return Current.get() == this; }
+    void HandleMouse(TMessage& Message);
+    void Move(const TPoint& Screen);
+    // What handlers get as the source: the drag object if there is one.
+    TObject* Dragged() const { return FObject ? static_cast<TObject*>(FObject) : FSource; }
+    bool Ask(TControl* Target, TDragState State, const TPoint& Screen);
+    void Leave(const TPoint& Screen);
+    void ShowCursor(const TPoint& Screen) const;
+    void TellEnd(const TPoint& Local);
+
+    TControl* FSource;
+    TControl* FTarget = nullptr;
+    TDragObject* FObject = nullptr;
+    TStage FStage = TStage::Beginning;
+    bool FAccepted = false;
+    TPoint FStartedAt;
+    TPoint FLastPos;
+    int FThreshold = 0;
+    // Has the mouse while dragging, whatever becomes of the source's window.
+    HWND FWindow = nullptr;
+    HCURSOR FCursorBefore = nullptr;
+    TDrag* FNext;
+
+    static TDrag* First;
+};
+
+TDragManager::TDrag* TDragManager::TDrag::First = nullptr;
+std::shared_ptr<TDragManager::TDrag> TDragManager::Current;
+
+namespace {
 
 TPoint CursorPos()
 {
@@ -38,120 +96,281 @@ TPoint CursorPos()
     return Pos;
 }
 
+// A release far outside, so that what was begun with the press is given up.
+void EndPress(TControl* Control)
+{
+    if (Control && Control->GetControlState().Contains(csLButtonDown))
+        Control->Perform(WM_LBUTTONUP, 0, -1);
+}
+
 } // namespace
 
-TControl* TDragManager::Source()
+TDragManager::TDrag::~TDrag()
 {
-    return Drag.Source;
+    ReleaseMouse();
+    delete FObject;
+    TDrag** Link = &First;
+    while (*Link != this)
+        Link = &(*Link)->FNext;
+    *Link = FNext;
 }
 
-void TDragManager::Begin(TControl* Control, bool Immediate, int Threshold)
+void TDragManager::TDrag::ForgetEverywhere(const TObject* Gone)
 {
-    if (Drag.Source || !Control->ParentFormControl())
+    for (TDrag* Drag = First; Drag; Drag = Drag->FNext) {
+        if (Drag->FSource == Gone)
+            Drag->FSource = nullptr;
+        if (Drag->FTarget == Gone)
+            Drag->FTarget = nullptr;
+        if (Drag->FObject == Gone)
+            Drag->FObject = nullptr;
+    }
+}
+
+TWinControl* TDragManager::TDrag::PressedWindow() const
+{
+    auto* Window = As<TWinControl>(FSource);
+    return Window ? Window : FSource->GetParent();
+}
+
+// Another control's press may have led to this drag; it does not hear of the release.
+void TDragManager::TDrag::TakePress()
+{
+    TControl* Pressed = TMouse::CaptureControl();
+    if (Pressed != FSource)
+        EndPress(Pressed);
+}
+
+void TDragManager::TDrag::Wait(int Threshold)
+{
+    FStartedAt = CursorPos();
+    FThreshold = Threshold >= 0 ? Threshold : GetSystemMetrics(SM_CXDRAG);
+    TMouse::SetCaptureControl(FSource);
+    FStage = TStage::Waiting;
+}
+
+bool TDragManager::TDrag::IsFarEnough() const
+{
+    const TPoint Now = CursorPos();
+    return std::max(std::abs(Now.X - FStartedAt.X), std::abs(Now.Y - FStartedAt.Y)) >= FThreshold;
+}
+
+void TDragManager::TDrag::Start()
+{
+    FStage = TStage::Dragging;
+    FCursorBefore = GetCursor();
+    EndPress(FSource);
+    if (!GoesOn())
         return;
-    Drag.Source = Control;
-    Drag.StartedAt = CursorPos();
-    Drag.Threshold = Threshold >= 0 ? Threshold : GetSystemMetrics(SM_CXDRAG);
-    TMouse::SetCaptureControl(Control);
-    if (Immediate)
-        Start();
+    FWindow = AllocateHWnd([this](TMessage& Message) { HandleMouse(Message); });
+    SetCapture(FWindow);
+    FSource->DoStartDrag(FObject);
+    if (GoesOn())
+        Move(CursorPos());
 }
 
-void TDragManager::Start()
+void TDragManager::TDrag::HandleMouse(TMessage& Message)
 {
-    Drag.Active = true;
-    TDragObject* Object = nullptr;
-    Drag.Source->DoStartDrag(Object);
-    Drag.Object.reset(Object);
-    MoveTo(CursorPos());
+    if (!GoesOn())
+        return;
+    switch (Message.Msg) {
+    case WM_MOUSEMOVE:
+        // The system sends some without a movement.
+        if (const TPoint Now = CursorPos(); Now != FLastPos)
+            Move(Now);
+        break;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP: End(true); break;
+    case WM_RBUTTONDOWN:
+    case WM_CANCELMODE:
+    case WM_CAPTURECHANGED: End(false); break;
+    default: DefaultWindowProc(FWindow, Message);
+    }
 }
 
-bool TDragManager::Ask(TControl* Target, TDragState State, const TPoint& Screen)
+// An exception ends the drag: its report wants the mouse.
+void TDragManager::TDrag::Move(const TPoint& Screen)
+{
+    const std::shared_ptr<TDrag> Kept = Current;
+    FLastPos = Screen;
+    try {
+        MoveTo(Screen);
+    } catch (...) {
+        FTarget = nullptr;
+        if (GoesOn())
+            End(false);
+        throw;
+    }
+}
+
+bool TDragManager::TDrag::Ask(TControl* Target, TDragState State, const TPoint& Screen)
 {
     bool Accept = false;
-    TPoint Local = Target->ScreenToClient(Screen);
+    const TPoint Local = Target->ScreenToClient(Screen);
     Target->DragOver(Dragged(), Local.X, Local.Y, State, Accept);
     return Accept;
 }
 
-void TDragManager::SetTarget(TControl* Target, const TPoint& Screen)
+void TDragManager::TDrag::Leave(const TPoint& Screen)
 {
-    if (Drag.Target == Target)
-        return;
-    if (TControl* Left = std::exchange(Drag.Target, nullptr))
+    FAccepted = false;
+    if (TControl* Left = std::exchange(FTarget, nullptr))
         Ask(Left, dsDragLeave, Screen);
-    Drag.Target = Target;
-    Drag.Accepted = Target && Ask(Target, dsDragEnter, Screen);
 }
 
-void TDragManager::MoveTo(const TPoint& Screen)
+void TDragManager::TDrag::MoveTo(const TPoint& Screen)
 {
-    SetTarget(FindDragTarget(Screen, false), Screen);
-    if (Drag.Target)
-        Drag.Accepted = Ask(Drag.Target, dsDragMove, Screen);
-    TCursor Accept = Drag.Object ? Drag.Object->AcceptCursor : Drag.Source->GetDragCursor();
-    TCursor Reject = Drag.Object ? Drag.Object->RejectCursor : TCursor(crNoDrop);
-    SetCursor(TFormHost::Get().CursorHandle(Drag.Accepted ? Accept : Reject));
+    if (FTarget != FindDragTarget(Screen, false)) {
+        Leave(Screen);
+        // What was found before may be gone.
+        FTarget = GoesOn() ? FindDragTarget(Screen, false) : nullptr;
+        if (FTarget)
+            FAccepted = Ask(FTarget, dsDragEnter, Screen);
+    }
+    if (GoesOn() && FTarget)
+        FAccepted = Ask(FTarget, dsDragMove, Screen);
+    if (GoesOn())
+        ShowCursor(Screen);
+}
+
+void TDragManager::TDrag::ShowCursor(const TPoint& Screen) const
+{
+    const bool Accepted = FTarget && FAccepted;
+    TCursor Cursor = Accepted ? FSource->GetDragCursor() : TCursor(crNoDrop);
+    if (FObject)
+        Cursor = FObject->GetDragCursor(Accepted, Screen.X, Screen.Y);
+    SetCursor(TFormHost::Get().CursorHandle(Cursor));
+}
+
+void TDragManager::TDrag::ReleaseMouse()
+{
+    if (HWND Window = std::exchange(FWindow, nullptr)) {
+        if (GetCapture() == Window)
+            ReleaseCapture();
+        DeallocateHWnd(Window);
+        SetCursor(FCursorBefore);
+        return;
+    }
+    // A control that captures the mouse for its press gives it back itself.
+    if (FSource && IsWaiting() && !FSource->GetControlStyle().Contains(csCaptureMouse))
+        FSource->SetMouseCapture(false);
+}
+
+void TDragManager::TDrag::Finish(bool Drop)
+{
+    ReleaseMouse();
+    if (!IsDragging()) {
+        if (FSource)
+            FSource->DragCanceled();
+        return;
+    }
+    const TPoint Screen = CursorPos();
+    TPoint Local;
+    try {
+        if (Drop && FAccepted && FTarget) {
+            Local = FTarget->ScreenToClient(Screen);
+            FTarget->DragDrop(Dragged(), Local.X, Local.Y);
+        } else {
+            Leave(Screen);
+            if (FSource)
+                FSource->DragCanceled();
+        }
+    } catch (...) {
+        TellEnd(Local);
+        throw;
+    }
+    TellEnd(Local);
+}
+
+void TDragManager::TDrag::TellEnd(const TPoint& Local)
+{
+    if (FObject)
+        FObject->Finished(FTarget, Local.X, Local.Y, FTarget != nullptr);
+    if (FSource)
+        FSource->DoEndDrag(FTarget, Local.X, Local.Y);
+}
+
+// ---- TDragManager
+
+TControl* TDragManager::Source()
+{
+    return Current ? Current->Source() : nullptr;
+}
+
+void TDragManager::Begin(TControl* Control, bool Immediate, int Threshold)
+{
+    // One that waits without the mouse has missed its release.
+    if (Current && Current->IsWaiting() && !Current->Source()->GetMouseCapture())
+        End(false);
+    if (Current || !Control->ParentFormControl())
+        return;
+    const auto Drag = Current = std::make_shared<TDrag>(Control);
+    Try(Drag, [&] {
+        Drag->TakePress();
+        if (Current != Drag)
+            return;
+        if (Immediate)
+            Drag->Start();
+        else
+            Drag->Wait(Threshold);
+    });
+}
+
+template <class TStep>
+void TDragManager::Try(const std::shared_ptr<TDrag>& Drag, const TStep& Step)
+{
+    try {
+        Step();
+    } catch (...) {
+        if (Current == Drag)
+            Current.reset();
+        throw;
+    }
 }
 
 void TDragManager::End(bool Drop)
 {
-    if (!Drag.Source)
-        return;
-    TDrag Ended = std::move(Drag);
-    Drag = TDrag();
-    TMouse::SetCaptureControl(nullptr);
-    if (!Ended.Active)
-        return;
-    TPoint Screen = CursorPos();
-    TControl* Target = Drop && Ended.Accepted ? Ended.Target : nullptr;
-    TPoint Local = Target ? Target->ScreenToClient(Screen) : TPoint();
-    TObject* What = Ended.Object ? static_cast<TObject*>(Ended.Object.get()) : Ended.Source;
-    if (Target)
-        Target->DragDrop(What, Local.X, Local.Y);
-    else if (Ended.Target) {
-        bool Ignored = false;
-        TPoint Leave = Ended.Target->ScreenToClient(Screen);
-        Ended.Target->DragOver(What, Leave.X, Leave.Y, dsDragLeave, Ignored);
-    }
-    if (Ended.Object)
-        Ended.Object->OnFinished(Ended.Object.get(), Target, Local.X, Local.Y);
-    Ended.Source->DoEndDrag(Target, Local.X, Local.Y);
+    if (const auto Drag = std::exchange(Current, nullptr))
+        Drag->Finish(Drop);
 }
 
-bool TDragManager::HandleMessage(TMessage& Message)
+bool TDragManager::HandleMessage(TWinControl& Window, const TMessage& Message)
 {
+    const auto Drag = Current;
+    if (!Drag)
+        return false;
+    // Sent by the system to what is being disabled, and to what has the mouse.
+    if (Message.Msg == WM_CANCELMODE && Window.ContainsControl(Drag->Source())) {
+        End(false);
+        return false;
+    }
+    if (Drag->IsDragging() && Message.Msg == WM_KEYDOWN && Message.WParam == VK_ESCAPE) {
+        MSG Character;
+        PeekMessageW(&Character, Window.GetHandle(), WM_CHAR, WM_CHAR, PM_REMOVE);
+        End(false);
+        return true;
+    }
+    if (!Drag->IsWaiting() || &Window != Drag->PressedWindow())
+        return false;
     switch (Message.Msg) {
-    case WM_MOUSEMOVE: {
-        TPoint Now = CursorPos();
-        if (!Drag.Active &&
-            std::max(std::abs(Now.X - Drag.StartedAt.X), std::abs(Now.Y - Drag.StartedAt.Y)) > Drag.Threshold)
-            Start();
-        else if (Drag.Active)
-            MoveTo(Now);
+    case WM_MOUSEMOVE:
+        if (!Drag->IsFarEnough())
+            return false;
+        Try(Drag, [&] { Drag->Start(); });
         return true;
-    }
-    case WM_LBUTTONUP: End(true); return true;
-    case WM_CANCELMODE:
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP: End(false); return false;
     case WM_CAPTURECHANGED:
-    case WM_RBUTTONDOWN: End(false); return true;
-    case WM_KEYDOWN:
-    case CN_KEYDOWN:
-        if (Message.WParam == VK_ESCAPE)
+        if (reinterpret_cast<HWND>(Message.LParam) != Window.GetHandle())
             End(false);
-        return true;
-    default: return Message.Msg >= WM_MOUSEFIRST && Message.Msg <= WM_MOUSELAST;
+        return false;
+    default: return false;
     }
 }
 
-void TDragManager::Forget(TControl* Control)
+void TDragManager::Forget(const TObject* Gone)
 {
-    if (Drag.Target == Control) {
-        Drag.Target = nullptr;
-        Drag.Accepted = false;
-    }
-    if (Drag.Source == Control) {
-        Drag = TDrag();
-        TMouse::SetCaptureControl(nullptr);
-    }
+    TDrag::ForgetEverywhere(Gone);
+    if (Current && !Current->Source())
+        std::exchange(Current, nullptr)->ReleaseMouse();
 }

@@ -97,7 +97,7 @@ void TWinControl::DefaultHandler(TMessage& Message)
 
 void TWinControl::WndProc(TMessage& Message)
 {
-    if (TDragManager::Source() && TDragManager::HandleMessage(Message))
+    if (TDragManager::HandleMessage(*this, Message))
         return;
     switch (Message.Msg) {
     case WM_SETFOCUS: {
