@@ -2,8 +2,8 @@
 
 #include "common/Settings.h"
 #include "tests/common/SettingsFixture.h"
-#include "tests/support/FormTest.h"
 #include "tests/support/FormText.h"
+#include "tests/support/Input.h"
 #include "vcl/forms/DataModule.h"
 
 #include <set>
@@ -270,23 +270,17 @@ TEST_F(SavePosTest, TheClientSizeInAFormFileGivesWay)
 TEST_F(SavePosTest, TheNextRunOfTheProgramFindsTheFormWhereTheUserLeftIt)
 {
     const auto Form = NewForm();
-    ASSERT_TRUE(PassesInAnotherProcess("SavePosRun.DISABLED_AFormIsMovedAndTheProgramEnds"));
+    ASSERT_TRUE(PassesInAnotherProcess("SavePosTest.DISABLED_AFormIsMovedAndTheProgramEnds"));
     new TkelSavePos(Form.get());
     EXPECT_EQ(Form->BoundsRect, TRect(50, 60, 50 + 400, 60 + 300));
 }
 
-namespace {
-
-class SavePosRun : public TFormTest {};
-
-} // namespace
-
 // The system tells the program's windows of its own accord.
-TEST_F(SavePosRun, DISABLED_AFormIsMovedAndTheProgramEnds)
+TEST_F(SavePosTest, DISABLED_AFormIsMovedAndTheProgramEnds)
 {
-    Application->Title = SettingsTitle;
-    Form->Name = "Form1";
+    auto Form = NewForm();
     new TkelSavePos(Form.get());
-    Show();
+    Form->Show();
+    ASSERT_TRUE(PumpUntil([&] { return GetForegroundWindow() == Form->Handle && Form->Active; }));
     Form->SetBounds(50, 60, 400, 300);
 }

@@ -18,7 +18,8 @@ protected:
         return Store.Text(Section, Ident);
     }
 
-    TRegistryProbe Store{std::string("Software\\Halvent\\") + SettingsTitle};
+    // A disabled test runs in another process, and leaves the store to the test that wants it.
+    TRegistryProbe Store{std::string("Software\\Halvent\\") + SettingsTitle, !GTEST_FLAG_GET(also_run_disabled_tests)};
 };
 
 // A value in the store.

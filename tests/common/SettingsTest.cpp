@@ -5,9 +5,18 @@
 
 namespace {
 
-using SettingsTest = TSettingsTest;
-
-constexpr TColor LibraryHintColor = TColor(0xC8F5F5);
+class SettingsTest : public TSettingsTest {
+protected:
+    void Starts(const std::function<void()>& Call)
+    {
+        EXPECT_EQ(Application->HintColor, clInfoBk);
+        Call();
+        EXPECT_EQ(Application->HintColor, TColor(0xC8F5F5));
+        Application->HintColor = clRed;
+        Call();
+        EXPECT_EQ(Application->HintColor, clRed) << "started twice";
+    }
+};
 
 } // namespace
 
@@ -104,7 +113,7 @@ TEST_F(SettingsTest, WhatCannotBeWrittenRaises)
 TEST_F(SettingsTest, EveryFunctionStartsTheStore)
 {
     for (const char* Function : {"ReadBool", "ReadInteger", "ReadString", "WriteBool", "WriteInteger", "WriteString"}) {
-        EXPECT_TRUE(PassesInAnotherProcess(std::string("SettingsStart.DISABLED_") + Function));
+        EXPECT_TRUE(PassesInAnotherProcess(std::string("SettingsTest.DISABLED_") + Function));
         EXPECT_TRUE(Store.HasKey()) << Function;
         Store.Delete();
     }
@@ -112,50 +121,32 @@ TEST_F(SettingsTest, EveryFunctionStartsTheStore)
 
 // ---- in processes of their own, where the store has not started yet
 
-namespace {
-
-class SettingsStart : public testing::Test {
-protected:
-    SettingsStart() { Application->Title = SettingsTitle; }
-    void Starts(const std::function<void()>& Call)
-    {
-        EXPECT_EQ(Application->HintColor, clInfoBk);
-        Call();
-        EXPECT_EQ(Application->HintColor, LibraryHintColor);
-        Application->HintColor = clRed;
-        Call();
-        EXPECT_EQ(Application->HintColor, clRed) << "started twice";
-    }
-};
-
-} // namespace
-
-TEST_F(SettingsStart, DISABLED_ReadBool)
+TEST_F(SettingsTest, DISABLED_ReadBool)
 {
     Starts([] { ReadBool("Section", "Value", true); });
 }
 
-TEST_F(SettingsStart, DISABLED_ReadInteger)
+TEST_F(SettingsTest, DISABLED_ReadInteger)
 {
     Starts([] { ReadInteger("Section", "Value", 1); });
 }
 
-TEST_F(SettingsStart, DISABLED_ReadString)
+TEST_F(SettingsTest, DISABLED_ReadString)
 {
     Starts([] { ReadString("Section", "Value", ""); });
 }
 
-TEST_F(SettingsStart, DISABLED_WriteBool)
+TEST_F(SettingsTest, DISABLED_WriteBool)
 {
     Starts([] { WriteBool("Section", "Value", true); });
 }
 
-TEST_F(SettingsStart, DISABLED_WriteInteger)
+TEST_F(SettingsTest, DISABLED_WriteInteger)
 {
     Starts([] { WriteInteger("Section", "Value", 1); });
 }
 
-TEST_F(SettingsStart, DISABLED_WriteString)
+TEST_F(SettingsTest, DISABLED_WriteString)
 {
     Starts([] { WriteString("Section", "Value", ""); });
 }

@@ -8,11 +8,22 @@
 #include <string>
 #include <string_view>
 
-// A key of HKEY_CURRENT_USER that is absent when the test begins and deleted when it ends.
+// A key of HKEY_CURRENT_USER that is absent when the test begins and deleted when it ends, unless it is another test's.
 class TRegistryProbe {
 public:
-    explicit TRegistryProbe(std::string Path) : FPath(std::move(Path)) { Delete(); }
-    ~TRegistryProbe() { Delete(); }
+    explicit TRegistryProbe(std::string Path, bool Owned = true) : FPath(std::move(Path)), FOwned(Owned)
+    {
+        if (FOwned)
+            Delete();
+    }
+    ~TRegistryProbe()
+    {
+        if (!FOwned)
+            return;
+        Delete();
+        // The system refuses that while another key is in there.
+        RegDeleteKeyW(HKEY_CURRENT_USER, ToWide(FPath.substr(0, FPath.rfind('\\'))).c_str());
+    }
     TRegistryProbe(const TRegistryProbe&) = delete;
 
     const std::string& Path() const { return FPath; }
@@ -69,4 +80,5 @@ private:
     }
 
     std::string FPath;
+    bool FOwned;
 };
