@@ -63,7 +63,7 @@ HWND AllocateHWnd(const TWndMethod& Method)
                                   GetModuleHandleW(nullptr), nullptr);
     if (!Window)
         RaiseOutOfResources();
-    // Not earlier: until now the caller does not have the handle yet.
+    // Not earlier: messages would come before the caller has the handle.
     SetWindowLongPtrW(Window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(Holder.release()));
     CountLiveHandle(+1);
     return Window;
