@@ -7,39 +7,80 @@ TMainForm::TMainForm(TComponent* AOwner) : TForm(AOwner)
 
 void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
 {
-    Class.Field<&Self::ToolGlyphs>("ToolGlyphs");
-    Class.Field<&Self::LargeGlyphs>("LargeGlyphs");
-    Class.Field<&Self::Images>("Images");
+    Class.Field<&Self::DockTop>("DockTop");
+    Class.Field<&Self::DockLeft>("DockLeft");
+    Class.Field<&Self::DockRight>("DockRight");
+    Class.Field<&Self::DockBottom>("DockBottom");
+    Class.Field<&Self::FileBar>("FileBar");
+    Class.Field<&Self::EditBar>("EditBar");
+    Class.Field<&Self::FormatBar>("FormatBar");
+    Class.Field<&Self::ViewBar>("ViewBar");
+    Class.Field<&Self::ToolsBar>("ToolsBar");
+    Class.Field<&Self::DrawingBar>("DrawingBar");
     Class.Field<&Self::OpenButton>("OpenButton");
-    Class.Field<&Self::PasteButton>("PasteButton");
+    Class.Field<&Self::UndoButton>("UndoButton");
+    Class.Field<&Self::RedoButton>("RedoButton");
+    Class.Field<&Self::BoldButton>("BoldButton");
     Class.Field<&Self::ItalicButton>("ItalicButton");
+    Class.Field<&Self::UnderlineButton>("UnderlineButton");
+    Class.Field<&Self::StrikeoutButton>("StrikeoutButton");
     Class.Field<&Self::AlignLeftButton>("AlignLeftButton");
     Class.Field<&Self::AlignCenterButton>("AlignCenterButton");
-    Class.Field<&Self::BulletsButton>("BulletsButton");
-    Class.Field<&Self::Magnifier>("Magnifier");
-    Class.Field<&Self::CellLabel>("CellLabel");
-    Class.Field<&Self::CellButton>("CellButton");
-    Class.Field<&Self::CellLatched>("CellLatched");
-    Class.Field<&Self::CellDisabled>("CellDisabled");
-    Class.Field<&Self::PreviousButton>("PreviousButton");
-    Class.Field<&Self::NextButton>("NextButton");
-    Class.Field<&Self::CellScroll>("CellScroll");
-    Class.Field<&Self::SampleLeft>("SampleLeft");
-    Class.Field<&Self::SampleRight>("SampleRight");
-    Class.Field<&Self::FlatSwitch>("FlatSwitch");
-    Class.Field<&Self::EnabledSwitch>("EnabledSwitch");
-    Class.Field<&Self::CaptionSwitch>("CaptionSwitch");
-    Class.Field<&Self::AllUpSwitch>("AllUpSwitch");
-    Class.Field<&Self::LayoutLeft>("LayoutLeft");
-    Class.Field<&Self::StatusText>("StatusText");
-    Class.Field<&Self::ClickText>("ClickText");
+    Class.Field<&Self::PencilTool>("PencilTool");
+    Class.Field<&Self::EllipseTool>("EllipseTool");
+    Class.Field<&Self::DocumentButton>("DocumentButton");
+    Class.Field<&Self::GalleryButton>("GalleryButton");
+    Class.Field<&Self::BarsButton>("BarsButton");
+    Class.Field<&Self::LineColorCombo>("LineColorCombo");
+    Class.Field<&Self::DocumentPage>("DocumentPage");
+    Class.Field<&Self::Memo>("Memo");
+    Class.Field<&Self::Splitter>("Splitter");
+    Class.Field<&Self::DrawingPane>("DrawingPane");
+    Class.Field<&Self::Paper>("Paper");
+    Class.Field<&Self::HintText>("HintText");
+    Class.Field<&Self::MessageText>("MessageText");
+    Class.Field<&Self::ToolGlyphs>("ToolGlyphs");
+    Class.Field<&Self::LargeGlyphs>("LargeGlyphs");
+    Class.Field<&Self::BarsMenu>("BarsMenu");
+    Class.Field<&Self::ColorMenu>("ColorMenu");
 
-    Class.Method<&Self::CellScrollChange>("CellScrollChange");
+    Class.Method<&Self::AboutClick>("AboutClick");
+    Class.Method<&Self::AlignClick>("AlignClick");
+    Class.Method<&Self::BarsMenuPopup>("BarsMenuPopup");
+    Class.Method<&Self::ClearClick>("ClearClick");
+    Class.Method<&Self::ColorApply>("ColorApply");
+    Class.Method<&Self::ColorListDown>("ColorListDown");
+    Class.Method<&Self::ColorMenuPopup>("ColorMenuPopup");
+    Class.Method<&Self::CountClick>("CountClick");
+    Class.Method<&Self::DateClick>("DateClick");
+    Class.Method<&Self::EditClick>("EditClick");
+    Class.Method<&Self::ExitClick>("ExitClick");
+    Class.Method<&Self::FindClick>("FindClick");
+    Class.Method<&Self::FontStyleClick>("FontStyleClick");
     Class.Method<&Self::FormCreate>("FormCreate");
-    Class.Method<&Self::LayoutClick>("LayoutClick");
-    Class.Method<&Self::StepClick>("StepClick");
-    Class.Method<&Self::SwitchClick>("SwitchClick");
+    Class.Method<&Self::HistoryClick>("HistoryClick");
+    Class.Method<&Self::LineStyleItemClick>("LineStyleItemClick");
+    Class.Method<&Self::LineWidthItemClick>("LineWidthItemClick");
+    Class.Method<&Self::MemoChange>("MemoChange");
+    Class.Method<&Self::NewClick>("NewClick");
+    Class.Method<&Self::OpenClick>("OpenClick");
+    Class.Method<&Self::PageClick>("PageClick");
+    Class.Method<&Self::PaneClick>("PaneClick");
+    Class.Method<&Self::PrintClick>("PrintClick");
+    Class.Method<&Self::ProtectClick>("ProtectClick");
+    Class.Method<&Self::SaveClick>("SaveClick");
+    Class.Method<&Self::SizeClick>("SizeClick");
+    Class.Method<&Self::StyleClick>("StyleClick");
+    Class.Method<&Self::StyleItemClick>("StyleItemClick");
     Class.Method<&Self::ToolClick>("ToolClick");
+    Class.Method<&Self::ZoomClick>("ZoomClick");
+}
+
+// Before the bars go to their saved places, which they do when their turn to be loaded comes.
+void TMainForm::Loaded()
+{
+    FLayout.Remember(this);
+    inherited::Loaded();
 }
 
 // The strips are resources of the program: the sheets of pixel art that CMakeLists.txt names.
@@ -47,12 +88,11 @@ void TMainForm::FormCreate(TObject*)
 {
     ToolGlyphs->LoadBitmapRes(nullptr, "TOOLBAR16");
     ToolGlyphs->Width = 16;
-    LargeGlyphs->LoadBitmapRes(nullptr, "TOOLBAR24");
-    LargeGlyphs->Width = 24;
-    Images->ResourceLoad(nullptr, "TOOLBAR16", ToolGlyphs->MaskColor);
 
-    CellScroll->Max = ToolGlyphs->Cols - 1;
-    CellScrollChange(CellScroll);
+    FDrawing = std::make_unique<TDrawing>(Paper);
+    FDrawing->OnChange = {this, &TMainForm::DrawingChange};
+    FDrawing->OnPick = {this, &TMainForm::ColorPicked};
+    FHistory.Start({Memo->Text, nullptr});
     Application->OnHint = {this, &TMainForm::ShowHint};
 }
 
@@ -60,50 +100,75 @@ void TMainForm::FormCreate(TObject*)
 
 void TMainForm::ShowHint(TObject*)
 {
-    StatusText->Caption = Application->Hint.empty() ? "Ready" : Application->Hint;
+    HintText->Caption = Application->Hint.empty() ? "Ready" : Application->Hint;
 }
 
-void TMainForm::ToolClick(TObject* Sender)
+void TMainForm::Say(const AnsiString& Message)
 {
-    auto* Button = As<TkelSpeedButton>(Sender);
-    AnsiString Text = "Clicked: " + GetShortHint(Button->Hint);
-    if (Button->GroupIndex != 0)
-        Text += Button->Down ? ", now down" : ", now up";
-    ClickText->Caption = Text;
+    MessageText->Caption = Message;
 }
 
-// ---- the glyph strip
+// ---- the bars
 
-void TMainForm::CellScrollChange(TObject*)
+// The items are made anew each time: what they say can have changed.
+void TMainForm::BarsMenuPopup(TObject*)
 {
-    const int Cell = CellScroll->Position;
-    CellLabel->Caption = Format("GlyphIndex %d", Cell);
-    Magnifier->Picture->Bitmap = ToolGlyphs->GetCell(Cell);
-    for (TkelSpeedButton* Button : {CellButton, CellLatched, CellDisabled})
-        Button->GlyphIndex = Cell;
-}
-
-void TMainForm::StepClick(TObject* Sender)
-{
-    CellScroll->Position += Sender == NextButton ? 1 : -1;
-}
-
-// ---- samples to try
-
-void TMainForm::SwitchClick(TObject*)
-{
-    for (TkelSpeedButton* Sample : {SampleLeft, SampleRight}) {
-        Sample->Flat = FlatSwitch->Down;
-        Sample->Enabled = EnabledSwitch->Down;
-        Sample->Caption = CaptionSwitch->Down ? GetShortHint(Sample->Hint) : "";
-        Sample->AllowAllUp = AllUpSwitch->Down;
+    TMenuItem* Items = BarsMenu->Items;
+    Items->Clear();
+    for (TkelToolBar* Bar : FLayout.Bars()) {
+        Items->Add(
+            NewItem(Bar->Caption, scNone, Bar->Visible, true, {this, &TMainForm::BarItemClick}, 0, "", BarsMenu));
+        Items->Items[Items->Count - 1]->Tag = reinterpret_cast<intptr_t>(Bar);
     }
+    Items->Add(NewLine(BarsMenu));
+    Items->Add(NewItem("Reset layout", scNone, false, true, {this, &TMainForm::ResetItemClick}, 0, "", BarsMenu));
 }
 
-void TMainForm::LayoutClick(TObject* Sender)
+void TMainForm::BarItemClick(TObject* Sender)
 {
-    // Each of the layout buttons has its layout as its Tag.
-    const auto Layout = static_cast<TButtonLayout>(As<TComponent>(Sender)->Tag);
-    SampleLeft->Layout = Layout;
-    SampleRight->Layout = Layout;
+    auto* Bar = reinterpret_cast<TkelToolBar*>(As<TMenuItem>(Sender)->Tag);
+    if (Bar->Visible)
+        Bar->HidePanel();
+    else
+        Bar->ShowPanel();
+    Say(Bar->Caption + (Bar->Visible ? " is shown" : " is hidden"));
+}
+
+void TMainForm::ResetItemClick(TObject*)
+{
+    ResetLayout();
+    Say("All bars are in their places");
+}
+
+// ---- pages and panes
+
+void TMainForm::PageClick(TObject* Sender)
+{
+    ShowGallery(Sender == GalleryButton);
+}
+
+void TMainForm::ShowGallery(bool Value)
+{
+    if (Value && !FGallery) {
+        LargeGlyphs->LoadBitmapRes(nullptr, "TOOLBAR24");
+        LargeGlyphs->Width = 24;
+        FGallery = new TGalleryFrame(this);
+        FGallery->OnMessage = {this, &TMainForm::Say};
+        FGallery->Align = alClient;
+        FGallery->Parent = this;
+    }
+    if (FGallery)
+        FGallery->Visible = Value;
+    DocumentPage->Visible = !Value;
+}
+
+void TMainForm::PaneClick(TObject* Sender)
+{
+    const bool Down = As<TkelSpeedButton>(Sender)->Down;
+    // The splitter finds its place beside the pane.
+    DocumentPage->DisableAlign();
+    DrawingPane->Visible = Down;
+    Splitter->Visible = Down;
+    Splitter->Left = DrawingPane->Left - Splitter->Width;
+    DocumentPage->EnableAlign();
 }

@@ -1,8 +1,12 @@
-// The showcase's window: a gallery of the library's panels, labels and tool buttons, and a corner to try them out.
-// The window itself is described in Main.dfm.
+// The showcase's window: a small program for texts and drawings, with tool bars that can be dragged anywhere. Main.dfm
+// describes it.
 #pragma once
 
-#include "common/Tsy_common.h"
+#include "common/SavePos.h"
+#include "demo/BarLayout.h"
+#include "demo/Drawing.h"
+#include "demo/Gallery.h"
+#include "demo/History.h"
 #include "toolbar/Tsy_toolbar.h"
 #include "vcl/vcl.h"
 
@@ -11,51 +15,116 @@ class TMainForm : public TForm {
 public:
     explicit TMainForm(TComponent* AOwner);
 
-    // Where the buttons' glyphs come from.
+    // The docks along the edges, and the bars.
+    TkelDock* DockTop = nullptr;
+    TkelDock* DockLeft = nullptr;
+    TkelDock* DockRight = nullptr;
+    TkelDock* DockBottom = nullptr;
+    TkelToolBar* FileBar = nullptr;
+    TkelToolBar* EditBar = nullptr;
+    TkelToolBar* FormatBar = nullptr;
+    TkelToolBar* ViewBar = nullptr;
+    TkelToolBar* ToolsBar = nullptr;
+    TkelToolBar* DrawingBar = nullptr;
+
+    // Items of the bars.
+    TkelTBButton* OpenButton = nullptr;
+    TkelTBButton* UndoButton = nullptr;
+    TkelTBButton* RedoButton = nullptr;
+    TkelTBButton* BoldButton = nullptr;
+    TkelTBButton* ItalicButton = nullptr;
+    TkelTBButton* UnderlineButton = nullptr;
+    TkelTBButton* StrikeoutButton = nullptr;
+    TkelTBButton* AlignLeftButton = nullptr;
+    TkelTBButton* AlignCenterButton = nullptr;
+    TkelTBButton* PencilTool = nullptr;
+    TkelTBButton* EllipseTool = nullptr;
+    TkelTBButton* DocumentButton = nullptr;
+    TkelTBButton* GalleryButton = nullptr;
+    TkelTBPopup* BarsButton = nullptr;
+    TkelTBColorCombo* LineColorCombo = nullptr;
+
+    // What the commands act on.
+    TkelPanel* DocumentPage = nullptr;
+    TMemo* Memo = nullptr;
+    TSplitter* Splitter = nullptr;
+    TScrollBox* DrawingPane = nullptr;
+    TPaintBox* Paper = nullptr;
+
+    // The hint of what the pointer is on, and what was done last.
+    TkelPanel* HintText = nullptr;
+    TkelPanel* MessageText = nullptr;
+
     TkelGlyphs* ToolGlyphs = nullptr;
     TkelGlyphs* LargeGlyphs = nullptr;
-    TImageList* Images = nullptr;
+    TPopupMenu* BarsMenu = nullptr;
+    TPopupMenu* ColorMenu = nullptr;
 
-    // Some of the tool buttons.
-    TkelSpeedButton* OpenButton = nullptr;
-    TkelSpeedButton* PasteButton = nullptr;
-    TkelSpeedButton* ItalicButton = nullptr;
-    TkelSpeedButton* AlignLeftButton = nullptr;
-    TkelSpeedButton* AlignCenterButton = nullptr;
-    TkelSpeedButton* BulletsButton = nullptr;
+    // Shows the gallery in place of the document; it is made when it is shown for the first time.
+    void ShowGallery(bool Value);
+    TGalleryFrame* GetGallery() const { return FGallery; }
+    PROPERTY_READ(TGalleryFrame*, Gallery);
+    // All bars where they are in the form file.
+    void ResetLayout() { FLayout.Reset(); }
 
-    // The magnifier of the glyph strip.
-    TkelImage* Magnifier = nullptr;
-    TLabel* CellLabel = nullptr;
-    TkelSpeedButton* CellButton = nullptr;
-    TkelSpeedButton* CellLatched = nullptr;
-    TkelSpeedButton* CellDisabled = nullptr;
-    TAlignSpeedButton* PreviousButton = nullptr;
-    TAlignSpeedButton* NextButton = nullptr;
-    TkelScrollBar* CellScroll = nullptr;
-
-    // The samples, and the switches for how they look.
-    TkelSpeedButton* SampleLeft = nullptr;
-    TkelSpeedButton* SampleRight = nullptr;
-    TkelSpeedButton* FlatSwitch = nullptr;
-    TkelSpeedButton* EnabledSwitch = nullptr;
-    TkelSpeedButton* CaptionSwitch = nullptr;
-    TkelSpeedButton* AllUpSwitch = nullptr;
-    TkelSpeedButton* LayoutLeft = nullptr;
-
-    // The status line: the hint of what the pointer is on, and what was clicked.
-    TkelPanel* StatusText = nullptr;
-    TkelPanel* ClickText = nullptr;
+protected:
+    void Loaded() override;
 
 private:
     friend class TClassBuilder<TMainForm>;
 
-    void CellScrollChange(TObject* Sender);
+    void AboutClick(TObject* Sender);
+    void AlignClick(TObject* Sender);
+    void BarsMenuPopup(TObject* Sender);
+    void ClearClick(TObject* Sender);
+    void ColorApply(TObject* Sender);
+    void ColorListDown(TObject* Sender);
+    void ColorMenuPopup(TObject* Sender);
+    void CountClick(TObject* Sender);
+    void DateClick(TObject* Sender);
+    void EditClick(TObject* Sender);
+    void ExitClick(TObject* Sender);
+    void FindClick(TObject* Sender);
+    void FontStyleClick(TObject* Sender);
     void FormCreate(TObject* Sender);
-    void LayoutClick(TObject* Sender);
-    void StepClick(TObject* Sender);
-    void SwitchClick(TObject* Sender);
+    void HistoryClick(TObject* Sender);
+    void LineStyleItemClick(TObject* Sender);
+    void LineWidthItemClick(TObject* Sender);
+    void MemoChange(TObject* Sender);
+    void NewClick(TObject* Sender);
+    void OpenClick(TObject* Sender);
+    void PageClick(TObject* Sender);
+    void PaneClick(TObject* Sender);
+    void PrintClick(TObject* Sender);
+    void ProtectClick(TObject* Sender);
+    void SaveClick(TObject* Sender);
+    void SizeClick(TObject* Sender);
+    void StyleClick(TObject* Sender);
+    void StyleItemClick(TObject* Sender);
     void ToolClick(TObject* Sender);
+    void ZoomClick(TObject* Sender);
 
+    void BarItemClick(TObject* Sender);
+    void ColorItemClick(TObject* Sender);
+    void ColorPicked(TObject* Sender);
+    void DrawingChange(TObject* Sender);
+    void ResetItemClick(TObject* Sender);
     void ShowHint(TObject* Sender);
+
+    void Say(const AnsiString& Message);
+    // The document changed, or went to another state.
+    void Record();
+    void UpdateHistoryButtons();
+    void Replace(const TDocumentState& State);
+    void ApplyStyle(int Index);
+    void ApplyZoom();
+
+    TBarLayout FLayout;
+    std::unique_ptr<TDrawing> FDrawing;
+    THistory FHistory;
+    TGalleryFrame* FGallery = nullptr;
+    int FStyle = 0;
+    int FTextHeight = 16; // in pixels, before zooming
+    int FZoom = 100;      // in per cent
+    bool FReplacing = false;
 };

@@ -1,16 +1,21 @@
-// The showcase: a tour of what the library has.
+// The showcase: a program with what the library has, and a tour of it.
 //
-//     demo                shows the window
-//     demo --tour FOLDER  leads the pointer over it and saves pictures NN-name.bmp
-//     demo --startup      prints how long it took from the start of the process to the first painted window, in
-//                         microseconds
+//     demo                     shows the window
+//     demo --tour FOLDER       leads the pointer over it and saves pictures NN-name.bmp; starts itself for the last
+//     ones demo --restored FOLDER N the second half of the tour, after N pictures demo --startup           prints how
+//     long it took from the start of the process to the first painted window, in
+//                              microseconds
 #include "demo/Main.h"
 #include "demo/Tour.h"
+#include "vcl/registry/RegIniFile.h"
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
+
+// The tour keeps its settings apart from those of the user.
+constexpr char TourTitle[] = "Tessary showcase tour";
 
 // The program's argument of that number; empty behind the last.
 std::string_view Argument(int Index)
@@ -34,15 +39,63 @@ void PrintStartup(TMainForm* Form)
     std::printf("%llu\n", static_cast<unsigned long long>(Microseconds(Now) - Microseconds(Started)));
 }
 
+// Runs this program once more and waits for it. Raises an Exception when it fails.
+void RunAgain(const AnsiString& Arguments)
+{
+    TWideString Command = TWideText("\"" + Application->ExeName + "\" " + Arguments).c_str();
+    STARTUPINFOW Startup = {};
+    Startup.cb = sizeof(Startup);
+    PROCESS_INFORMATION Process;
+    if (!CreateProcessW(nullptr, Command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
+        throw Exception("The tour cannot start the program a second time");
+    CloseHandle(Process.hThread);
+    WaitForSingleObject(Process.hProcess, INFINITE);
+    DWORD Code = EXIT_FAILURE;
+    GetExitCodeProcess(Process.hProcess, &Code);
+    CloseHandle(Process.hProcess);
+    if (Code != EXIT_SUCCESS)
+        throw Exception("The second half of the tour failed");
+}
+
+// Leaves as a user would: what is kept from one run to the next is kept.
+void Leave(TMainForm* Form)
+{
+    Form->Close();
+    Application->ProcessMessages();
+    delete Form;
+}
+
+void RunTour(const AnsiString& Folder)
+{
+    TRegIniFile("Software\\Halvent").EraseSection(TourTitle);
+    TMainForm* Form = nullptr;
+    Application->CreateForm(&Form);
+    const int Taken = TTour(Form, Folder, 0).FirstRun();
+    Leave(Form);
+    RunAgain(Format("--restored \"%s\" %d", Folder, Taken));
+}
+
+void RunRestored(const AnsiString& Folder, int Taken)
+{
+    TMainForm* Form = nullptr;
+    Application->CreateForm(&Form);
+    TTour(Form, Folder, Taken).SecondRun();
+    Leave(Form);
+}
+
 void Start()
 {
-    TMainForm* MainForm = nullptr;
+    const std::string_view Mode = Argument(1);
+    const bool OnTour = Mode == "--tour" || Mode == "--restored";
     Application->Initialize();
-    Application->Title = "Tessary showcase";
+    Application->Title = OnTour ? TourTitle : "Tessary showcase";
+    if (Mode == "--tour")
+        return RunTour(AnsiString(Argument(2)));
+    if (Mode == "--restored")
+        return RunRestored(AnsiString(Argument(2)), StrToInt(Argument(3)));
+    TMainForm* MainForm = nullptr;
     Application->CreateForm(&MainForm);
-    if (Argument(1) == "--tour")
-        TTour(MainForm, AnsiString(Argument(2))).Run();
-    else if (Argument(1) == "--startup")
+    if (Mode == "--startup")
         PrintStartup(MainForm);
     else
         Application->Run();

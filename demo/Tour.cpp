@@ -2,155 +2,174 @@
 
 #include "demo/Main.h"
 #include "glyphs/toolbar16.h"
-#include "tests/support/SystemInput.h"
 
 namespace {
 
-// In milliseconds: how long to wait for a condition, and the pause before hints that are not to show.
-constexpr int Patience = 10000;
-constexpr int NoHints = 3600 * 1000;
+constexpr int RowHeight = 26; // of a bar
 
-// Handles messages until Condition holds. What names it in the exception.
-void WaitFor(std::string_view What, const std::function<bool()>& Condition)
+void Expect(bool Condition, std::string_view What)
 {
-    if (!PumpUntil(Condition, Patience))
-        throw Exception(Format("The tour waits in vain: %s", What));
+    if (!Condition)
+        throw Exception(Format("The tour is wrong about this: %s", What));
 }
 
-// Moves the pointer until it is at Target and Control has noticed.
-void MovePointer(const TPoint& Target, const TControl* Control)
+// A place on the screen that lies X and Y from the control's upper left corner.
+TPoint PlaceIn(const TControl* Control, int X, int Y)
 {
-    if (!MovePointerUntil(Target, [&] { return TMouse::HotControl() == Control; }, Patience))
-        throw Exception("The tour waits in vain: a control to notice the pointer");
+    return Control->ClientToScreen({X, Y});
 }
 
-// A picture of the screen does not have the pointer in it.
-void DrawPointer(TCanvas* Canvas, const TRect& Window)
+// The bar is a row of its own in a horizontal dock, at this place.
+bool LiesIn(const TkelToolBar* Bar, const TkelDock* Dock, int Row)
 {
-    CURSORINFO Info = {};
-    Info.cbSize = sizeof(Info);
-    ICONINFO Icon = {};
-    if (!GetCursorInfo(&Info) || !GetIconInfo(Info.hCursor, &Icon))
-        return;
-    const TPoint At(Info.ptScreenPos.x - Icon.xHotspot - Window.Left, Info.ptScreenPos.y - Icon.yHotspot - Window.Top);
-    DrawIconEx(Canvas->Handle, At.x, At.y, Info.hCursor, 0, 0, 0, nullptr, DI_NORMAL);
-    DeleteObject(Icon.hbmMask);
-    if (Icon.hbmColor)
-        DeleteObject(Icon.hbmColor);
-}
-
-bool IsHintShowing()
-{
-    HWND Window = FindWindowW(L"THintWindow", nullptr);
-    return Window && IsWindowVisible(Window);
+    return !Bar->Floating && Bar->Parent == Dock && Bar->Top == Row && Bar->Visible;
 }
 
 } // namespace
 
-void TTour::Run()
+TTour::TTour(TMainForm* Form, const AnsiString& Folder, int Taken) : FForm(Form), FGuide(Form, Folder, Taken)
+{}
+
+int TTour::FirstRun()
 {
-    UseMessageLoop([] { Application->ProcessMessages(); });
-    Application->HintPause = NoHints;
-    Application->HintShortPause = NoHints;
-    Application->HintHidePause = NoHints;
-    FForm->Show();
-    WaitFor("the window to be active", [this] { return FForm->Active; });
-    MovePointer(FarCorner(), nullptr);
-    TakePicture("start");
+    FGuide.Begin();
+    FGuide.TakePicture("start");
     ShowButtons();
-    ShowMagnifier();
-    ShowSwitches();
+    ShowDrawing();
+    ShowGallery();
+    ShowRows();
+    ShowTurning();
+    ShowFloating();
+    ShowHiding();
+    return FGuide.Taken;
 }
 
 void TTour::ShowButtons()
 {
-    PointAt(FForm->OpenButton);
-    TakePicture("hot");
+    FGuide.PointAt(FForm->OpenButton);
+    FGuide.TakePicture("hot");
 
-    Application->HintPause = 0;
-    PointAt(FForm->PasteButton);
-    WaitFor("a hint", IsHintShowing);
-    TakePicture("disabled");
-    Application->HintPause = NoHints;
+    FGuide.SetHints(true);
+    FGuide.PointAt(FForm->UndoButton);
+    FGuide.WaitForHint();
+    FGuide.TakePicture("disabled");
+    FGuide.SetHints(false);
 
-    PointAt(FForm->OpenButton);
-    Press();
-    TakePicture("pressed");
-    Release();
+    FGuide.PointAt(FForm->OpenButton);
+    FGuide.Press();
+    FGuide.TakePicture("pressed");
+    FGuide.Release();
 
-    Click(FForm->ItalicButton);
-    WaitFor("a latched button", [this] { return FForm->ItalicButton->Down; });
-    Click(FForm->AlignCenterButton);
-    WaitFor("the group's other button to come up", [this] { return !FForm->AlignLeftButton->Down; });
-    Click(FForm->BulletsButton);
-    WaitFor("a latched list button", [this] { return FForm->BulletsButton->Down; });
-    TakePicture("latched");
+    FGuide.Click(FForm->ItalicButton);
+    FGuide.WaitFor("a latched button", [this] { return FForm->ItalicButton->Down; });
+    Expect(FForm->Memo->Font->Style.Contains(fsItalic), "the text is italic");
+    FGuide.Click(FForm->AlignCenterButton);
+    FGuide.WaitFor("the other button of the group", [this] { return FForm->Memo->Alignment == taCenter; });
+    FGuide.TakePicture("latched");
+    FGuide.Click(FForm->ItalicButton);
+    FGuide.Click(FForm->AlignLeftButton);
 }
 
-void TTour::ShowMagnifier()
+void TTour::ShowDrawing()
 {
+    FGuide.Click(FForm->EllipseTool);
+    FGuide.WaitFor("the tool of the other bar to come up", [this] { return !FForm->PencilTool->Down; });
+    FGuide.PointAt(FForm->Paper);
+    FGuide.Press();
+    FGuide.DragTo(PlaceIn(FForm->Paper, 250, 350), "the pointer", [] { return true; });
+    FGuide.TakePicture("drawing");
+    Expect(!FForm->UndoButton->Enabled, "a stroke counts when it is done");
+    FGuide.Release();
+    Expect(FForm->UndoButton->Enabled, "a stroke can be undone");
+}
+
+void TTour::ShowGallery()
+{
+    FGuide.Click(FForm->GalleryButton);
+    FGuide.WaitFor("the gallery", [this] { return FForm->Gallery && FForm->Gallery->Showing; });
+    TGalleryFrame* Gallery = FForm->Gallery;
     const int Cell = tgSpelling;
     for (int Step = 0; Step < Cell; ++Step)
-        Click(FForm->NextButton);
-    WaitFor("the strip to move on", [this] { return FForm->CellScroll->Position == Cell; });
-    TakePicture("magnifier");
+        FGuide.Click(Gallery->NextButton);
+    FGuide.WaitFor("the strip to move on", [&] { return Gallery->CellScroll->Position == Cell; });
+    FGuide.TakePicture("gallery");
+
+    FGuide.Click(Gallery->SampleLeft);
+    FGuide.WaitFor("the sample to latch", [&] { return Gallery->SampleLeft->Down; });
+    FGuide.Click(Gallery->LayoutLeft);
+    FGuide.WaitFor("the other layout", [&] { return Gallery->SampleLeft->Layout == blGlyphLeft; });
+    FGuide.Click(Gallery->FlatSwitch);
+    FGuide.WaitFor("raised samples", [&] { return !Gallery->SampleLeft->Flat; });
+    FGuide.TakePicture("raised-samples");
+    FGuide.Click(Gallery->EnabledSwitch);
+    FGuide.WaitFor("disabled samples", [&] { return !Gallery->SampleLeft->Enabled; });
+    FGuide.TakePicture("disabled-samples");
+    FGuide.Click(FForm->DocumentButton);
+    FGuide.WaitFor("the document", [this] { return FForm->Memo->Showing; });
 }
 
-void TTour::ShowSwitches()
+// A bar goes into the row of another, slides along it, and changes places with the other.
+void TTour::ShowRows()
 {
-    Click(FForm->SampleLeft);
-    WaitFor("the sample to latch", [this] { return FForm->SampleLeft->Down; });
-    Click(FForm->LayoutLeft);
-    WaitFor("the other layout", [this] { return FForm->SampleLeft->Layout == blGlyphLeft; });
-    Click(FForm->FlatSwitch);
-    WaitFor("raised samples", [this] { return !FForm->SampleLeft->Flat; });
-    TakePicture("raised-samples");
-    Click(FForm->EnabledSwitch);
-    WaitFor("disabled samples", [this] { return !FForm->SampleLeft->Enabled; });
-    TakePicture("disabled-samples");
+    TkelToolBar* Edit = FForm->EditBar;
+    TkelToolBar* File = FForm->FileBar;
+    const auto DragTo = [&](int X, int Y, std::string_view What, const std::function<bool()>& Condition) {
+        FGuide.DragTo(PlaceIn(FForm->DockTop, X, Y), What, Condition);
+    };
+    FGuide.PointAt(Edit->DragBox);
+    FGuide.Press();
+    DragTo(300, RowHeight + 10, "a bar to slide", [&] { return Edit->Left > 250; });
+    DragTo(300, 10, "a bar to join the row above", [&] { return Edit->Top == 0; });
+    Expect(FForm->DockTop->Height == 2 * RowHeight, "a row that is empty is gone");
+    DragTo(400, 10, "a bar to slide in its new row", [&] { return Edit->Left > 350; });
+    FGuide.TakePicture("sliding");
+    DragTo(8, 20, "bars to change places", [&] { return File->Left >= Edit->Left + Edit->Width; });
+    FGuide.TakePicture("trading-places");
+    FGuide.Release();
 }
 
-// ---- what a user does
-
-void TTour::PointAt(TControl* Control)
+void TTour::ShowTurning()
 {
-    MovePointer(Control->ClientToScreen({Control->Width / 2, Control->Height / 2}), Control);
+    TkelToolBar* Edit = FForm->EditBar;
+    FGuide.PointAt(Edit->DragBox);
+    FGuide.Press();
+    FGuide.DragTo(PlaceIn(FForm->DockLeft, 12, 200), "a bar to turn", [&] { return Edit->Parent == FForm->DockLeft; });
+    Expect(Edit->Height > Edit->Width, "a bar at the left stands upright");
+    FGuide.TakePicture("vertical");
+    FGuide.Release();
 }
 
-void TTour::Press()
+void TTour::ShowFloating()
 {
-    SendButton(mbLeft, true);
-    WaitFor("a control to take the mouse", [] { return TMouse::CaptureControl() != nullptr; });
+    TkelToolBar* Drawing = FForm->DrawingBar;
+    FGuide.PointAt(Drawing->DragBox);
+    FGuide.Press();
+    FGuide.DragTo(PlaceIn(FForm->DockBottom, 140, 13), "a bar to slide", [&] { return Drawing->Left > 100; });
+    FGuide.DragTo(PlaceIn(FForm->Memo, 100, 340), "a bar to float", [&] { return Drawing->Floating; });
+    Expect(FForm->DockBottom->Height == 0, "a dock without bars takes no room");
+    FGuide.TakePicture("floating");
+    FGuide.Release();
 }
 
-void TTour::Release()
+void TTour::ShowHiding()
 {
-    SendButton(mbLeft, false);
-    WaitFor("the mouse to be free", [] { return TMouse::CaptureControl() == nullptr; });
+    FGuide.ChooseFromMenuOf(FForm->DockTop, {600, RowHeight / 2}, 0, "menu");
+    FGuide.WaitFor("a bar to be hidden", [this] { return !FForm->FileBar->Visible; });
 }
 
-void TTour::Click(TControl* Control)
+void TTour::SecondRun()
 {
-    PointAt(Control);
-    Press();
-    Release();
-}
+    FGuide.Begin();
+    FGuide.TakePicture("restored");
+    Expect(!FForm->FileBar->Visible, "a hidden bar stays hidden");
+    Expect(FForm->EditBar->Parent == FForm->DockLeft, "a bar comes back to the dock it was in");
+    Expect(FForm->DrawingBar->Floating, "a floating bar floats again");
 
-// ---- and sees
-
-void TTour::TakePicture(std::string_view Name)
-{
-    Application->ProcessMessages();
-    GdiFlush();
-    TRect Window;
-    GetWindowRect(FForm->Handle, &Window);
-
-    TBitmap Picture;
-    Picture.PixelFormat = pf24bit;
-    Picture.SetSize(Window.Width(), Window.Height());
-    HDC Screen = GetDC(nullptr);
-    BitBlt(Picture.Canvas->Handle, 0, 0, Window.Width(), Window.Height(), Screen, Window.Left, Window.Top, SRCCOPY);
-    ReleaseDC(nullptr, Screen);
-    DrawPointer(Picture.Canvas, Window);
-    Picture.SaveToFile(Format("%s/%.2d-%s.bmp", FFolder, ++FPictures, Name));
+    FForm->ResetLayout();
+    FGuide.TakePicture("reset");
+    Expect(LiesIn(FForm->FileBar, FForm->DockTop, 0), "the first row is that of the form file");
+    Expect(LiesIn(FForm->EditBar, FForm->DockTop, RowHeight), "so is the second");
+    Expect(LiesIn(FForm->FormatBar, FForm->DockTop, 2 * RowHeight), "and the third");
+    Expect(LiesIn(FForm->DrawingBar, FForm->DockBottom, 0), "a bar that floated is back in its dock");
+    Expect(FForm->DockTop->Height == 3 * RowHeight && FForm->DockLeft->Width == RowHeight, "docks fit their rows");
 }

@@ -1,36 +1,31 @@
-// TTour: leads a real pointer over the showcase and takes pictures of what a user would see.
+// TTour: shows what the showcase can do, as a user would go through it, and fails when it does not do that.
+//
+// It has two parts, for two runs of the program: the second finds the tool bars where the first left them.
 #pragma once
 
-#include "vcl/graphics/Types.h"
-#include "vcl/system/Object.h"
+#include "demo/Guide.h"
 
-#include <functional>
-#include <string_view>
-
-class TControl;
 class TMainForm;
 
 class TTour {
 public:
-    // The pictures become files NN-name.bmp in Folder, which exists already.
-    TTour(TMainForm* Form, const AnsiString& Folder) : FForm(Form), FFolder(Folder) {}
+    // See TGuide.
+    TTour(TMainForm* Form, const AnsiString& Folder, int Taken);
 
-    // Shows the form and goes through all stations. Raises an Exception "The tour waits in vain: %s" when the program
-    // does not do what the tour expects of it.
-    void Run();
+    // Each shows the form and goes through its stations. They raise an Exception that says what the program did not do.
+    // The first run returns how many pictures it took.
+    int FirstRun();
+    void SecondRun();
 
 private:
     void ShowButtons();
-    void ShowSwitches();
-    void ShowMagnifier();
-
-    void PointAt(TControl* Control);
-    void Press();
-    void Release();
-    void Click(TControl* Control);
-    void TakePicture(std::string_view Name);
+    void ShowDrawing();
+    void ShowGallery();
+    void ShowRows();
+    void ShowTurning();
+    void ShowFloating();
+    void ShowHiding();
 
     TMainForm* FForm;
-    AnsiString FFolder;
-    int FPictures = 0;
+    TGuide FGuide;
 };

@@ -1,0 +1,72 @@
+// TDrawing: a sheet of paper to draw on with the mouse.
+#pragma once
+
+#include "vcl/extctrls/PaintBox.h"
+#include "vcl/graphics/Bitmap.h"
+
+enum TDrawingTool {
+    dtPencil,
+    dtBrush,
+    dtEraser,
+    dtFill,
+    dtPickColor,
+    dtText,
+    dtLine,
+    dtRectangle,
+    dtRoundRectangle,
+    dtEllipse,
+};
+
+using TSharedPicture = std::shared_ptr<TBitmap>;
+
+class TDrawing : public TObject {
+public:
+    // Draws in Paper, which has the size of the sheet and must live as long as the drawing is used.
+    explicit TDrawing(TPaintBox* Paper);
+
+    TDrawingTool Tool = dtPencil;
+    TColor LineColor = clBlack;
+    TColor FillColor = clSkyBlue; // clNone: shapes are not filled
+    TPenStyle LineStyle = psSolid;
+    int LineWidth = 1; // in pixels of the sheet
+    // What the text tool writes.
+    AnsiString Text;
+
+    // The picture as it is now; it is not changed any more. A sample until something is drawn. Setting nullptr brings
+    // the sample back.
+    const TSharedPicture& GetPicture();
+    void SetPicture(TSharedPicture Value);
+    PROPERTY(TSharedPicture, Picture);
+    void Clear();
+
+    // In per cent of the sheet's size.
+    void SetZoom(int Value);
+
+    // The picture has changed, by a stroke that is complete.
+    TNotifyEvent OnChange;
+    // The tool that picks colours has set LineColor.
+    TNotifyEvent OnPick;
+
+private:
+    void PaperPaint(TObject* Sender);
+    void PaperMouseDown(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
+    void PaperMouseMove(TObject* Sender, TShiftState Shift, int X, int Y);
+    void PaperMouseUp(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
+
+    bool DrawsFreely() const { return Tool <= dtEraser; }
+    TPoint OnSheet(int X, int Y) const;
+    TCanvas* BeginChange();
+    void FinishChange();
+    void ApplyTool(const TPoint& P);
+    void DrawFreely(const TPoint& From, const TPoint& To);
+    void DrawShape(TCanvas* Canvas, int Scale) const;
+    void SetPens(TCanvas* Canvas, int Scale) const;
+
+    TPaintBox* FPaper;
+    TSize FSheet;
+    TSharedPicture FPicture;
+    TPoint FStart; // of the stroke, on the sheet
+    TPoint FLast;  // where it is now
+    int FZoom = 100;
+    bool FDrawing = false; // the button is down
+};

@@ -1,0 +1,50 @@
+// TGuide: leads a real pointer over a form as a user would, and takes pictures of what there is to see.
+//
+// Everything that does not come about in time raises an Exception "The tour waits in vain: %s".
+#pragma once
+
+#include "vcl/forms/Form.h"
+
+#include <functional>
+#include <string_view>
+
+class TGuide {
+public:
+    // The pictures become files NN-name.bmp in Folder, which exists already. Taken is how many there are already.
+    TGuide(TForm* Form, const AnsiString& Folder, int Taken);
+
+    int GetTaken() const { return FTaken; }
+    PROPERTY_READ(int, Taken);
+
+    // Shows the form and takes the pointer off it.
+    void Begin();
+    // Handles messages until Condition holds. What names it.
+    static void WaitFor(std::string_view What, const std::function<bool()>& Condition);
+
+    // ---- what a user does
+
+    void PointAt(TControl* Control);
+    // To the corner of the screen.
+    void PointAway();
+    void Press();
+    void Release();
+    void Click(TControl* Control);
+    // With the button down: in steps to a place on the screen, until Condition holds there.
+    void DragTo(const TPoint& Target, std::string_view What, const std::function<bool()>& Condition);
+    // Opens the control's popup menu with the right button, takes a picture and chooses the item at Index.
+    void ChooseFromMenuOf(TControl* Control, const TPoint& Place, int Index, std::string_view Picture);
+
+    // ---- and sees
+
+    void TakePicture(std::string_view Name);
+    // The next hint shows at once, or no hints any more.
+    static void SetHints(bool Showing);
+    static void WaitForHint();
+
+private:
+    void SavePicture(std::string_view Name);
+
+    TForm* FForm;
+    AnsiString FFolder;
+    int FTaken;
+};
