@@ -1,6 +1,7 @@
 #include "toolbar/ButtonContent.h"
 
 #include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/DisabledText.h"
 
 namespace {
 
@@ -50,11 +51,8 @@ void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRec
     Canvas->Font = Font;
     Canvas->Brush->Style = bsClear;
     if (Disabled) {
-        OffsetRect(R, 1, 1);
-        Canvas->Font->Color = clBtnHighlight;
-        DrawText(Canvas->Handle, Text, R, Flags);
-        OffsetRect(R, -1, -1);
-        Canvas->Font->Color = clBtnShadow;
+        DrawDisabledText(Canvas->Handle, Text, R, Flags);
+        return;
     }
     DrawText(Canvas->Handle, Text, R, Flags);
 }

@@ -1,6 +1,7 @@
 #include "vcl/buttons/ButtonGlyph.h"
 
 #include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/DisabledText.h"
 
 TButtonGlyph::TButtonGlyph()
 {
@@ -168,11 +169,8 @@ void TButtonGlyph::DrawCaption(TCanvas* Canvas, const TContent& Content, TRect R
     unsigned Flags = DT_CENTER | DT_VCENTER | Content.TextFlags;
     Canvas->Brush->Style = bsClear;
     if (Content.State == bsDisabled) {
-        OffsetRect(R, 1, 1);
-        Canvas->Font->Color = clBtnHighlight;
-        DrawText(Canvas->Handle, Content.Caption, R, Flags);
-        OffsetRect(R, -1, -1);
-        Canvas->Font->Color = clBtnShadow;
+        DrawDisabledText(Canvas->Handle, Content.Caption, R, Flags);
+        return;
     }
     DrawText(Canvas->Handle, Content.Caption, R, Flags);
 }

@@ -2,6 +2,7 @@
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/Writer.h"
 #include "vcl/forms/CustomForm.h"
+#include "vcl/forms/RootChildren.h"
 
 void TCustomForm::ReadState(TReader& Reader)
 {
@@ -65,11 +66,7 @@ bool TCustomForm::IsFormSizeStored() const
 void TCustomForm::GetChildren(const TGetChildProc& Proc, TComponent* Root)
 {
     TScrollingWinControl::GetChildren(Proc, Root);
-    if (Root != this)
-        return;
-    for (int I = 0; I < ComponentCount; ++I)
-        if (!Components[I]->HasParent())
-            Proc(Components[I]);
+    GetRootChildren(this, Proc, Root);
 }
 
 void TCustomForm::DefineProperties(TFiler& Filer)

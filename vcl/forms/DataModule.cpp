@@ -3,6 +3,7 @@
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/Writer.h"
 #include "vcl/forms/Application.h"
+#include "vcl/forms/RootChildren.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -52,11 +53,7 @@ void TDataModule::DoDestroy()
 
 void TDataModule::GetChildren(const TGetChildProc& Proc, TComponent* Root)
 {
-    if (Root != this)
-        return;
-    for (int I = 0; I < ComponentCount; ++I)
-        if (!Components[I]->HasParent())
-            Proc(Components[I]);
+    GetRootChildren(this, Proc, Root);
 }
 
 template <auto Member>

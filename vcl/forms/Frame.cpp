@@ -1,6 +1,7 @@
 #include "vcl/forms/Frame.h"
 
 #include "vcl/classes/Reader.h"
+#include "vcl/forms/RootChildren.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TCustomFrame::Describe(TClassBuilder<TCustomFrame>&)
@@ -21,11 +22,7 @@ void TCustomFrame::CreateParams(TCreateParams& Params)
 void TCustomFrame::GetChildren(const TGetChildProc& Proc, TComponent* Root)
 {
     TScrollingWinControl::GetChildren(Proc, Root);
-    if (Root != this)
-        return;
-    for (int I = 0; I < ComponentCount; ++I)
-        if (!Components[I]->HasParent())
-            Proc(Components[I]);
+    GetRootChildren(this, Proc, Root);
 }
 
 void TCustomFrame::DefineProperties(TFiler& Filer)

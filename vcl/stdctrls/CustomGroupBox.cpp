@@ -1,5 +1,6 @@
 #include "vcl/stdctrls/CustomGroupBox.h"
 
+#include "vcl/graphics/DisabledText.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -67,11 +68,8 @@ void TCustomGroupBox::DrawTitle()
     Canvas->FillRect(R);
     if (!Enabled) {
         Canvas->Brush->Style = bsClear;
-        OffsetRect(R, 1, 1);
-        Canvas->Font->Color = clBtnHighlight;
-        DrawText(Canvas->Handle, Text, R, Flags);
-        OffsetRect(R, -1, -1);
-        Canvas->Font->Color = clBtnShadow;
+        DrawDisabledText(Canvas->Handle, Text, R, Flags);
+        return;
     }
     DrawText(Canvas->Handle, Text, R, Flags);
 }

@@ -2,6 +2,7 @@
 
 #include "vcl/controls/WinControl.h"
 #include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/DisabledText.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -53,11 +54,8 @@ void TCustomLabel::DoDrawText(TRect& Rect, unsigned Flags)
     }
     Canvas->Font = Font;
     if (!Enabled) {
-        OffsetRect(Rect, 1, 1);
-        Canvas->Font->Color = clBtnHighlight;
-        DrawText(Canvas->Handle, Text, Rect, Flags);
-        OffsetRect(Rect, -1, -1);
-        Canvas->Font->Color = clBtnShadow;
+        DrawDisabledText(Canvas->Handle, Text, Rect, Flags);
+        return;
     }
     DrawText(Canvas->Handle, Text, Rect, Flags);
 }
