@@ -13,7 +13,7 @@ struct TMemoStyle {
 // In the order of the items of StyleMenu.
 const TMemoStyle MemoStyles[] = {
     {"Tahoma", 16, {}, clWindowText},
-    {"Tahoma", 26, {fsBold}, clNavy},
+    {"Tahoma", 21, {fsBold}, clNavy},
     {"Times New Roman", 19, {fsItalic}, clMaroon},
     {"Courier New", 16, {}, clGreen},
 };
@@ -50,7 +50,7 @@ AnsiString SavedFile()
 {
     wchar_t Folder[MAX_PATH + 1] = {};
     GetTempPathW(MAX_PATH, Folder);
-    return FromWide(Folder) + "Tessary showcase";
+    return FromWide(Folder) + Application->Title;
 }
 
 } // namespace

@@ -56,20 +56,13 @@ TSharedPicture SampleSheet(const TSize& Size)
 
 } // namespace
 
-TDrawing::TDrawing(TPaintBox* Paper) : FPaper(Paper), FSheet(Paper->Width, Paper->Height)
+TDrawing::TDrawing(TPaintBox* Paper) : FPaper(Paper), FSheet(Paper->Width, Paper->Height), FPicture(SampleSheet(FSheet))
 {
     Paper->ControlStyle = Paper->ControlStyle + TControlStyle{csOpaque};
     Paper->OnPaint = {this, &TDrawing::PaperPaint};
     Paper->OnMouseDown = {this, &TDrawing::PaperMouseDown};
     Paper->OnMouseMove = {this, &TDrawing::PaperMouseMove};
     Paper->OnMouseUp = {this, &TDrawing::PaperMouseUp};
-}
-
-const TSharedPicture& TDrawing::GetPicture()
-{
-    if (!FPicture)
-        FPicture = SampleSheet(FSheet);
-    return FPicture;
 }
 
 void TDrawing::SetPicture(TSharedPicture Value)
@@ -97,7 +90,7 @@ void TDrawing::SetZoom(int Value)
 TCanvas* TDrawing::BeginChange()
 {
     auto Changed = std::make_shared<TBitmap>();
-    Changed->Assign(GetPicture().get());
+    Changed->Assign(FPicture.get());
     FPicture = std::move(Changed);
     return FPicture->Canvas;
 }
@@ -123,7 +116,7 @@ void TDrawing::SetPens(TCanvas* Canvas, int Scale) const
 void TDrawing::ApplyTool(const TPoint& P)
 {
     if (Tool == dtPickColor) {
-        LineColor = GetPicture()->Canvas->Pixels[P.x][P.y];
+        LineColor = FPicture->Canvas->Pixels[P.x][P.y];
         OnPick(this);
         return;
     }
@@ -184,7 +177,7 @@ TPoint TDrawing::OnSheet(int X, int Y) const
 
 void TDrawing::PaperPaint(TObject*)
 {
-    TBitmap* Sheet = GetPicture().get();
+    TBitmap* Sheet = FPicture.get();
     if (FZoom == 100)
         FPaper->Canvas->Draw(0, 0, Sheet);
     else

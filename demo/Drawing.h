@@ -32,9 +32,8 @@ public:
     // What the text tool writes.
     AnsiString Text;
 
-    // The picture as it is now; it is not changed any more. A sample until something is drawn. Setting nullptr brings
-    // the sample back.
-    const TSharedPicture& GetPicture();
+    // The picture as it is now, at first a sample; it is not changed any more.
+    const TSharedPicture& GetPicture() const { return FPicture; }
     void SetPicture(TSharedPicture Value);
     PROPERTY(TSharedPicture, Picture);
     void Clear();

@@ -49,7 +49,8 @@ void DrawPointer(TCanvas* Canvas, const TRect& Window)
 BOOL CALLBACK BringUp(HWND Window, LPARAM)
 {
     if (IsWindowVisible(Window) && GetWindowLongW(Window, GWL_EXSTYLE) & WS_EX_TOPMOST)
-        SetWindowPos(Window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        for (HWND Place : {HWND_NOTOPMOST, HWND_TOPMOST, HWND_TOP})
+            SetWindowPos(Window, Place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     return TRUE;
 }
 

@@ -7,7 +7,7 @@
 
 struct TDocumentState {
     AnsiString Text;
-    TSharedPicture Picture; // nullptr: the one it began with
+    TSharedPicture Picture;
 
     friend bool operator==(const TDocumentState& A, const TDocumentState& B) = default;
 };

@@ -17,7 +17,7 @@ void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
     Class.Field<&Self::ViewBar>("ViewBar");
     Class.Field<&Self::ToolsBar>("ToolsBar");
     Class.Field<&Self::DrawingBar>("DrawingBar");
-    Class.Field<&Self::OpenButton>("OpenButton");
+    Class.Field<&Self::CountButton>("CountButton");
     Class.Field<&Self::UndoButton>("UndoButton");
     Class.Field<&Self::RedoButton>("RedoButton");
     Class.Field<&Self::BoldButton>("BoldButton");
@@ -92,7 +92,7 @@ void TMainForm::FormCreate(TObject*)
     FDrawing = std::make_unique<TDrawing>(Paper);
     FDrawing->OnChange = {this, &TMainForm::DrawingChange};
     FDrawing->OnPick = {this, &TMainForm::ColorPicked};
-    FHistory.Start({Memo->Text, nullptr});
+    FHistory.Start({Memo->Text, FDrawing->Picture});
     Application->OnHint = {this, &TMainForm::ShowHint};
 }
 

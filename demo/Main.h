@@ -28,7 +28,7 @@ public:
     TkelToolBar* DrawingBar = nullptr;
 
     // Items of the bars.
-    TkelTBButton* OpenButton = nullptr;
+    TkelTBButton* CountButton = nullptr;
     TkelTBButton* UndoButton = nullptr;
     TkelTBButton* RedoButton = nullptr;
     TkelTBButton* BoldButton = nullptr;

@@ -46,7 +46,7 @@ int TTour::FirstRun()
 
 void TTour::ShowButtons()
 {
-    FGuide.PointAt(FForm->OpenButton);
+    FGuide.PointAt(FForm->CountButton);
     FGuide.TakePicture("hot");
 
     FGuide.SetHints(true);
@@ -55,7 +55,7 @@ void TTour::ShowButtons()
     FGuide.TakePicture("disabled");
     FGuide.SetHints(false);
 
-    FGuide.PointAt(FForm->OpenButton);
+    FGuide.PointAt(FForm->CountButton);
     FGuide.Press();
     FGuide.TakePicture("pressed");
     FGuide.Release();
