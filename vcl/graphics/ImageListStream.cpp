@@ -1,8 +1,9 @@
 // TCustomImageList in form files: the system's own stream of an image list.
 #include "vcl/classes/Filer.h"
-#include "vcl/graphics/ComStream.h"
 #include "vcl/graphics/GraphicStream.h"
 #include "vcl/graphics/ImageList.h"
+
+#include <objidl.h>
 
 #include <cstring>
 
@@ -32,6 +33,40 @@ static_assert(sizeof(TListHeader) == 28);
 
 constexpr uint16_t ListMagic = 0x4C49;
 constexpr uint16_t ListVersion = 0x0101;
+
+class TComStream {
+public:
+    explicit TComStream(std::span<const uint8_t> Bytes)
+    {
+        HGLOBAL Memory = GlobalAlloc(GMEM_MOVEABLE, Bytes.size());
+        if (!Memory)
+            RaiseOutOfResources();
+        if (!Bytes.empty()) {
+            std::memcpy(GlobalLock(Memory), Bytes.data(), Bytes.size());
+            GlobalUnlock(Memory);
+        }
+        if (FAILED(CreateStreamOnHGlobal(Memory, TRUE, &FStream)))
+            RaiseOutOfResources();
+    }
+    TComStream(const TComStream&) = delete;
+    ~TComStream() { FStream->Release(); }
+
+    IStream* Get() { return FStream; }
+
+    std::vector<uint8_t> Bytes()
+    {
+        STATSTG Stat{};
+        FStream->Stat(&Stat, STATFLAG_NONAME);
+        std::vector<uint8_t> Bytes(static_cast<size_t>(Stat.cbSize.QuadPart));
+        FStream->Seek({}, STREAM_SEEK_SET, nullptr);
+        ULONG Count = 0;
+        FStream->Read(Bytes.data(), static_cast<ULONG>(Bytes.size()), &Count);
+        return Bytes;
+    }
+
+private:
+    IStream* FStream = nullptr;
+};
 
 [[noreturn]] void RaiseUnreadable()
 {
@@ -98,7 +133,7 @@ void TCustomImageList::ReadData(TStream* Stream)
     std::vector<uint8_t> Bytes = ReadToEnd(Stream);
     TListHeader Header = CheckListStream(Bytes);
     TComStream Source(Bytes);
-    HIMAGELIST Handle = ImageList_Read(&Source);
+    HIMAGELIST Handle = ImageList_Read(Source.Get());
     if (!Handle)
         RaiseUnreadable();
     FMasked = Header.Flags & ILC_MASK;
@@ -113,8 +148,8 @@ void TCustomImageList::WriteData(TStream* Stream)
         WriteBytes(Stream, FFile);
         return;
     }
-    TComStream Target;
-    if (!ImageList_Write(GetHandle(), &Target))
+    TComStream Target({});
+    if (!ImageList_Write(GetHandle(), Target.Get()))
         throw EWriteError("Failed to write ImageList data to stream");
     WriteBytes(Stream, Target.Bytes());
 }
