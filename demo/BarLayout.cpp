@@ -33,6 +33,7 @@ void TBarLayout::PutBack(const TPlace& Place)
 std::vector<TkelToolBar*> TBarLayout::Bars() const
 {
     std::vector<TkelToolBar*> Bars;
+    Bars.reserve(FPlaces.size());
     for (const TPlace& Place : FPlaces)
         Bars.push_back(Place.Bar);
     return Bars;
