@@ -110,7 +110,7 @@ void TkelToolBar::DragFree(const TPoint& Pointer, const TPoint& P)
 }
 
 // Leaves the dock. The pointer keeps its place along the bar; a bar that a quick hand has left behind comes along as it
-// was taken.
+// was taken, or by its caption.
 void TkelToolBar::TearOff(const TPoint& P)
 {
     const bool WasVertical = !LiesHorizontally();
@@ -123,7 +123,7 @@ void TkelToolBar::TearOff(const TPoint& P)
     if (WasVertical)
         FAnchor = {AlongY, CapSize};
     else
-        FAnchor = {AlongX, P.Y < 0 ? Height + P.Y : CapSize};
+        FAnchor = {AlongX, P.Y < 0 ? std::max(Height + P.Y, -CapSize / 2) : CapSize};
 }
 
 // So that the drag goes on when the window that had the mouse is gone, hidden or elsewhere.

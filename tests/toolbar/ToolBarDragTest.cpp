@@ -342,6 +342,14 @@ TEST_F(ToolBarDragTest, ABarThatTheHandHasLeftBehindComesAlongAsItWasTaken)
     EXPECT_EQ(InBar(Bar), TPoint(40, CapSize));
 }
 
+TEST_F(ToolBarDragTest, ABarThatAQuickHandPullsUpComesAlongByItsCaption)
+{
+    TTestBar* Bar = GrabbedBar(Bottom, 50, 40, 13);
+    PullTo(Bar, 40, -200);
+    ASSERT_TRUE(Bar->Floating);
+    EXPECT_EQ(InBar(Bar), TPoint(40, -CapSize / 2));
+}
+
 TEST_F(ToolBarDragTest, ABarGoesFromDockToDock)
 {
     TTestBar* Bar = GrabbedBar(Top, 50, 40, 13);

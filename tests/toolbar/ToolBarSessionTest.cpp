@@ -1,0 +1,166 @@
+// A long session with the mouse, at random but always the same for one seed: the messages go to the windows that the
+// system would send them to, at once and in order, so that no timing plays a part.
+#include "tests/toolbar/DockFixture.h"
+#include "toolbar/Flpfrm97.h"
+
+#include <random>
+#include <set>
+
+namespace {
+
+constexpr int ActionCount = 10000;
+
+class ToolBarSessionTest : public DockFixture {
+protected:
+    void SetUp() override
+    {
+        Form->SetBounds(200, 150, 700, 500);
+        for (TAlign Align : {alTop, alBottom, alLeft, alRight})
+            Docks.push_back(NewDock(Align));
+        for (int I = 0; I < 8; ++I) {
+            TTestBar* Bar = InsertBar(Docks[I % 4], "Bar" + std::to_string(I), 20 * I, 90 + 30 * I, I == 5 ? 34 : 26);
+            for (int Button = 0; Button < 1 + I / 2; ++Button)
+                NewButton(Bar, Button == 2 ? alRight : alLeft);
+            if (I == 3)
+                Separate(Bar);
+            Bar->AutoSave = I == 0;
+            Bar->SortControls();
+            Bars.push_back(Bar);
+        }
+        Show();
+    }
+
+    void Separate(TTestBar* Bar)
+    {
+        auto* Separator = new TkelTBSeparator(Form.get());
+        Separator->Align = alLeft;
+        Separator->Parent = Bar;
+    }
+
+    int Random(int Below) { return static_cast<int>(Generator() % static_cast<unsigned>(Below)); }
+    TPoint RandomPoint() { return Form->ClientToScreen({Random(760) - 30, Random(540) - 30}); }
+
+    // Somewhere on a bar or on the caption of its frame.
+    TPoint RandomGrip()
+    {
+        const TTestBar* Bar = Bars[Random(8)];
+        if (!Bar->Visible)
+            return RandomPoint();
+        if (Bar->Floating && Random(2) == 0)
+            return Bar->ClientToScreen({Random(Bar->Width / 2), -8});
+        return Bar->ClientToScreen({Random(Bar->Width), Random(Bar->Height)});
+    }
+
+    void Send(UINT Message, WPARAM Keys, const TPoint& Place)
+    {
+        const HWND Below = WindowFromPoint(Place);
+        const HWND Window = GetCapture() ? GetCapture() : Below;
+        const bool Inside = SendMessageW(Below, WM_NCHITTEST, 0, MAKELPARAM(Place.X, Place.Y)) == HTCLIENT;
+        if (!GetCapture() && (!FindControl(Window) || !Inside))
+            return;
+        POINT P = Place;
+        MapWindowPoints(nullptr, Window, &P, 1);
+        SendMessageW(Window, Message, Keys, MAKELPARAM(P.x, P.y));
+        PumpMessages();
+    }
+
+    // One stroke: take something, move it about, let it go. Returns the number of actions. The right button's release
+    // is left out: it would open the system's menus.
+    int Stroke()
+    {
+        const bool Left = Random(10) != 0;
+        const WPARAM Keys = Left ? MK_LBUTTON : MK_RBUTTON;
+        TPoint Place = RandomGrip();
+        Send(WM_MOUSEMOVE, 0, Place);
+        Send(Left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN, Keys, Place);
+        const int Moves = 1 + Random(8);
+        for (int Move = 0; Move < Moves; ++Move) {
+            Place = Random(3) == 0 ? Place + TPoint(Random(9) - 4, Random(9) - 4) : RandomPoint();
+            Send(WM_MOUSEMOVE, Keys, Place);
+        }
+        if (Left)
+            Send(WM_LBUTTONUP, 0, Place);
+        EXPECT_EQ(GetCapture(), nullptr) << "the button is up";
+        ReleaseCapture();
+        return Moves + 3;
+    }
+
+    void HideOrShowSomething()
+    {
+        TTestBar* Bar = Bars[Random(8)];
+        if (Hidden.erase(Bar)) {
+            Bar->ShowPanel();
+        } else {
+            Bar->HidePanel();
+            Hidden.insert(Bar);
+        }
+    }
+
+    // Whatever has happened, the user can get at every bar that nobody has hidden.
+    void ExpectReachable() const
+    {
+        for (const TTestBar* Bar : Bars) {
+            SCOPED_TRACE(Bar->Name + ": " + Describe(Bar));
+            ASSERT_EQ(Bar->Visible, !Hidden.contains(Bar));
+            ASSERT_EQ(Bar->Floating, Bar->Dock == nullptr);
+            ASSERT_GE(std::min(Bar->Width, Bar->Height), 26);
+            if (!Bar->Visible)
+                continue;
+            if (Bar->Floating) {
+                ASSERT_TRUE(IsWindowVisible(Bar->Frame->Handle));
+                ASSERT_NE(MonitorFromWindow(Bar->Frame->Handle, MONITOR_DEFAULTTONULL), nullptr);
+                continue;
+            }
+            TRect Seen;
+            const TRect Inside(0, 0, Bar->Dock->Width, Bar->Dock->Height);
+            ASSERT_TRUE(IntersectRect(Seen, Bar->BoundsRect, Inside));
+        }
+    }
+
+    static std::string Describe(const TTestBar* Bar)
+    {
+        const TRect R = Bar->Floating ? Bar->Frame->BoundsRect : Bar->BoundsRect;
+        return (Bar->Dock ? "edge " + std::to_string(Bar->Dock->Align) : "floating") + " " + std::to_string(R.left) +
+               "," + std::to_string(R.top) + " " + std::to_string(R.Width()) + "x" + std::to_string(R.Height());
+    }
+
+    std::string Play(unsigned Seed)
+    {
+        Generator.seed(Seed);
+        for (int Actions = 0; Actions < ActionCount; ++Actions) {
+            Actions += Stroke();
+            if (Random(8) == 0)
+                HideOrShowSomething();
+            ExpectReachable();
+            if (HasFatalFailure())
+                return "failed after " + std::to_string(Actions) + " actions";
+        }
+        std::string Text;
+        for (const TTestBar* Bar : Bars)
+            Text += Bar->Name + " " + Describe(Bar) + "\n";
+        for (const TkelDock* Dock : Docks)
+            Text += Layout(Dock) + "\n";
+        return Text;
+    }
+
+    std::mt19937 Generator;
+    std::vector<TkelDock*> Docks;
+    std::vector<TTestBar*> Bars;
+    std::set<const TTestBar*> Hidden;
+
+    static inline std::string FirstLayout;
+};
+
+} // namespace
+
+TEST_F(ToolBarSessionTest, TenThousandActionsLoseNoBar)
+{
+    FirstLayout = Play(20260317);
+}
+
+TEST_F(ToolBarSessionTest, TheSameSeedGivesTheSameLayout)
+{
+    if (FirstLayout.empty())
+        GTEST_SKIP() << "the session that this one is compared with did not run";
+    EXPECT_EQ(Play(20260317), FirstLayout);
+}
