@@ -5,7 +5,8 @@
 
 namespace {
 
-constexpr int RowHeight = 26; // of a bar
+constexpr int RowHeight = 26;     // of a bar
+constexpr int CaptionMiddle = 10; // above the inside of a floating frame
 
 void Expect(bool Condition, std::string_view What)
 {
@@ -157,6 +158,16 @@ void TTour::ShowHiding()
     FGuide.WaitFor("a bar to be hidden", [this] { return !FForm->FileBar->Visible; });
 }
 
+// The dock has no other bars: it is a line, and the bar comes near enough to it from above.
+void TTour::DockByCaption(TkelToolBar* Bar, TkelDock* Dock)
+{
+    FGuide.DragTo(PlaceIn(Bar, 60, -CaptionMiddle), "the pointer", [] { return true; });
+    FGuide.Press();
+    FGuide.DragTo(PlaceIn(Dock, 100, -2 * CaptionMiddle), "a bar to be docked", [&] { return !Bar->Floating; });
+    FGuide.Release();
+    Expect(LiesIn(Bar, Dock, 0) && Dock->Height == RowHeight, "a dock has room for its bar");
+}
+
 void TTour::SecondRun()
 {
     FGuide.Begin();
@@ -164,6 +175,7 @@ void TTour::SecondRun()
     Expect(!FForm->FileBar->Visible, "a hidden bar stays hidden");
     Expect(FForm->EditBar->Parent == FForm->DockLeft, "a bar comes back to the dock it was in");
     Expect(FForm->DrawingBar->Floating, "a floating bar floats again");
+    DockByCaption(FForm->DrawingBar, FForm->DockBottom);
 
     FForm->ResetLayout();
     FGuide.TakePicture("reset");

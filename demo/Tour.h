@@ -6,6 +6,8 @@
 #include "demo/Guide.h"
 
 class TMainForm;
+class TkelDock;
+class TkelToolBar;
 
 class TTour {
 public:
@@ -25,6 +27,7 @@ private:
     void ShowTurning();
     void ShowFloating();
     void ShowHiding();
+    void DockByCaption(TkelToolBar* Bar, TkelDock* Dock);
 
     TMainForm* FForm;
     TGuide FGuide;
