@@ -123,9 +123,16 @@ void TkelComboButton::SetGroupIndex(int Value)
     FMain->GroupIndex = Value;
 }
 
+// Upright, as in a vertical bar, the arrow is below.
 void TkelComboButton::AlignControls(TControl* Control, TRect& Rect)
 {
-    FArrow->Width = Height / 2;
+    if (Height > Width) {
+        FArrow->Align = alBottom;
+        FArrow->Height = Width / 2;
+    } else {
+        FArrow->Align = alRight;
+        FArrow->Width = Height / 2;
+    }
     inherited::AlignControls(Control, Rect);
 }
 

@@ -108,7 +108,7 @@ TEST_F(ColorComboButtonTest, TheBandIsAsWideAsTheButtonAndStaysAtItsFoot)
     TPixelImage Expected(45, 30, clBtnFace);
     Expected.Fill({3, 25, 42, 28}, clBlue);
     EXPECT_TRUE(SamePixels(PaintToBitmap(Combo).Part({0, 0, 45, 30}), Expected));
-    Combo->SetBounds(100, 0, 17, 22); // no room for it
+    Combo->SetBounds(100, 0, 6, 22); // no room for it
     EXPECT_EQ(PaintToBitmap(Combo).CountOf(clBlue), 0);
 }
 

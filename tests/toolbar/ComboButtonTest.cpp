@@ -99,6 +99,16 @@ TEST_F(ComboButtonTest, ANewComboButtonHasTwoHalves)
     EXPECT_STREQ(FreshMain->ClassName(), "TkelSpeedButton");
 }
 
+TEST_F(ComboButtonTest, UprightTheArrowIsBelowTheMainHalf)
+{
+    Combo->SetBounds(100, 10, 22, 33);
+    EXPECT_EQ(Main->BoundsRect, TRect(0, 0, 22, 22));
+    EXPECT_EQ(Arrow->BoundsRect, TRect(0, 22, 22, 33));
+    Combo->SetBounds(100, 10, 33, 22);
+    EXPECT_EQ(Main->BoundsRect, MainArea);
+    EXPECT_EQ(Arrow->BoundsRect, ArrowArea);
+}
+
 TEST_F(ComboButtonTest, TheArrowsGroupIsRandom)
 {
     std::set<int> Groups;
