@@ -54,6 +54,10 @@ int main(int Count, char** Arguments)
         {"hot_track", &HotTrackBench},
         {"buttons_memory", &ButtonsMemoryBench},
         {"form_load", &FormLoadBench},
+        {"drag_step", &DragStepBench},
+        {"float_dock", &FloatDockBench},
+        {"bar_records", &BarRecordsBench},
+        {"bar_layout", &BarLayoutBench},
         {"startup", &StartupBench},
     };
     try {

@@ -35,4 +35,8 @@ void ButtonsRepaintBench();
 void HotTrackBench();
 void ButtonsMemoryBench();
 void FormLoadBench();
+void DragStepBench();
+void FloatDockBench();
+void BarRecordsBench();
+void BarLayoutBench();
 void StartupBench();
