@@ -43,7 +43,8 @@ void TFPForm97::CarryBar(TkelToolBar& Bar, bool Resizable, bool CloseBox)
 
 TPoint TFPForm97::BarOffset() const
 {
-    return ClientOrigin - TPoint(Left, Top + CapSize);
+    const int Border = (Width - ClientWidth) / 2;
+    return {Border, Height - ClientHeight - Border - CapSize};
 }
 
 void TFPForm97::FormCreate(TObject*)

@@ -94,8 +94,10 @@ void TkelToolBar::PlaceDragBox()
 // How the bar looks in a dock: raised and with its grip.
 void TkelToolBar::SetDockedLook(bool Docked)
 {
+    DisableAlign();
     BevelInner = Docked ? bvRaised : bvNone;
     FDragBox->Visible = Docked;
+    EnableAlign();
 }
 
 void TkelToolBar::InsertToDock()
@@ -105,11 +107,13 @@ void TkelToolBar::InsertToDock()
         return;
     if (!LayoutSuspended)
         DoStatic();
-    SetDockedLook(true);
     const TDockAxis Axis = InDock->Axis();
+    DisableAlign();
+    SetDockedLook(true);
     if (Axis.IsVertical() ? Width > Height : Height > Width)
         TurnTo(Axis.IsVertical());
     PlaceDragBox();
+    EnableAlign();
     const int Place = Axis.Thickness(*InDock);
     Axis.SetRow(*this, Place);
     if (Axis.IsVertical() || LeadsRow())

@@ -1,8 +1,8 @@
 // Docks and bars on a form. Places are told along and across the dock, so that a test holds for every edge.
 #pragma once
 
-#include "tests/support/FormTest.h"
 #include "common/Settings.h"
+#include "tests/support/FormTest.h"
 #include "toolbar/Tsy_toolbar.h"
 
 // A bar that hands its mouse methods out and counts its events. Its place is not saved unless AutoSave is set.

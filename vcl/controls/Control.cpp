@@ -264,8 +264,7 @@ void TControl::InvalidateControl(bool IsVisible, bool IsOpaque)
 {
     if (!(IsVisible || IsDesigning()) || !FParent || !FParent->FShowing || !FParent->HandleAllocated())
         return;
-    TRect R = GetBoundsRect();
-    InvalidateRect(FParent->FHandle, &R, !IsOpaque);
+    FParent->InvalidateArea(GetBoundsRect(), !IsOpaque);
 }
 
 void TControl::Invalidate()

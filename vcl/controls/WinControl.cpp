@@ -92,6 +92,7 @@ void TWinControl::Invalidate()
 
 void TWinControl::Update()
 {
+    InvalidatePending();
     if (FHandle)
         UpdateWindow(FHandle);
 }

@@ -226,8 +226,11 @@ private:
     void Remove(TControl* Control);
     void AlignControl(TControl* Control);
     void UpdateShowing();
+    void InvalidateArea(const TRect& Area, bool Erase);
+    void InvalidatePending();
     void UpdateBounds();
     bool IsControlMouseMsg(TWMMouse& Message);
+    bool IsControlContextMenu(TMessage& Message);
     void TrackPointer(const TPoint& Pos, bool Captured);
     bool IsCtl3DStored() const { return !FParentCtl3D; }
     bool SystemPaints() const;
@@ -247,6 +250,8 @@ private:
     int FAlignLevel = 0;
     bool FAligning = false;
     bool FAlignNeeded = false;
+    bool FPendingErase = false;
+    TRect FPending; // what a layout that is going on will have to draw again
     TTabOrder FReadTabOrder = -1;
     bool FTabStop = false;
     bool FShowing = false;

@@ -186,13 +186,32 @@ void TWinControl::AlignControl(TControl* Control)
         FAligning = Outer;
         FAlignNeeded = false;
         --FAlignLevel;
+        InvalidatePending();
         throw;
     }
     FAligning = Outer;
+    InvalidatePending();
     FAlignNeeded = false; // what the placing itself asked for has been done
     --FAlignLevel;
     if (GetAutoSize() && GetControlCount() > 0)
         AdjustSize();
+}
+
+// The places that a layout leaves and takes are drawn again together: asking the system takes its time.
+void TWinControl::InvalidateArea(const TRect& Area, bool Erase)
+{
+    UnionRect(FPending, FPending, Area);
+    FPendingErase |= Erase;
+    if (!FAligning)
+        InvalidatePending();
+}
+
+void TWinControl::InvalidatePending()
+{
+    if (FHandle && !FPending.IsEmpty())
+        InvalidateRect(FHandle, &FPending, FPendingErase);
+    FPending = {};
+    FPendingErase = false;
 }
 
 void TWinControl::EnableAlign()

@@ -119,15 +119,37 @@ void TWinControl::WndProc(TMessage& Message)
         break;
     case WM_CAPTURECHANGED: TMouse::CaptureChanged(reinterpret_cast<HWND>(Message.LParam)); break;
     case WM_MOUSELEAVE: TMouse::UpdateHotControl(); break;
-    default:
-        if (Message.Msg >= WM_MOUSEFIRST && Message.Msg <= WM_MOUSELAST && Message.Msg != WM_MOUSEWHEEL &&
-            IsControlMouseMsg(static_cast<TWMMouse&>(Message)))
+    case WM_CONTEXTMENU:
+        if (IsControlContextMenu(Message))
             return;
+        break;
+    default:
+        if (Message.Msg >= WM_MOUSEFIRST && Message.Msg <= WM_MOUSELAST && Message.Msg != WM_MOUSEWHEEL) {
+            HWND Window = FHandle;
+            if (!IsControlMouseMsg(static_cast<TWMMouse&>(Message)))
+                break;
+            // The system asks for a context menu then. This control may be gone already.
+            if (Message.Msg == WM_RBUTTONUP && Message.Result == 0)
+                DefWindowProcW(Window, Message.Msg, Message.WParam, Message.LParam);
+            return;
+        }
     }
     inherited::WndProc(Message);
 }
 
 // ---- mouse
+
+// A windowless control below the pointer may have a menu of its own.
+bool TWinControl::IsControlContextMenu(TMessage& Message)
+{
+    if (Message.LParam == -1)
+        return false;
+    TControl* Child = ControlAtPos(ScreenToClient({Message.LParamLo(), Message.LParamHi()}), false);
+    if (!Child)
+        return false;
+    Message.Result = Child->Perform(Message.Msg, Message.WParam, Message.LParam);
+    return Message.Result != 0;
+}
 
 bool TWinControl::IsControlMouseMsg(TWMMouse& Message)
 {
