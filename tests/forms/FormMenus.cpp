@@ -1,5 +1,6 @@
 // Menus of forms, with real input.
 #include "tests/forms/KeyTest.h"
+#include "vcl/controls/GraphicControl.h"
 
 using testing::ElementsAre;
 
@@ -22,6 +23,16 @@ protected:
 
     TMainMenu* Menu = nullptr;
     TLog Log;
+};
+
+// Only counts how often it is to open.
+class TCountedMenu : public TPopupMenu {
+public:
+    using TPopupMenu::TPopupMenu;
+
+    void Popup(int, int) override { ++Popups; }
+
+    int Popups = 0;
 };
 
 // Sends keys when the menu is open; the menu has its own message loop.
@@ -85,6 +96,27 @@ TEST_F(FormMenus, ARightClickOpensThePopupMenuOfItsControl)
     EXPECT_THAT(Log, testing::Contains("mark"));
     EXPECT_TRUE(Popup->PopupComponent == B || Popup->PopupComponent == Form.get());
     EXPECT_EQ(Popup->PopupPoint, B->ClientToScreen({20, 10}));
+    MovePointerAway();
+}
+
+TEST_F(FormMenus, ARightClickOnAWindowlessControlOpensItsMenuOrThatOfItsParent)
+{
+    auto* OfForm = new TCountedMenu(Form.get());
+    auto* Own = new TCountedMenu(Form.get());
+    auto* Graphic = new TGraphicControl(Form.get());
+    Graphic->SetBounds(Form->ClientWidth - 30, Form->ClientHeight - 30, 20, 20);
+    Graphic->Parent = Form.get();
+    Form->PopupMenu = OfForm;
+    Form->Open();
+    MovePointerTo(Graphic, 10, 10);
+    ClickButton(mbRight);
+    EXPECT_TRUE(PumpUntil([&] { return OfForm->Popups == 1; }));
+    EXPECT_EQ(OfForm->PopupComponent, Form.get());
+    Graphic->PopupMenu = Own;
+    ClickButton(mbRight);
+    EXPECT_TRUE(PumpUntil([&] { return Own->Popups == 1; }));
+    EXPECT_EQ(Own->PopupComponent, Graphic);
+    EXPECT_EQ(OfForm->Popups, 1);
     MovePointerAway();
 }
 
