@@ -231,7 +231,6 @@ private:
     void UpdateBounds();
     bool IsControlMouseMsg(TWMMouse& Message);
     bool IsControlContextMenu(TMessage& Message);
-    bool IsControlContextMenu(TMessage& Message);
     void TrackPointer(const TPoint& Pos, bool Captured);
     bool IsCtl3DStored() const { return !FParentCtl3D; }
     bool SystemPaints() const;
