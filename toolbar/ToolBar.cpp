@@ -133,6 +133,9 @@ void TkelToolBar::AlignControls(TControl* Control, TRect& Rect)
 {
     if (HandleAllocated() && IsWindowVisible(Handle))
         Aligning();
+    // In front of an item at 0, too: of two at one place the one that moved last would come first.
+    if (FDragBox->Visible)
+        FDragBox->SetBounds(-1, -1, FDragBox->Width, FDragBox->Height);
     inherited::AlignControls(Control, Rect);
 }
 
