@@ -139,6 +139,15 @@ void TGuide::DragTo(const TPoint& Target, std::string_view What, const std::func
         GiveUp(What);
 }
 
+void TGuide::ClickAt(const TPoint& Place, std::string_view What, const std::function<bool()>& Condition)
+{
+    if (!MovePointerUntil(Place, [] { return true; }, Patience))
+        GiveUp("the pointer to move");
+    SendButton(mbLeft, true);
+    SendButton(mbLeft, false);
+    WaitFor(What, Condition);
+}
+
 void TGuide::ChooseFromMenuOf(TControl* Control, const TPoint& Place, int Index, std::string_view Picture)
 {
     MovePointer(Control->ClientToScreen(Place), Control);

@@ -31,6 +31,8 @@ public:
     void Click(TControl* Control);
     // With the button down: in steps to a place on the screen, until Condition holds there.
     void DragTo(const TPoint& Target, std::string_view What, const std::function<bool()>& Condition);
+    // On whatever is there, until Condition holds.
+    void ClickAt(const TPoint& Place, std::string_view What, const std::function<bool()>& Condition);
     // Opens the control's popup menu with the right button, takes a picture and chooses the item at Index.
     void ChooseFromMenuOf(TControl* Control, const TPoint& Place, int Index, std::string_view Picture);
 

@@ -31,6 +31,7 @@ void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
     Class.Field<&Self::DocumentButton>("DocumentButton");
     Class.Field<&Self::GalleryButton>("GalleryButton");
     Class.Field<&Self::BarsButton>("BarsButton");
+    Class.Field<&Self::Separator1>("Separator1");
     Class.Field<&Self::LineColorCombo>("LineColorCombo");
     Class.Field<&Self::DocumentPage>("DocumentPage");
     Class.Field<&Self::Memo>("Memo");

@@ -42,6 +42,7 @@ public:
     TkelTBButton* DocumentButton = nullptr;
     TkelTBButton* GalleryButton = nullptr;
     TkelTBPopup* BarsButton = nullptr;
+    TkelTBSeparator* Separator1 = nullptr;
     TkelTBColorCombo* LineColorCombo = nullptr;
 
     // What the commands act on.

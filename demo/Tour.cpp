@@ -2,6 +2,7 @@
 
 #include "demo/Main.h"
 #include "glyphs/toolbar16.h"
+#include "toolbar/Flpfrm97.h"
 
 namespace {
 
@@ -152,8 +153,18 @@ void TTour::ShowFloating()
     FGuide.Release();
 }
 
+// A frame's close box hides its bar; the menu of all bars brings it back, and hides another.
 void TTour::ShowHiding()
 {
+    const TkelToolBar* Drawing = FForm->DrawingBar;
+    const TForm* Frame = Drawing->Frame;
+    const TPoint CloseBox(Frame->Left + Frame->Width - CaptionMiddle - 2, Frame->Top + CaptionMiddle + 2);
+    FGuide.ClickAt(CloseBox, "a bar to be hidden by its close box", [&] { return !Drawing->Visible; });
+    const TPoint OnSeparator(FForm->Separator1->Width / 2, FForm->Separator1->Height / 2);
+    FGuide.ChooseFromMenuOf(FForm->Separator1, OnSeparator, 5, "hidden");
+    FGuide.WaitFor("a bar to be shown", [&] { return Drawing->Visible; });
+    Expect(Drawing->Floating, "a bar comes back where it was");
+
     FGuide.ChooseFromMenuOf(FForm->DockTop, {600, RowHeight / 2}, 0, "menu");
     FGuide.WaitFor("a bar to be hidden", [this] { return !FForm->FileBar->Visible; });
 }
