@@ -80,7 +80,7 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Hint = 'Print|Saves the text and hands it to the program that prints texts'
+        Hint = 'Print|Saves the text and has it printed'
         Flat = True
         GlyphIndex = 3
         Glyphs = ToolGlyphs
@@ -934,21 +934,25 @@ object MainForm: TMainForm
       Font.Style = []
       HideSelection = False
       Lines.Strings = (
-        'This text is here to be worked on. The bars along the edges of t' +
+        
+          'This text is here to be worked on. The bars along the edges of t' +
           'he window act on it, and on the drawing beside it.'
         ''
-        'Bars are dragged by their grip, by a separator or by whatever of' +
+        
+          'Bars are dragged by their grip, by a separator or by whatever of' +
           ' them is not a button. Along an edge they lie in rows; at the le' +
           'ft and at the right they stand upright. Off the edges they float' +
           ' in a frame of their own, and in the frame they are dragged by i' +
           'ts caption.'
         ''
-        'A right click on a bar, or on the room beside it, lists all bars' +
+        
+          'A right click on a bar, or on the room beside it, lists all bars' +
           '. So does the first button of the bar "View". What is hidden com' +
           'es back there, and the last item puts everything back to where i' +
           't was at first.'
         ''
-        'Leave the program and start it again: bars and window are where ' +
+        
+          'Leave the program and start it again: bars and window are where ' +
           'they were.')
       ParentFont = False
       ScrollBars = ssVertical
