@@ -1,7 +1,7 @@
 #include "toolbar/ToolBar.h"
 
-#include "toolbar/FlagScope.h"
 #include "toolbar/Flpfrm97.h"
+#include "toolbar/ScopedValue.h"
 #include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBarPosition.h"
 #include "vcl/registry/Registry.h"
@@ -45,6 +45,8 @@ TkelToolBar::TkelToolBar(TComponent* AOwner) : TkelCustomPanel(AOwner)
 
 void TkelToolBar::BeforeDestruction()
 {
+    if (Dragged == this)
+        Dragged = nullptr;
     CloseFrame(LeaveFrame());
     inherited::BeforeDestruction();
 }
@@ -62,7 +64,7 @@ void TkelToolBar::SetParent(TWinControl* Value)
 
 void TkelToolBar::Loaded()
 {
-    TFlagScope Suspended(LayoutSuspended);
+    const TScopedValue Suspended(LayoutSuspended, true, false);
     inherited::Loaded();
     SortControls();
     if (FAutoSave && !IsDesigning())

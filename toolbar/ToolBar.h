@@ -157,7 +157,7 @@ private:
     static void CloseFrame(TFPForm97* Emptied);
 
     static inline bool LayoutSuspended = false;
-    static inline bool InDragStep = false;
+    static inline TkelToolBar* Dragged = nullptr; // during a step of its drag
 
     int FRowThickness = 0;
     TPoint FAnchor; // where in the bar the drag began

@@ -1,6 +1,6 @@
 // Dragging a bar, and floating.
-#include "toolbar/FlagScope.h"
 #include "toolbar/Flpfrm97.h"
+#include "toolbar/ScopedValue.h"
 #include "toolbar/ToolBar.h"
 
 #include <algorithm>
@@ -50,9 +50,9 @@ void TkelToolBar::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y
 // Moving windows can bring another move along before this one is done; it is dropped.
 void TkelToolBar::MouseMove(TShiftState Shift, int X, int Y)
 {
-    if (InDragStep)
+    if (Dragged)
         return;
-    TFlagScope Scope(InDragStep);
+    const TScopedValue<TkelToolBar*> Step(Dragged, this, nullptr);
     inherited::MouseMove(Shift, X, Y);
     if (!Shift.Contains(ssLeft) || IsDesigning())
         return;
@@ -75,7 +75,8 @@ void TkelToolBar::DragAlong(TkelDock& InDock, const TPoint& P)
     const bool OnlyStops = Other && Axis.Row(*Other) == Axis.Row(*this) && Axis.Start(*this) < Axis.Start(*Other);
     if (!OnlyStops)
         SwapToolBar(Other);
-    if (Parent == &InDock)
+    // Messages have been handled, which may have taken the bar elsewhere, or away altogether.
+    if (Dragged == this && Parent == &InDock)
         Slide(InDock, P);
 }
 
@@ -129,7 +130,7 @@ void TkelToolBar::TearOff(const TPoint& P)
 // So that the drag goes on when the window that had the mouse is gone, hidden or elsewhere.
 void TkelToolBar::CaptureDrag()
 {
-    if (!LayoutSuspended && InDragStep)
+    if (!LayoutSuspended && Dragged == this)
         MouseCapture = true;
 }
 

@@ -620,6 +620,25 @@ TEST_F(ToolBarDragTest, AFrameThatIsDeletedTakesItsBarAlong)
     EXPECT_EQ(Form->FindComponent("Bar"), nullptr);
 }
 
+// Messages are handled in the middle of the step.
+TEST_F(ToolBarDragTest, TheFormMayGoWhileBarsTradePlaces)
+{
+    TTestBar* A = InsertBar(Top, "A", 0, 300);
+    InsertBar(Top, "B", 0, 300);
+    Show();
+    Application->OnMessage = [this](MSG& Message, bool& Handled) {
+        Handled = Message.message == WM_APP;
+        if (Handled)
+            Form.reset();
+    };
+    A->PublicMouseDown(mbLeft, {ssLeft}, 100, 13);
+    PostMessageW(Application->Handle, WM_APP, 0, 0);
+    A->PublicMouseMove({ssLeft}, 100, 40);
+    Application->OnMessage = nullptr;
+    EXPECT_EQ(Form, nullptr);
+    Form = std::make_unique<TForm>(nullptr);
+}
+
 TEST_F(ToolBarDragTest, TheFormMayGoWhileABarIsDragged)
 {
     TTestBar* Bar = GrabbedBar(Top, 50, 40, 13);
