@@ -151,8 +151,12 @@ void TkelToolBar::DeleteFromDock()
         }
         Axis.Grow(*InDock, -Thick);
     }
-    if (Axis.IsVertical() && Height > Width)
+    if (Axis.IsVertical() && Height > Width) {
+        for (TControl* Item : FItems)
+            if (Item->Align == alRight) // that was no far end in a vertical bar
+                Item->Align = alLeft;
         TurnTo(false);
+    }
     if (!LayoutSuspended)
         Show();
 }

@@ -54,6 +54,7 @@ protected:
         Last = NewButton(Bar, alRight);
         LastButOne = NewButton(Bar, alRight);
         LastButOne->Left = -1000;
+        Bar->CorrectAlign();
         Bar->SortControls();
         return Bar;
     }
@@ -252,6 +253,19 @@ TEST_F(ToolBarTurningTest, LeavingAVerticalDockMakesABarHorizontal)
     EXPECT_EQ(Bar->Height, 26);
     EXPECT_EQ(Wide->Align, alLeft);
     EXPECT_EQ(Last->Align, alRight);
+}
+
+TEST_F(ToolBarItemsTest, LeavingAVerticalDockOnlyWhatWasAtItsLowerEndGoesToTheRight)
+{
+    TTestBar* Bar = InsertBar(NewDock(alLeft), "Bar", 0, 200);
+    std::vector<TkelTBButton*> Items;
+    for (TAlign Align : {alBottom, alTop, alRight, alNone})
+        Items.push_back(NewItem(Bar, "", Align, 0, 0));
+    Bar->DeleteFromDock();
+    std::vector<TAlign> After;
+    for (const TkelTBButton* Item : Items)
+        After.push_back(Item->Align);
+    EXPECT_THAT(After, ElementsAre(alRight, alLeft, alLeft, alLeft));
 }
 
 TEST_F(ToolBarTurningTest, LeavingAHorizontalDockTurnsNothing)
