@@ -2,6 +2,9 @@
 
 #include "vcl/system/ClassBuilder.h"
 
+#include <algorithm>
+#include <iterator>
+
 void TMainMenu::Describe(TClassBuilder<TMainMenu>& Class)
 {
     Class.Publish("AutoHotkeys");
@@ -16,6 +19,9 @@ TMainMenu::TMainMenu(TComponent* AOwner) : TMenu(AOwner)
 void TMainMenu::BeforeDestruction()
 {
     SetWindowHandle(nullptr);
+    if (FMergedInto)
+        FMergedInto->Unmerge(this);
+    Merge(nullptr);
     TMenu::BeforeDestruction();
 }
 
@@ -35,7 +41,59 @@ void TMainMenu::MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild)
     const bool OnBar = !Source || Source == Items || Source->Parent == Items;
     if (OnBar && !IsLoading())
         UpdateWindow();
+    if (OnBar && FMergedInto)
+        FMergedInto->Refill();
     TMenu::MenuChanged(Sender, Source, Rebuild);
+}
+
+// ---- merging
+
+void TMainMenu::Merge(TMainMenu* Menu)
+{
+    if (Menu == this)
+        throw EMenuError("A menu cannot be merged with itself");
+    if (FMerged == Menu)
+        return;
+    if (FMerged)
+        FMerged->FMergedInto = nullptr;
+    if (Menu && Menu->FMergedInto)
+        Menu->FMergedInto->Unmerge(Menu);
+    FMerged = Menu;
+    if (Menu) {
+        Menu->FMergedInto = this;
+        Menu->Items->RethinkHotkeys();
+    }
+    Refill();
+}
+
+void TMainMenu::Unmerge(TMainMenu* Menu)
+{
+    if (Menu && FMerged == Menu)
+        Merge(nullptr);
+}
+
+std::vector<TMenuItem*> TMainMenu::ShownItems() const
+{
+    std::vector<TMenuItem*> Own = TMenu::ShownItems();
+    if (!FMerged)
+        return Own;
+    const std::vector<TMenuItem*> Theirs = FMerged->TMenu::ShownItems();
+    std::erase_if(Own, [&](const TMenuItem* Item) {
+        return std::ranges::find(Theirs, Item->GroupIndex, &TMenuItem::GetGroupIndex) != Theirs.end();
+    });
+    // The group indexes of a menu never fall.
+    std::vector<TMenuItem*> Shown;
+    std::ranges::merge(Own, Theirs, std::back_inserter(Shown), {}, &TMenuItem::GetGroupIndex,
+                       &TMenuItem::GetGroupIndex);
+    return Shown;
+}
+
+// What this bar shows has changed.
+void TMainMenu::Refill()
+{
+    MarkStale();
+    if (!IsLoading())
+        UpdateWindow();
 }
 
 void TMainMenu::UpdateWindow()

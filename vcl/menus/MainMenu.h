@@ -12,13 +12,29 @@ public:
     // Shows the bar in Value and takes it out of the window before; nullptr only takes it out.
     void SetWindowHandle(HWND Value) override;
 
-    // Kept for menu merging, which this version does not do.
+    // Shows Menu's items in this bar too: Items with the GroupIndex of some of Menu's are left out for those, the
+    // others of Menu's stand where their GroupIndex belongs. Menu stays the owner of its items and what they do. One
+    // menu can be merged at a time, into one bar: another one takes its place; nullptr only ends the merging. Raises
+    // EMenuError "A menu cannot be merged with itself".
+    void Merge(TMainMenu* Menu);
+    // Ends the merging with Menu; ignored for any other than the merged one.
+    void Unmerge(TMainMenu* Menu);
+    // The menu whose items are shown in this bar, or nullptr.
+    TMainMenu* GetMerged() const { return FMerged; }
+    PROPERTY_READ(TMainMenu*, Merged);
+    // The form of this menu has no bar; the menu is merged into the main form's when the form is activated, until it
+    // hides. A change counts from the next activation on.
     bool AutoMerge = false;
 
 protected:
     void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
     bool IsMenuBar() const override { return true; }
+    std::vector<TMenuItem*> ShownItems() const override;
 
 private:
     void UpdateWindow();
+    void Refill();
+
+    TMainMenu* FMerged = nullptr;
+    TMainMenu* FMergedInto = nullptr; // the bar that shows this menu's items
 };

@@ -43,12 +43,13 @@ bool OpenPathTo(TMenuItem* Item, const TMenu* Menu)
     std::vector<TMenuItem*> Path;
     for (TMenuItem* Above = Item->Parent; Above && Above->Parent; Above = Above->Parent)
         Path.push_back(Above);
+    const uint16_t Command = Item->Command;
     for (size_t I = Path.size(); I-- > 0;) {
         if (!Path[I]->CanBeChosen())
             return false;
         Path[I]->Click();
         // The handler may have rebuilt the submenu.
-        if (!FindBelow(Menu->Items, [Item](TMenuItem* Each) { return Each == Item; }))
+        if (Menu->FindItem(Command, fkCommand) != Item)
             return false;
     }
     return Item->CanBeChosen();
@@ -58,17 +59,19 @@ bool OpenPathTo(TMenuItem* Item, const TMenu* Menu)
 
 TMenuItem* TMenu::FindItem(uintptr_t Value, TFindItemKind Kind) const
 {
-    switch (Kind) {
-    case fkCommand: return FindBelow(FItems, [Value](TMenuItem* Item) { return Item->Command == Value; });
-    case fkHandle:
-        return FindBelow(FItems, [Value](TMenuItem* Item) {
-            return Item->HandleAllocated() && reinterpret_cast<uintptr_t>(Item->FHandle) == Value;
-        });
-    case fkShortCut:
-        if (Value == scNone)
-            return nullptr;
-        return FindBelow(FItems, [Value](TMenuItem* Item) { return Item->ShortCut == Value; });
-    }
+    const auto IsWanted = [=](TMenuItem* Item) {
+        switch (Kind) {
+        case fkCommand: return Item->Command == Value;
+        case fkHandle: return Item->HandleAllocated() && reinterpret_cast<uintptr_t>(Item->FHandle) == Value;
+        case fkShortCut: return Value != scNone && Item->ShortCut == Value;
+        }
+        return false;
+    };
+    if (IsWanted(FItems))
+        return FItems;
+    for (TMenuItem* Item : ShownItems())
+        if (TMenuItem* Found = FindBelow(Item, IsWanted))
+            return Found;
     return nullptr;
 }
 

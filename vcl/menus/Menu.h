@@ -66,6 +66,10 @@ protected:
     virtual void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild);
     // The items lie side by side in a bar.
     virtual bool IsMenuBar() const { return false; }
+    // The items on the menu's first level, those of a merged menu among them.
+    virtual std::vector<TMenuItem*> ShownItems() const { return FItems->FItems; }
+    // The native menu is filled anew when it is needed next.
+    void MarkStale() { FItems->FStale = true; }
 
     HWND FWindowHandle = nullptr;
 

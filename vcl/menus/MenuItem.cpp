@@ -322,6 +322,7 @@ void TMenuItem::SetGroupIndex(uint8_t Value)
             FParent->FItems[I]->FGroupIndex = std::max(FParent->FItems[I]->FGroupIndex, Value);
     if (FChecked && FRadioItem)
         TurnSiblingsOff();
+    ChangeShape(); // merging goes by it
 }
 
 void TMenuItem::SetImageIndex(int Value)

@@ -2,8 +2,6 @@
 //
 // An item that the user can choose has a command, unique in the program, under which the system reports it. Native
 // menus are made when they are first needed and follow the items from then on.
-//
-// Owner drawing and menu merging have their place in FillItemInfo and TMainMenu.
 #pragma once
 
 #include "vcl/classes/Component.h"

@@ -64,7 +64,7 @@ void TMenuItem::FillNative()
     const bool ReduceLines = Inherit(&TMenuItem::FAutoLineReduction) == maAutomatic;
     TMenuItem* PendingLine = nullptr;
     bool AnyAbove = false; // since the last separator
-    for (TMenuItem* Item : FItems) {
+    for (TMenuItem* Item : FMenu ? FMenu->ShownItems() : FItems) {
         if (!Item->FVisible)
             continue;
         if (ReduceLines && Item->IsLine()) {
