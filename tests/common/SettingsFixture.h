@@ -2,8 +2,8 @@
 // the store stays with it for the rest of the program.
 #pragma once
 
+#include "tests/support/FormTest.h"
 #include "tests/support/RegistryProbe.h"
-#include "vcl/forms/Application.h"
 
 #include <gmock/gmock.h>
 
@@ -11,6 +11,7 @@ inline constexpr char SettingsTitle[] = "Tessary tests: Настройки";
 
 class TSettingsTest : public testing::Test {
 protected:
+    static void SetUpTestSuite() { MakeWhatFormsShare(); }
     TSettingsTest() { Application->Title = SettingsTitle; }
 
     std::optional<std::string> Saved(std::string_view Section, std::string_view Ident) const

@@ -9,15 +9,17 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+// What the program makes once, when a form first needs it; to be there before tests count what they leave behind.
+inline void MakeWhatFormsShare()
+{
+    Application->GetHandle();
+    Screen->GetCursors(crDefault);
+    Screen->HintFont->GetHandle();
+}
+
 class TFormTest : public testing::Test {
 protected:
-    // What the program makes once, when it is first needed, is there before the tests count.
-    static void SetUpTestSuite()
-    {
-        Application->GetHandle();
-        Screen->GetCursors(crDefault);
-        Screen->HintFont->GetHandle();
-    }
+    static void SetUpTestSuite() { MakeWhatFormsShare(); }
 
     TFormTest()
     {
