@@ -98,8 +98,11 @@ TCustomForm::~TCustomForm()
 {
     FIcon.OnChange = nullptr;
     // Menus that belong to others outlive the window.
-    if (FMenu)
+    if (FMenu) {
+        if (Application)
+            MergeMenu(false);
         FMenu->WindowHandle = nullptr;
+    }
     if (Application)
         Application->Forget(this);
     if (Screen)
@@ -269,6 +272,8 @@ void TCustomForm::CMActivate(TMessage&)
     if (FFormState.Contains(fsActivated))
         return;
     FFormState << fsActivated;
+    UpdateMenu();
+    MergeMenu(true);
     Activate();
 }
 

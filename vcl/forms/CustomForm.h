@@ -217,6 +217,8 @@ private:
     void UpdateLayer();
     void UpdateIcon();
     bool ShowsMenu() const;
+    bool MenuGoesToMainForm() const;
+    void MergeMenu(bool Merged);
     void ReplaceReference(TComponent* Before, TComponent* After);
     void IconChanged(TObject* Sender);
     int TextHeight();

@@ -35,8 +35,10 @@ void TCustomForm::SetMenu(TMainMenu* Value)
 {
     if (FMenu == Value)
         return;
-    if (FMenu)
+    if (FMenu) {
+        MergeMenu(false);
         FMenu->WindowHandle = nullptr;
+    }
     ReplaceReference(FMenu, Value);
     FMenu = Value;
     UpdateMenu();
@@ -47,7 +49,27 @@ void TCustomForm::SetMenu(TMainMenu* Value)
 
 bool TCustomForm::ShowsMenu() const
 {
-    return FMenu && !Parent && !ParentWindow && FBorderStyle != bsDialog && FBorderStyle != bsNone;
+    return FMenu && !MenuGoesToMainForm() && !Parent && !ParentWindow && FBorderStyle != bsDialog &&
+           FBorderStyle != bsNone;
+}
+
+bool TCustomForm::MenuGoesToMainForm() const
+{
+    const TCustomForm* Main = Application->MainForm;
+    return FMenu && FMenu->AutoMerge && Main && Main != this && !IsDesigning();
+}
+
+void TCustomForm::MergeMenu(bool Merged)
+{
+    if (!MenuGoesToMainForm())
+        return;
+    TMainMenu* Bar = Application->MainForm->Menu;
+    if (!Bar || Bar == FMenu)
+        return;
+    if (Merged)
+        Bar->Merge(FMenu);
+    else
+        Bar->Unmerge(FMenu);
 }
 
 void TCustomForm::UpdateMenu()

@@ -81,6 +81,7 @@ void TCustomForm::HideWindowNow()
     } catch (...) {
         Application->HandleException(this);
     }
+    MergeMenu(false);
     if (Active && !FFormState.Contains(fsModal))
         ActivateNext();
     SetWindowPos(Handle, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
