@@ -29,6 +29,8 @@ public:
     virtual bool IsShortCut(TShortCut ShortCut);
     // The long part of the hint of the item that a WM_MENUSELECT is about; empty when there is none.
     AnsiString HintOf(const TMessage& MenuSelect) const;
+    // Answers WM_MEASUREITEM, WM_DRAWITEM and WM_MENUCHAR. False when Message is another one or not about this menu.
+    bool DispatchDrawing(TMessage& Message);
 
     // The window that shows the menu; owned elsewhere.
     HWND GetWindowHandle() const { return FWindowHandle; }
@@ -49,8 +51,10 @@ public:
     TCustomImageList* GetImages() const { return FImages; }
     void SetImages(TCustomImageList* Value);
     PROPERTY(TCustomImageList*, Images);
-    // Kept for owner-drawing menus.
-    bool OwnerDraw = false;
+    // The items are drawn by the program: by their OnAdvancedDrawItem or OnDrawItem, or else by the framework.
+    bool GetOwnerDraw() const { return FOwnerDraw; }
+    void SetOwnerDraw(bool Value);
+    PROPERTY(bool, OwnerDraw);
 
     TMenuChangeEvent OnChange;
 
@@ -66,6 +70,9 @@ protected:
     virtual void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild);
     // The items lie side by side in a bar.
     virtual bool IsMenuBar() const { return false; }
+    // The MFT_ flags that the item's native entry gets besides those of its values. With MFT_OWNERDRAW the item's
+    // command becomes the entry's data.
+    virtual unsigned EntryType(const TMenuItem&) const { return 0; }
     // The items on the menu's first level, those of a merged menu among them.
     virtual std::vector<TMenuItem*> ShownItems() const { return FItems->FItems; }
     // The native menu is filled anew when it is needed next.
@@ -79,4 +86,5 @@ private:
     TMenuItem* FItems;
     TCustomImageList* FImages = nullptr;
     TBiDiMode FBiDiMode = bdLeftToRight;
+    bool FOwnerDraw = false;
 };

@@ -104,18 +104,25 @@ void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
     TMenu* Menu = GetParentMenu();
     if (Menu && Menu->IsRightToLeft())
         Info.fType |= MFT_RIGHTORDER;
+    Info.fType |= Menu ? Menu->EntryType(*this) : 0;
+    if (Info.fType & MFT_OWNERDRAW) {
+        Info.fMask |= MIIM_DATA;
+        Info.dwItemData = FCommand;
+    }
     Info.fState = static_cast<UINT>((FEnabled ? MFS_ENABLED : MFS_DISABLED) | (FChecked ? MFS_CHECKED : 0) |
                                     (FDefault ? MFS_DEFAULT : 0));
+    if (IsOwnerDrawn())
+        Info.fType |= MFT_OWNERDRAW;
     if (IsLine()) {
         Info.fType |= MFT_SEPARATOR;
         return;
     }
     Text = ToWide(FCaption);
-    // The bar of a main menu has no room for shortcuts.
-    const bool IsOnBar = FParent && FParent->FMenu && FParent->FMenu->IsMenuBar();
-    if (FShortCut != scNone && FItems.empty() && !IsOnBar)
-        Text += L'\t' + ToWide(ShortCutToText(FShortCut));
-    Info.fMask |= MIIM_STRING;
+    if (const AnsiString Keys = ShownShortCut(); !Keys.empty())
+        Text += L'\t' + ToWide(Keys);
+    Info.fMask |= MIIM_STRING | MIIM_BITMAP;
+    // The image is asked for when the menu shows; see Draw.
+    Info.hbmpItem = HasImage() && !IsOwnerDrawn() ? HBMMENU_CALLBACK : nullptr;
     Info.dwTypeData = Text.data();
 }
 
@@ -149,6 +156,18 @@ void TMenuItem::ItemsChanged(bool KindChanged)
     MenuChanged(true);
 }
 
+// What the items below say of themselves has changed with something that they share.
+void TMenuItem::SubtreeChanged()
+{
+    const auto Mark = [](auto& Self, TMenuItem* Item) -> void {
+        Item->FStale = true;
+        for (TMenuItem* Each : Item->FItems)
+            Self(Self, Each);
+    };
+    Mark(Mark, this);
+    MenuChanged(true);
+}
+
 void TMenuItem::DetachNative(TMenuItem* Item)
 {
     if (!FHandle || !Item->FHandle)
@@ -168,6 +187,31 @@ void TMenuItem::FreeNative()
     DestroyMenu(FHandle);
     CountLiveHandle(-1);
     FHandle = nullptr;
+}
+
+// The answer to WM_MENUCHAR for this item's menu: what item the letter chooses. Of several each has its turn.
+intptr_t TMenuItem::MenuChar(wchar_t Letter)
+{
+    TMenu* Menu = GetParentMenu();
+    CharUpperBuffW(&Letter, 1);
+    const AnsiString Wanted = FromWide({&Letter, 1});
+    int First = -1;  // with this letter
+    int Behind = -1; // the selected item
+    int Hits = 0;
+    bool SelectedAbove = false;
+    for (int I = 0; I < GetMenuItemCount(FHandle); ++I) {
+        const TMenuItem* Item = Menu ? Menu->FindItem(CommandAt(FHandle, I), fkCommand) : nullptr;
+        if (Item && GetHotkey(Item->FCaption) == Wanted) {
+            ++Hits;
+            First = First < 0 ? I : First;
+            Behind = SelectedAbove && Behind < 0 ? I : Behind;
+        }
+        const UINT State = GetMenuState(FHandle, static_cast<UINT>(I), MF_BYPOSITION);
+        SelectedAbove |= (State & MF_HILITE) != 0;
+    }
+    if (Hits == 0)
+        return MAKELRESULT(0, MNC_IGNORE);
+    return MAKELRESULT(Behind < 0 ? First : Behind, Hits == 1 ? MNC_EXECUTE : MNC_SELECT);
 }
 
 void TMenuItem::MenuChanged(bool Rebuild)

@@ -32,6 +32,12 @@ void TPopupMenu::Popup(int X, int Y)
 {
     FPopupPoint = {X, Y};
     DoPopup(this);
+    Track(X, Y);
+}
+
+void TPopupMenu::Track(int X, int Y)
+{
+    FPopupPoint = {X, Y};
     HWND Window = PopupList->Window;
     FWindowHandle = Window;
     TrackPopupMenu(Handle, TrackFlags(), X, Y, 0, Window, nullptr);

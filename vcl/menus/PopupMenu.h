@@ -45,6 +45,8 @@ protected:
     void Notification(TComponent* Component, TOperation Operation) override;
     // The flags for TrackPopupMenu.
     unsigned TrackFlags() const;
+    // Shows the menu as Popup does, without OnPopup before. The menu may be gone when this returns.
+    void Track(int X, int Y);
 
 private:
     TComponent* FPopupComponent = nullptr;
