@@ -62,6 +62,8 @@ void TCustomForm::Describe(TClassBuilder<TCustomForm>& Class)
     Class.Message<&Self::WMCommand>(WM_COMMAND);
     Class.Message<&Self::WMGetMinMaxInfo>(WM_GETMINMAXINFO);
     Class.Message<&Self::WMHelp>(WM_HELP);
+    for (UINT Each : {WM_DRAWITEM, WM_MEASUREITEM, WM_MENUCHAR})
+        Class.Message<&Self::WMMenuDrawing>(Each);
     Class.Message<&Self::WMInitMenuPopup>(WM_INITMENUPOPUP);
     Class.Message<&Self::WMMenuSelect>(WM_MENUSELECT);
     Class.Message<&Self::WMNCCalcSize>(WM_NCCALCSIZE);

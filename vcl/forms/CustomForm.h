@@ -192,6 +192,7 @@ private:
     void WMGetMinMaxInfo(TMessage& Message);
     void WMHelp(TMessage& Message);
     void WMInitMenuPopup(TMessage& Message);
+    void WMMenuDrawing(TMessage& Message);
     void WMMenuSelect(TMessage& Message);
     void WMNCCalcSize(TMessage& Message);
     void WMNCPaint(TMessage& Message);

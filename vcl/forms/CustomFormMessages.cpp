@@ -92,6 +92,12 @@ void TCustomForm::WMInitMenuPopup(TMessage& Message)
     Inherited(Message);
 }
 
+void TCustomForm::WMMenuDrawing(TMessage& Message)
+{
+    if (!FMenu || !FMenu->DispatchDrawing(Message))
+        Inherited(Message);
+}
+
 void TCustomForm::WMMenuSelect(TMessage& Message)
 {
     Application->Hint = FMenu ? FMenu->HintOf(Message) : AnsiString();

@@ -11,7 +11,7 @@ void TMenu::Describe(TClassBuilder<TMenu>& Class)
     Class.Declare<&Self::GetAutoLineReduction, &Self::SetAutoLineReduction>("AutoLineReduction").Default(maAutomatic);
     Class.Declare<&Self::GetBiDiMode, &Self::SetBiDiMode>("BiDiMode").Default(bdLeftToRight);
     Class.Declare<&Self::GetImages, &Self::SetImages>("Images");
-    Class.Declare<&Self::OwnerDraw, &Self::OwnerDraw>("OwnerDraw").Default(false);
+    Class.Declare<&Self::GetOwnerDraw, &Self::SetOwnerDraw>("OwnerDraw").Default(false);
     Class.Declare<&Self::ParentBiDiMode, &Self::ParentBiDiMode>("ParentBiDiMode").Default(true);
     Class.DeclareEvent<&Self::OnChange>("OnChange");
     Class.Property<&Self::GetItems>("Items").NotStored();
@@ -121,6 +121,38 @@ AnsiString TMenu::HintOf(const TMessage& MenuSelect) const
     return Bar == AnsiString::npos ? Item->Hint : Item->Hint.substr(Bar + 1);
 }
 
+bool TMenu::DispatchDrawing(TMessage& Message)
+{
+    switch (Message.Msg) {
+    case WM_MEASUREITEM: {
+        auto& Measured = *reinterpret_cast<MEASUREITEMSTRUCT*>(Message.LParam);
+        TMenuItem* Item = Measured.CtlType == ODT_MENU ? FindItem(Measured.itemID, fkCommand) : nullptr;
+        if (!Item)
+            return false;
+        Item->Measure(Measured);
+        Message.Result = TRUE;
+        return true;
+    }
+    case WM_DRAWITEM: {
+        const auto& Asked = *reinterpret_cast<const DRAWITEMSTRUCT*>(Message.LParam);
+        TMenuItem* Item = Asked.CtlType == ODT_MENU ? FindItem(Asked.itemID, fkCommand) : nullptr;
+        if (!Item)
+            return false;
+        Item->Draw(Asked);
+        Message.Result = TRUE;
+        return true;
+    }
+    case WM_MENUCHAR: {
+        TMenuItem* Item = FindItem(static_cast<uintptr_t>(Message.LParam), fkHandle);
+        if (!Item)
+            return false;
+        Message.Result = Item->MenuChar(static_cast<wchar_t>(Message.WParamLo()));
+        return true;
+    }
+    default: return false;
+    }
+}
+
 bool TMenu::IsRightToLeft() const
 {
     return FBiDiMode != bdLeftToRight && GetSystemMetrics(SM_MIDEASTENABLED) != 0;
@@ -132,7 +164,15 @@ void TMenu::SetBiDiMode(TBiDiMode Value)
         return;
     FBiDiMode = Value;
     ParentBiDiMode = false;
-    FItems->ItemsChanged(false);
+    FItems->SubtreeChanged();
+}
+
+void TMenu::SetOwnerDraw(bool Value)
+{
+    if (FOwnerDraw == Value)
+        return;
+    FOwnerDraw = Value;
+    FItems->SubtreeChanged();
 }
 
 void TMenu::SetImages(TCustomImageList* Value)
@@ -144,7 +184,7 @@ void TMenu::SetImages(TCustomImageList* Value)
     FImages = Value;
     if (Value)
         Value->FreeNotification(this);
-    FItems->ItemsChanged(false);
+    FItems->SubtreeChanged();
 }
 
 void TMenu::GetChildren(const TGetChildProc& Proc, TComponent* Root)
@@ -166,8 +206,10 @@ void TMenu::Loaded()
 void TMenu::Notification(TComponent* Component, TOperation Operation)
 {
     TComponent::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FImages)
-        FImages = nullptr;
+    if (Operation != opRemove || Component != FImages)
+        return;
+    FImages = nullptr;
+    FItems->SubtreeChanged();
 }
 
 void TMenu::MenuChanged(TObject*, TMenuItem* Source, bool Rebuild)

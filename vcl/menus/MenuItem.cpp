@@ -2,6 +2,7 @@
 
 #include "vcl/graphics/ImageList.h"
 #include "vcl/menus/Menu.h"
+#include "vcl/menus/MenuBitmap.h"
 #include "vcl/menus/MenuCommands.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/SysUtils.h"
@@ -13,6 +14,7 @@ void TMenuItem::Describe(TClassBuilder<TMenuItem>& Class)
     Class.Value<&Self::AutoCheck>("AutoCheck").Default(false);
     Class.Property<&Self::GetAutoHotkeys, &Self::SetAutoHotkeys>("AutoHotkeys").Default(maParent);
     Class.Property<&Self::GetAutoLineReduction, &Self::SetAutoLineReduction>("AutoLineReduction").Default(maParent);
+    Class.Property<&Self::GetBitmap, &Self::SetBitmap>("Bitmap").Stored<&Self::HasBitmap>();
     Class.Property<&Self::GetBreak, &Self::SetBreak>("Break").Default(mbNone);
     Class.Property<&Self::GetCaption, &Self::SetCaption>("Caption");
     Class.Property<&Self::GetChecked, &Self::SetChecked>("Checked").Default(false);
@@ -26,7 +28,10 @@ void TMenuItem::Describe(TClassBuilder<TMenuItem>& Class)
     Class.Property<&Self::GetRadioItem, &Self::SetRadioItem>("RadioItem").Default(false);
     Class.Property<&Self::GetShortCut, &Self::SetShortCut>("ShortCut").Default(0);
     Class.Property<&Self::GetVisible, &Self::SetVisible>("Visible").Default(true);
+    Class.Event<&Self::OnAdvancedDrawItem>("OnAdvancedDrawItem");
     Class.Event<&Self::OnClick>("OnClick");
+    Class.Event<&Self::OnDrawItem>("OnDrawItem");
+    Class.Event<&Self::OnMeasureItem>("OnMeasureItem");
 }
 
 TMenuItem::TMenuItem(TComponent* AOwner) : TComponent(AOwner), FCommand(TakeMenuCommand())
@@ -287,7 +292,7 @@ void TMenuItem::SetSubMenuImages(TCustomImageList* Value)
     FSubMenuImages = Value;
     if (Value)
         Value->FreeNotification(this);
-    ItemsChanged(false);
+    SubtreeChanged();
 }
 
 void TMenuItem::SetDefault(bool Value)
@@ -362,8 +367,10 @@ void TMenuItem::SetVisible(bool Value)
 void TMenuItem::Notification(TComponent* Component, TOperation Operation)
 {
     TComponent::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FSubMenuImages)
-        FSubMenuImages = nullptr;
+    if (Operation != opRemove || Component != FSubMenuImages)
+        return;
+    FSubMenuImages = nullptr;
+    SubtreeChanged();
 }
 
 // ---- making items

@@ -5,15 +5,21 @@
 #pragma once
 
 #include "vcl/classes/Component.h"
+#include "vcl/graphics/OwnerDrawState.h"
+#include "vcl/graphics/Types.h"
 #include "vcl/menus/ShortCut.h"
 #include "vcl/system/Utf.h"
 #include "vcl/system/WindowsApi.h"
 
 #include <initializer_list>
+#include <memory>
 #include <vector>
 
+class TBitmap;
+class TCanvas;
 class TCustomImageList;
 class TMenu;
+class TMenuBitmap;
 
 VCL_EXCEPTION(EMenuError, Exception);
 
@@ -26,6 +32,14 @@ inline constexpr char cLineCaption[] = "-";
 class TMenuItem;
 // Rebuild: more than the state of Source changed. Source is nullptr for the menu itself.
 using TMenuChangeEvent = TEvent<void(TObject* Sender, TMenuItem* Source, bool Rebuild)>;
+// The canvas has the item's font and colours; ARect, in its pixels, is filled with the background. The font and the
+// brush may be changed freely.
+using TMenuDrawItemEvent = TEvent<void(TObject* Sender, TCanvas* ACanvas, const TRect& ARect, bool Selected)>;
+using TAdvancedMenuDrawItemEvent =
+    TEvent<void(TObject* Sender, TCanvas* ACanvas, const TRect& ARect, TOwnerDrawState State)>;
+// The canvas has the item's font; Width and Height, in pixels, are the usual ones. The system adds room of its own to
+// the width.
+using TMenuMeasureItemEvent = TEvent<void(TObject* Sender, TCanvas* ACanvas, int& Width, int& Height)>;
 
 class TMenuItem : public TComponent {
     VCL_CLASS(TMenuItem, TComponent)
@@ -93,6 +107,14 @@ public:
 
     // The images that the item's ImageIndex counts in; nullptr when there are none.
     TCustomImageList* GetImageList() const;
+    // The picture shown beside the caption, instead of an image of the list. The item's own; setting copies. The colour
+    // of its lower left pixel is left out.
+    TBitmap* GetBitmap();
+    void SetBitmap(TBitmap* Value);
+    PROPERTY(TBitmap*, Bitmap);
+    // True when a bitmap, or an index into a list that is there, says what to show. It is grayed while the item is
+    // disabled.
+    bool HasImage() const;
 
 #define MENU_ITEM_VALUE(Type, Name, Field)                                                                             \
     Type Get##Name() const { return Field; }                                                                           \
@@ -126,9 +148,19 @@ public:
     MENU_ITEM_VALUE(bool, Visible, FVisible);
 #undef MENU_ITEM_VALUE
 
+    // These are for items of menus with OwnerDraw, which look as usual without them. OnDrawItem only comes when there
+    // is no OnAdvancedDrawItem.
+    TAdvancedMenuDrawItemEvent OnAdvancedDrawItem;
     TNotifyEvent OnClick;
+    TMenuDrawItemEvent OnDrawItem;
+    TMenuMeasureItemEvent OnMeasureItem;
 
 protected:
+    // TopLevel: the item lies in the bar of a main menu.
+    virtual void AdvancedDrawItem(TCanvas* ACanvas, const TRect& ARect, TOwnerDrawState State, bool TopLevel);
+    virtual void DrawItem(TCanvas* ACanvas, const TRect& ARect, bool Selected);
+    // In and out: pixels.
+    virtual void MeasureItem(TCanvas* ACanvas, int& Width, int& Height);
     void Notification(TComponent* Component, TOperation Operation) override;
     // Something about the item changed; the menu's OnChange follows.
     virtual void MenuChanged(bool Rebuild);
@@ -136,6 +168,21 @@ protected:
 private:
     friend class TMenu;
 
+    bool HasBitmap() const;
+    TSize ImageSize() const;
+    int ImageColumn() const;
+    void BitmapChanged(TObject* Sender);
+    bool IsOwnerDrawn() const;
+    bool IsOnBar() const;
+    AnsiString ShownShortCut() const;
+    void DrawImage(TCanvas* Canvas, const TPoint& Place);
+    void DrawOnBar(TCanvas* Canvas, TRect R, TOwnerDrawState State);
+    void DrawInPopup(TCanvas* Canvas, TRect R, TOwnerDrawState State);
+    void Measure(MEASUREITEMSTRUCT& Measured);
+    void Draw(const DRAWITEMSTRUCT& Asked);
+    intptr_t MenuChar(wchar_t Letter);
+
+    void SubtreeChanged();
     void ChangeLook();
     void ChangeShape();
     void ItemsChanged(bool KindChanged);
@@ -155,6 +202,7 @@ private:
     std::vector<TMenuItem*> FItems;
     AnsiString FCaption;
     TCustomImageList* FSubMenuImages = nullptr;
+    std::unique_ptr<TMenuBitmap> FBitmap; // made when it is asked for
     int FImageIndex = -1;
     uint16_t FCommand;
     TShortCut FShortCut = scNone;

@@ -84,7 +84,12 @@ bool TPopupList::MenuMessage(TMessage& Message)
         OnHint(Hint);
         return false;
     }
-    default: return false;
+    default:
+        // A handler may delete menus: nothing is done behind one that has answered.
+        for (size_t I = 0; I < FMenus.size(); ++I)
+            if (FMenus[I]->DispatchDrawing(Message))
+                return true;
+        return false;
     }
 }
 

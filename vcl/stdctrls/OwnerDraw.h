@@ -15,8 +15,7 @@ public:
     // -1: there is no item.
     int Index() const { return static_cast<int>(FItem.itemID); }
     TRect Rect() const { return FItem.rcItem; }
-    // The system's numbers are the bits of the set.
-    TOwnerDrawState State() const { return TOwnerDrawState::FromBits(FItem.itemState & 0x1FFF); }
+    TOwnerDrawState State() const { return OwnerDrawState(FItem.itemState); }
 
 private:
     TCanvas& FCanvas;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vcl/controls/ControlTypes.h"
+#include "vcl/graphics/OwnerDrawState.h"
 
 VCL_ENUM(TAlignment, taLeftJustify, taRightJustify, taCenter);
 VCL_ENUM(TTextLayout, tlTop, tlCenter, tlBottom);
@@ -22,10 +23,6 @@ constexpr unsigned DrawTextAlignment(TAlignment Alignment)
     return Flags[Alignment];
 }
 
-// How an item is to be drawn, by the system's ODS_ numbers.
-VCL_ENUM(TOwnerDrawStateFlag, odSelected, odGrayed, odDisabled, odChecked, odFocused, odDefault, odHotLight, odInactive,
-         odNoAccel, odNoFocusRect, odReserved1, odReserved2, odComboBoxEdit);
-using TOwnerDrawState = Set<TOwnerDrawStateFlag>;
 // Index is -1 for what a list without items, or an empty combo box, shows.
 using TDrawItemEvent = TEvent<void(TWinControl* Control, int Index, const TRect& Rect, TOwnerDrawState State)>;
 // Height is the usual one, for the handler to change.
