@@ -1,0 +1,58 @@
+// TkelCustomMenu: the foundation of main menus whose items the application draws.
+//
+// The items on the bar stay the system's; those below are switched when the item that they lie in has a name. The menu
+// is shown by its handle: SetMenu(Form->Handle, Menu->Handle).
+#pragma once
+
+#include "common/MenuStyle.h"
+#include "common/WindowProcHook.h"
+
+#include <vector>
+
+class TkelCustomMenu : public TMenu {
+    VCL_CLASS(TkelCustomMenu, TMenu)
+public:
+    // AOwner is a form, whose messages the menu sees; anything else raises EInvalidCast "Invalid class typecast",
+    // except in the designer.
+    explicit TkelCustomMenu(TComponent* AOwner);
+    ~TkelCustomMenu() override;
+
+    // Switches all items at once.
+    TMenuStyle GetStyle() const { return FStyle; }
+    void SetStyle(TMenuStyle Value);
+    PROPERTY(TMenuStyle, Style);
+
+    TDrawMenuItem OnDrawItem;
+    TMeasureMenuItem OnMeasureItem;
+
+    // The menu that was made last of those that live, or nullptr. The owner-drawn items of all main menus show only
+    // while this one is owner-drawn.
+    static TkelCustomMenu* Current() { return Menus.empty() ? nullptr : Menus.back(); }
+
+protected:
+    // Raise the events.
+    virtual void DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State, const TRect& Rect);
+    virtual void DoMeasureItem(TMenuItem* Item, int& Width, int& Height, TCanvas* Canvas);
+
+    // Switches the items below Item, or Item alone; nothing happens in the designer.
+    void ModifyItems(TMenuItem* Item, bool Standard);
+    void SetMenuItem(TMenuItem* Item, bool Standard);
+
+    void Loaded() override;
+    void Notification(TComponent* Component, TOperation Operation) override;
+    bool IsMenuBar() const override { return true; }
+    unsigned EntryType(const TMenuItem& Item) const override;
+
+private:
+    void DrawItem(TWMDrawItem& Message);
+    void MeasureItem(TWMMeasureItem& Message);
+
+    void FormWndProc(TMessage& Message, const TWndMethod& Next);
+    bool FormMessage(TMessage& Message);
+    unsigned TypeOf(const TMenuItem& Item, bool Standard) const;
+
+    static inline std::vector<TkelCustomMenu*> Menus; // that live, in the order they were made
+
+    TWindowProcHook FHook;
+    TMenuStyle FStyle = msStandard;
+};

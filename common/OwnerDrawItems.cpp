@@ -1,0 +1,128 @@
+#include "common/OwnerDrawItems.h"
+
+#include "vcl/controls/Control.h"
+
+namespace {
+
+// What a switch puts on and takes off. A bare separator has its own flag from its caption.
+constexpr UINT SwitchedFlags = MFT_OWNERDRAW | MFT_SEPARATOR;
+
+UINT CommandAt(HMENU Menu, int Position)
+{
+    MENUITEMINFOW Info{};
+    Info.cbSize = sizeof Info;
+    Info.fMask = MIIM_ID;
+    return GetMenuItemInfoW(Menu, static_cast<UINT>(Position), TRUE, &Info) ? Info.wID : 0;
+}
+
+int PositionFrom(HMENU Menu, int First, const TMenuItem* Item)
+{
+    const int Count = GetMenuItemCount(Menu);
+    for (int I = First; I < Count; ++I)
+        if (CommandAt(Menu, I) == Item->Command)
+            return I;
+    return -1;
+}
+
+// The item's native entry; -1 when there is none.
+int PositionOf(const TMenuItem* Item)
+{
+    TMenuItem* Parent = Item->Parent;
+    return Parent && Parent->HandleAllocated() ? PositionFrom(Parent->Handle, 0, Item) : -1;
+}
+
+void SwitchEntry(HMENU Menu, int Position, const TMenuItem* Item, unsigned EntryType)
+{
+    MENUITEMINFOW Info{};
+    Info.cbSize = sizeof Info;
+    Info.fMask = MIIM_FTYPE | MIIM_DATA;
+    if (!GetMenuItemInfoW(Menu, static_cast<UINT>(Position), TRUE, &Info))
+        return;
+    const UINT Own = Info.fType & ~SwitchedFlags;
+    const UINT Type = Own | EntryType | (Item->IsLine() ? MFT_SEPARATOR : 0);
+    if (Type == Info.fType && Info.dwItemData == Item->Command)
+        return;
+    Info.fType = Type;
+    Info.dwItemData = Item->Command;
+    SetMenuItemInfoW(Menu, static_cast<UINT>(Position), TRUE, &Info);
+}
+
+} // namespace
+
+unsigned OwnerDrawnType(bool IsSeparator)
+{
+    return MFT_OWNERDRAW | (IsSeparator ? MFT_SEPARATOR : 0);
+}
+
+void SwitchItem(TMenuItem* Item, unsigned EntryType)
+{
+    const int Position = PositionOf(Item);
+    if (Position >= 0)
+        SwitchEntry(Item->Parent->Handle, Position, Item, EntryType);
+}
+
+void SwitchItems(TMenuItem* Item, const std::function<unsigned(const TMenuItem&)>& EntryTypeOf)
+{
+    HMENU Menu = Item->HandleAllocated() ? Item->Handle : nullptr;
+    int Next = 0; // the entries have the items' order, but some items have none
+    for (int I = 0; I < Item->Count; ++I) {
+        TMenuItem* Child = Item->Items[I];
+        const int Position = Menu && Child->Visible ? PositionFrom(Menu, Next, Child) : -1;
+        if (Position >= 0) {
+            SwitchEntry(Menu, Position, Child, EntryTypeOf(*Child));
+            Next = Position + 1;
+        }
+        SwitchItems(Child, EntryTypeOf);
+    }
+}
+
+TScreenCanvas::~TScreenCanvas()
+{
+    HDC Context = BareHandle();
+    Handle = nullptr;
+    ReleaseDC(nullptr, Context);
+}
+
+void MeasureWith(MEASUREITEMSTRUCT& Request, const std::function<void(int& Width, int& Height)>& Measure)
+{
+    int Width = static_cast<int>(Request.itemWidth);
+    int Height = static_cast<int>(Request.itemHeight);
+    Measure(Width, Height);
+    Request.itemWidth = static_cast<UINT>(std::max(Width, 0));
+    Request.itemHeight = static_cast<UINT>(std::max(Height, 0));
+}
+
+void DrawWith(const DRAWITEMSTRUCT& Request, const std::function<void(TCanvas* Canvas)>& Draw)
+{
+    const int Saved = SaveDC(Request.hDC);
+    {
+        TCanvas Canvas;
+        Canvas.Handle = Request.hDC;
+        Canvas.Brush->Style = bsSolid;
+        Canvas.Pen->Color = clBlack;
+        Canvas.Pen->Style = psClear;
+        Draw(&Canvas);
+    }
+    RestoreDC(Request.hDC, Saved);
+}
+
+TMenuItem* FindAccelerator(TMenuItem* Root, HMENU Menu, uint16_t Char)
+{
+    const bool IsOpen = Root->HandleAllocated() && Root->Handle == Menu;
+    for (int I = 0; I < Root->Count; ++I) {
+        TMenuItem* Item = Root->Items[I];
+        if (!Item->Enabled || !Item->Visible)
+            continue;
+        if (IsOpen && IsAccel(Char, Item->Caption))
+            return Item;
+        if (TMenuItem* Found = FindAccelerator(Item, Menu, Char))
+            return Found;
+    }
+    return nullptr;
+}
+
+intptr_t ExecuteAnswer(TMenuItem* Item)
+{
+    const int Position = Item ? PositionOf(Item) : -1;
+    return Position < 0 ? 0 : static_cast<intptr_t>(MAKELRESULT(Position, MNC_EXECUTE));
+}

@@ -1,0 +1,36 @@
+#include "common/WindowProcHook.h"
+
+void TWindowProcHook::Install(TControl* Control, const THookedWindowProc& Procedure)
+{
+    Remove();
+    FControl = Control;
+    FLink = std::make_shared<TLink>(Procedure, Control->WindowProc);
+    FInstalled = [Link = FLink](TMessage& Message) {
+        // Either may change while it is being called.
+        const THookedWindowProc Called = Link->Procedure;
+        const TWndMethod Next = Link->Next;
+        if (Called)
+            Called(Message, Next);
+        else
+            Next(Message);
+    };
+    Control->WindowProc = FInstalled;
+}
+
+void TWindowProcHook::Remove()
+{
+    if (!FControl)
+        return;
+    if (FControl->WindowProc == FInstalled)
+        FControl->WindowProc = FLink->Next;
+    Forget();
+}
+
+void TWindowProcHook::Forget()
+{
+    if (FLink)
+        FLink->Procedure = nullptr;
+    FControl = nullptr;
+    FInstalled = nullptr;
+    FLink.reset();
+}

@@ -1,0 +1,65 @@
+// TkelOfficePopupMenu: a popup menu in the look of the library's tool bars, with a glyph column and a banner.
+//
+// An item with a Tag of N above 0 shows cell N - 1 of Glyphs or image N - 1 of Images. A checked item shows a check
+// mark in a sunken box, or its glyph there when RadioItem is set. An item whose caption begins with "-" is a separator,
+// and what follows is its title. OnMeasureItem and OnDrawItem are not raised.
+#pragma once
+
+#include "common/CustomPopupMenu.h"
+#include "menus/OfficeItemPainter.h"
+#include "vcl/controls/Messages.h"
+
+#include <memory>
+#include <unordered_map>
+
+class TkelOfficePopupMenu : public TkelCustomPopupMenu {
+    VCL_CLASS(TkelOfficePopupMenu, TkelCustomPopupMenu)
+public:
+    // Owner-drawn.
+    explicit TkelOfficePopupMenu(TComponent* AOwner);
+
+    // The menu's own; setting copies.
+    TkelMenuBanner* GetBanner() { return &FBanner; }
+    void SetBanner(TkelMenuBanner* Value) { FBanner.Assign(Value); }
+    PROPERTY(TkelMenuBanner*, Banner);
+    // Where glyphs come from: a strip or a list, somebody else's, and cleared when it is deleted. Setting one clears
+    // the other.
+    TkelGlyphs* GetGlyphs() const { return FGlyphs.Glyphs; }
+    void SetGlyphs(TkelGlyphs* Value);
+    PROPERTY(TkelGlyphs*, Glyphs);
+    TImageList* GetImages() const { return FGlyphs.Images; }
+    void SetImages(TImageList* Value);
+    PROPERTY(TImageList*, Images);
+    // For the designer's glyph editor; means nothing while the program runs.
+    int GlyphsEdit = 0;
+
+    void Popup(int X, int Y) override;
+    // The first enabled item without items of its own that has this accelerator, searched depth first through enabled
+    // items. nullptr when there is none, and in the designer.
+    using TkelCustomPopupMenu::ProcessAccel;
+    TMenuItem* ProcessAccel(uint16_t Key) const;
+
+protected:
+    void DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State, const TRect& Rect) override;
+    void DoMeasureItem(TMenuItem* Item, int& Width, int& Height, TCanvas* Canvas) override;
+    bool IsSeparator(const TMenuItem& Item) const override { return IsOfficeSeparator(Item); }
+
+    void Loaded() override { inherited::Loaded(); }
+    void Notification(TComponent* Component, TOperation Operation) override;
+    void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
+
+private:
+    void CMDialogChar(TWMKey& Message);
+    // Of the menu that shows Item, in pixels, as far as its items have been measured.
+    int TotalHeight(const TMenuItem* Item);
+    int SumOfHeights(TMenuItem* Parent) const;
+    int MeasuredHeight(unsigned Command) const;
+
+    TkelMenuBanner FBanner;
+    TOfficeGlyphs FGlyphs;
+    std::shared_ptr<TMaskedImage> FMark; // from the first item that is drawn
+    // By command. The system may measure an item once only, so this outlasts the menu's display.
+    std::unordered_map<unsigned, int> FHeights;
+    const TMenuItem* FSummedItem = nullptr; // whose items have FSum
+    int FSum = 0;
+};
