@@ -39,12 +39,15 @@ protected:
 
     static int CountOnScreen(const TRect& R, TColor Color)
     {
+        TBitmap Picture;
+        Picture.SetSize(R.Width(), R.Height());
         HDC Screen = GetDC(nullptr);
-        int Count = 0;
-        for (int Y = R.top; Y < R.bottom; ++Y)
-            for (int X = R.left; X < R.right; ++X)
-                Count += GetPixel(Screen, X, Y) == ColorToRGB(Color);
+        BitBlt(Picture.Canvas->Handle, 0, 0, R.Width(), R.Height(), Screen, R.left, R.top, SRCCOPY);
         ReleaseDC(nullptr, Screen);
+        int Count = 0;
+        for (int Y = 0; Y < R.Height(); ++Y)
+            for (int X = 0; X < R.Width(); ++X)
+                Count += Picture.Canvas->Pixels[X][Y] == Color;
         return Count;
     }
     static int CountInMenu(TColor Color)

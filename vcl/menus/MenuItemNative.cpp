@@ -105,14 +105,14 @@ void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
     if (Menu && Menu->IsRightToLeft())
         Info.fType |= MFT_RIGHTORDER;
     Info.fType |= Menu ? Menu->EntryType(*this) : 0;
+    if (IsOwnerDrawn())
+        Info.fType |= MFT_OWNERDRAW;
     if (Info.fType & MFT_OWNERDRAW) {
         Info.fMask |= MIIM_DATA;
         Info.dwItemData = FCommand;
     }
     Info.fState = static_cast<UINT>((FEnabled ? MFS_ENABLED : MFS_DISABLED) | (FChecked ? MFS_CHECKED : 0) |
                                     (FDefault ? MFS_DEFAULT : 0));
-    if (IsOwnerDrawn())
-        Info.fType |= MFT_OWNERDRAW;
     if (IsLine()) {
         Info.fType |= MFT_SEPARATOR;
         return;
@@ -122,7 +122,7 @@ void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
         Text += L'\t' + ToWide(Keys);
     Info.fMask |= MIIM_STRING | MIIM_BITMAP;
     // The image is asked for when the menu shows; see Draw.
-    Info.hbmpItem = HasImage() && !IsOwnerDrawn() ? HBMMENU_CALLBACK : nullptr;
+    Info.hbmpItem = HasImage() && !(Info.fType & MFT_OWNERDRAW) ? HBMMENU_CALLBACK : nullptr;
     Info.dwTypeData = Text.data();
 }
 
