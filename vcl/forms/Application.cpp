@@ -178,6 +178,12 @@ const TCustomForm* TApplication::MainFormAsCustom() const
     return FMainForm;
 }
 
+TCustomForm* TApplication::MdiParent() const
+{
+    TCustomForm* Main = FMainForm ? FMainForm : FMainFormToBe;
+    return Main && Main->FormStyle == fsMDIForm && !Main->ComponentState.Contains(csDesigning) ? Main : nullptr;
+}
+
 // ---- the program as a whole
 
 void TApplication::SetTitle(const AnsiString& Value)

@@ -184,6 +184,8 @@ private:
     void Forget(TCustomForm* Form);
     bool BecomesMainForm(const TCustomForm* Form) const { return Form == FMainFormToBe || Form == MainFormAsCustom(); }
     const TCustomForm* MainFormAsCustom() const;
+    // The main form if it has the style fsMDIForm, or else nullptr.
+    TCustomForm* MdiParent() const;
     // Component is the form or data module that CreateForm makes, or one that is made on the way.
     void BeingMade(TComponent* Component);
     void MakeForm(TClass InstanceClass, const TAssignForm& Assign);

@@ -4,6 +4,7 @@
 #include "vcl/controls/WinControl.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/HintController.h"
+#include "vcl/forms/MdiFrame.h"
 #include "vcl/menus/PopupMenu.h"
 
 #include <cstdlib>
@@ -91,6 +92,9 @@ void TApplication::Dispatch(MSG& Msg)
         return;
     if (Msg.message == WM_MOUSEMOVE || Msg.message == WM_NCMOUSEMOVE)
         FHints->PointerMoved(Msg.pt);
+    const TCustomForm* Main = FMainForm;
+    if (Main && Main->FMdiFrame && Main->FMdiFrame->TranslateKey(Msg))
+        return;
     if (IsKeyMessage(Msg))
         return;
     TranslateMessage(&Msg);

@@ -2,6 +2,7 @@
 
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Form.h"
+#include "vcl/forms/MdiFrame.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/system/ClassBuilder.h"
@@ -65,13 +66,16 @@ void TCustomForm::Describe(TClassBuilder<TCustomForm>& Class)
     for (UINT Each : {WM_DRAWITEM, WM_MEASUREITEM, WM_MENUCHAR})
         Class.Message<&Self::WMMenuDrawing>(Each);
     Class.Message<&Self::WMInitMenuPopup>(WM_INITMENUPOPUP);
+    Class.Message<&Self::WMMDIActivate>(WM_MDIACTIVATE);
     Class.Message<&Self::WMMenuSelect>(WM_MENUSELECT);
+    Class.Message<&Self::WMMouseActivate>(WM_MOUSEACTIVATE);
     Class.Message<&Self::WMNCCalcSize>(WM_NCCALCSIZE);
     Class.Message<&Self::WMNCPaint>(WM_NCPAINT);
     Class.Message<&Self::WMQueryEndSession>(WM_QUERYENDSESSION);
     Class.Message<&Self::WMSetCursor>(WM_SETCURSOR);
     Class.Message<&Self::WMSize>(WM_SIZE);
     Class.Message<&Self::CMActivate>(CM_ACTIVATE);
+    Class.Message<&Self::CMColorChanged>(CM_COLORCHANGED);
     Class.Message<&Self::CMDeactivate>(CM_DEACTIVATE);
     Class.Message<&Self::CMDialogKey>(CM_DIALOGKEY);
     Class.Message<&Self::CMIconChanged>(CM_ICONCHANGED);
@@ -115,6 +119,7 @@ void TCustomForm::BeforeDestruction()
 {
     SetState(csDestroying, true);
     DoDestroy();
+    DestroyMdiChildren();
     // Without a window, deleting the controls one by one moves and paints nothing.
     if (Active && !Application->Terminated)
         ActivateNext();
@@ -163,8 +168,12 @@ void TCustomForm::ReplaceReference(TComponent* Before, TComponent* After)
 
 void TCustomForm::SetWindowMenu(TMenuItem* Value)
 {
+    if (FWindowMenu == Value)
+        return;
     ReplaceReference(FWindowMenu, Value);
     FWindowMenu = Value;
+    if (FMdiFrame)
+        FMdiFrame->UpdateMenu();
 }
 
 void TCustomForm::SetObjectMenuItem(TMenuItem* Value)
@@ -192,6 +201,7 @@ void TCustomForm::SetFocus()
         return;
     if (!Visible || !Enabled)
         throw EInvalidOperation("Cannot focus a disabled or invisible window");
+    FocusInMdiChild();
     FFocus.SetWindowFocus();
 }
 

@@ -1,7 +1,7 @@
 // TCustomForm: a window of the application with controls on it. A form with a Parent lies in that like any control.
+// The main form may hold others: its FormStyle is fsMDIForm then, theirs fsMDIChild.
 //
-// MDI comes later: FormStyle keeps fsMDIForm and fsMDIChild, but such forms are ordinary windows. Scaled and
-// PixelsPerInch are kept too; forms are not scaled, the system scales the whole program.
+// Scaled and PixelsPerInch are only kept; forms are not scaled, the system scales the whole program.
 #pragma once
 
 #include "vcl/controls/ControlCanvas.h"
@@ -13,7 +13,12 @@
 #include "vcl/graphics/Icon.h"
 #include "vcl/menus/MainMenu.h"
 
+#include <memory>
+
 class TBitmap;
+class TForm;
+class TMdiFrame;
+struct TFormFrame;
 
 class TCustomForm : public TScrollingWinControl, public TFormLink {
     VCL_CLASS(TCustomForm, TScrollingWinControl)
@@ -40,7 +45,8 @@ public:
     virtual bool CloseQuery();
     // Deletes the form once the event handlers that are running now have returned, nested message loops or not.
     void Release();
-    // While the form is read, the change waits until OnCreate has been.
+    // While the form is read, the change waits until OnCreate has been. Hiding an MDI child raises EInvalidOperation
+    // "Cannot hide an MDI Child Form".
     void SetVisible(bool Value) override;
     // Raises EInvalidOperation "Cannot focus a disabled or invisible window".
     void SetFocus() override;
@@ -58,6 +64,8 @@ public:
     int GetBorderWidth() const { return FBorderWidth; }
     void SetBorderWidth(int Value);
     PROPERTY(int, BorderWidth);
+    // A form that becomes an MDI child shows at once, in the main form; when that is no fsMDIForm, EInvalidOperation
+    // "Cannot create form. No MDI forms are currently active" is raised.
     TFormStyle GetFormStyle() const { return FFormStyle; }
     void SetFormStyle(TFormStyle Value);
     PROPERTY(TFormStyle, FormStyle);
@@ -87,12 +95,40 @@ public:
     TIcon* GetIcon() { return &FIcon; }
     void SetIcon(TIcon* Value) { FIcon.Assign(Value); }
     PROPERTY(TIcon*, Icon);
+    // What the window shows: Icon, the application's or the system's default. Not the caller's to destroy.
+    HICON GetIconHandle();
     // Shown unless BorderStyle is bsDialog or bsNone or the form lies in another.
     TMainMenu* GetMenu() const { return FMenu; }
     void SetMenu(TMainMenu* Value);
     PROPERTY(TMainMenu*, Menu);
     // Without the frame, which is computed while there is no window.
     TRect GetClientRect() const override;
+
+    // ---- MDI: for a form with the style fsMDIForm; for others, or without a window, there are no children
+
+    // The window that the children lie in, in what aligned controls leave of the form; it shows the form's Color.
+    HWND GetClientHandle() const;
+    PROPERTY_READ(HWND, ClientHandle);
+    TForm* GetActiveMDIChild() const;
+    PROPERTY_READ(TForm*, ActiveMDIChild);
+    // The topmost first. Raises EListError when Index is out of range.
+    int GetMDIChildCount() const;
+    TForm* GetMDIChildren(int Index) const;
+    PROPERTY_READ(int, MDIChildCount);
+    PROPERTY_INDEXED_READ(TForm*, MDIChildren);
+    // Places the children that are not minimized one over the other, or side by side as TileMode says: tbHorizontal
+    // makes them wide, tbVertical high.
+    void Cascade();
+    void Tile();
+    TTileMode TileMode = tbHorizontal;
+    void ArrangeIcons();
+    // Activate another child.
+    void Next();
+    void Previous();
+    // The submenu of Menu that gets the list of children at its end.
+    TMenuItem* GetWindowMenu() const { return FWindowMenu; }
+    void SetWindowMenu(TMenuItem* Value);
+    PROPERTY(TMenuItem*, WindowMenu);
 
     // ---- controls on the form
 
@@ -140,9 +176,6 @@ public:
     bool ScreenSnap = false;
     int SnapBuffer = 10;
     TPrintScale PrintScale = poProportional;
-    TMenuItem* GetWindowMenu() const { return FWindowMenu; }
-    void SetWindowMenu(TMenuItem* Value);
-    PROPERTY(TMenuItem*, WindowMenu);
     TMenuItem* GetObjectMenuItem() const { return FObjectMenuItem; }
     void SetObjectMenuItem(TMenuItem* Value);
     PROPERTY(TMenuItem*, ObjectMenuItem);
@@ -159,6 +192,8 @@ public:
     TShortCutEvent OnShortCut;
     TNotifyEvent OnShow;
 
+    AnsiString GetText() const override;
+    void DefaultHandler(TMessage& Message) override;
     void GetChildren(const TGetChildProc& Proc, TComponent* Root) override;
     void DefineProperties(TFiler& Filer) override;
 
@@ -174,7 +209,12 @@ protected:
 
     void CreateParams(TCreateParams& Params) override;
     void CreateWnd() override;
+    void CreateWindowHandle(const TCreateParams& Params) override;
     void DestroyWnd() override;
+    void DestroyWindowHandle() override;
+    void WndProc(TMessage& Message) override;
+    void StoreText(const AnsiString& Value) override;
+    void AlignControls(TControl* Control, TRect& Rect) override;
     void PaintWindow(HDC DC) override;
     bool PaintsItself() const override { return true; }
     void ReadState(TReader& Reader) override;
@@ -184,6 +224,7 @@ protected:
 
 private:
     friend class TApplication;
+    friend class TFormFocus;
     friend void LoadForm(TCustomForm* Form);
 
     void WMActivate(TMessage& Message);
@@ -193,17 +234,35 @@ private:
     void WMHelp(TMessage& Message);
     void WMInitMenuPopup(TMessage& Message);
     void WMMenuDrawing(TMessage& Message);
+    void WMMDIActivate(TMessage& Message);
     void WMMenuSelect(TMessage& Message);
+    void WMMouseActivate(TMessage& Message);
     void WMNCCalcSize(TMessage& Message);
     void WMNCPaint(TMessage& Message);
     void WMQueryEndSession(TMessage& Message);
     void WMSetCursor(TMessage& Message);
     void WMSize(TWMSize& Message);
     void CMActivate(TMessage& Message);
+    void CMColorChanged(TMessage& Message);
     void CMDeactivate(TMessage& Message);
     void CMDialogKey(TCMDialogKey& Message);
     void CMIconChanged(TMessage& Message);
     void CMShowingChanged(TMessage& Message);
+
+    bool IsMdiChild() const;
+    TMdiFrame* FrameOfChild() const;
+    static TCustomForm* NeedMdiParent();
+    void ChangeMdiStyle(TFormStyle Value);
+    void CreateMdiFrame();
+    void DestroyMdiFrame();
+    void DestroyMdiChildren();
+    void MdiChildParams(TCreateParams& Params);
+    void PlaceMdiChild();
+    bool PassFocusOn();
+    void FocusInMdiChild();
+    TCloseAction DefaultCloseAction() const;
+    TFormFrame Frame() const;
+    void TopLevelParams(TCreateParams& Params);
 
     void FinishCreation();
     void CloseModal();
@@ -239,6 +298,7 @@ private:
     TControlCanvas FCanvas;
     TFormFocus FFocus;
     TIcon FIcon;
+    std::unique_ptr<TMdiFrame> FMdiFrame; // while a form with the style fsMDIForm has its window
     TMainMenu* FMenu = nullptr;
     TMenuItem* FWindowMenu = nullptr;
     TMenuItem* FObjectMenuItem = nullptr;

@@ -2,6 +2,7 @@
 #include "vcl/forms/Application.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Form.h"
+#include "vcl/forms/MdiFrame.h"
 #include "vcl/forms/Screen.h"
 
 // ---- icon
@@ -16,16 +17,17 @@ void TCustomForm::CMIconChanged(TMessage&)
     UpdateIcon();
 }
 
+HICON TCustomForm::GetIconHandle()
+{
+    HICON Icon = FIcon.Empty ? Application->Icon->Handle : FIcon.Handle;
+    return Icon ? Icon : LoadIconW(nullptr, IDI_APPLICATION);
+}
+
 void TCustomForm::UpdateIcon()
 {
-    if (!HandleAllocated() || (GetWindowLongW(Handle, GWL_STYLE) & WS_CHILD))
+    if (!HandleAllocated() || Parent || ParentWindow)
         return;
-    HICON Icon = nullptr;
-    if (FBorderStyle != bsDialog) {
-        Icon = FIcon.Empty ? Application->Icon->Handle : FIcon.Handle;
-        if (!Icon)
-            Icon = LoadIconW(nullptr, IDI_APPLICATION);
-    }
+    HICON Icon = FBorderStyle != bsDialog || IsMdiChild() ? GetIconHandle() : nullptr;
     SendMessageW(Handle, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(Icon));
 }
 
@@ -42,6 +44,8 @@ void TCustomForm::SetMenu(TMainMenu* Value)
     ReplaceReference(FMenu, Value);
     FMenu = Value;
     UpdateMenu();
+    if (const TMdiFrame* Frame = FrameOfChild(); Frame && Frame->ActiveChild() == this)
+        MergeMenu(true);
     // The client size that a form file asks for is the one below the menu.
     if (IsLoading())
         ApplyReadClientSize();
@@ -49,14 +53,14 @@ void TCustomForm::SetMenu(TMainMenu* Value)
 
 bool TCustomForm::ShowsMenu() const
 {
-    return FMenu && !MenuGoesToMainForm() && !Parent && !ParentWindow && FBorderStyle != bsDialog &&
+    return FMenu && !MenuGoesToMainForm() && !IsMdiChild() && !Parent && !ParentWindow && FBorderStyle != bsDialog &&
            FBorderStyle != bsNone;
 }
 
 bool TCustomForm::MenuGoesToMainForm() const
 {
     const TCustomForm* Main = Application->MainForm;
-    return FMenu && FMenu->AutoMerge && Main && Main != this && !IsDesigning();
+    return FMenu && (FMenu->AutoMerge || IsMdiChild()) && Main && Main != this && !IsDesigning();
 }
 
 void TCustomForm::MergeMenu(bool Merged)
@@ -70,12 +74,16 @@ void TCustomForm::MergeMenu(bool Merged)
         Bar->Merge(FMenu);
     else
         Bar->Unmerge(FMenu);
+    if (TMdiFrame* Frame = Application->MainForm->FMdiFrame.get())
+        Frame->UpdateMenu();
 }
 
 void TCustomForm::UpdateMenu()
 {
     if (FMenu && HandleAllocated())
         FMenu->WindowHandle = ShowsMenu() ? Handle : nullptr;
+    if (FMdiFrame)
+        FMdiFrame->UpdateMenu();
 }
 
 void TCustomForm::WMCommand(TWMCommand& Message)
@@ -89,6 +97,9 @@ void TCustomForm::WMInitMenuPopup(TMessage& Message)
 {
     if (FMenu)
         FMenu->DispatchPopup(reinterpret_cast<HMENU>(Message.WParam));
+    // The handlers may have filled the window menu anew.
+    if (FMdiFrame && FWindowMenu && reinterpret_cast<HMENU>(Message.WParam) == FWindowMenu->Handle)
+        FMdiFrame->UpdateWindowList();
     Inherited(Message);
 }
 

@@ -3,6 +3,7 @@
 #include "vcl/forms/Application.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Form.h"
+#include "vcl/forms/MdiFrame.h"
 #include "vcl/forms/ModalWindows.h"
 #include "vcl/forms/Screen.h"
 
@@ -17,6 +18,8 @@ void TCustomForm::SetVisible(bool Value)
     }
     if (FFormState.Contains(fsShowing) && Value != Visible)
         throw EInvalidOperation("Cannot change Visible in OnShow or OnHide");
+    if (!Value && Visible && IsMdiChild() && !IsDestroying())
+        throw EInvalidOperation("Cannot hide an MDI Child Form");
     if (!Value)
         FFormState >> fsVisible;
     TScrollingWinControl::SetVisible(Value);
@@ -35,7 +38,9 @@ void TCustomForm::Show()
     Visible = true;
     if (!HandleAllocated() || !Showing)
         return;
-    if (Parent)
+    if (TMdiFrame* Frame = FrameOfChild())
+        Frame->Activate(Handle);
+    else if (Parent)
         BringToFront();
     else
         SetWindowPos(Handle, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
@@ -66,7 +71,9 @@ void TCustomForm::ShowWindowNow()
     }
     PlaceForShowing();
     FFocus.SelectFirst();
-    if (Parent || ParentWindow)
+    if (TMdiFrame* Frame = FrameOfChild())
+        Frame->Show(Handle, FWindowState);
+    else if (Parent || ParentWindow)
         SetWindowPos(Handle, nullptr, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     else
@@ -92,7 +99,7 @@ void TCustomForm::ActivateNext()
 {
     for (int I = 0; I < Screen->CustomFormCount; ++I) {
         TCustomForm* Form = Screen->CustomForms[I];
-        if (Form == this || !Form->Showing || Form->Parent || !Form->HandleAllocated())
+        if (Form == this || !Form->Showing || Form->Parent || Form->IsMdiChild() || !Form->HandleAllocated())
             continue;
         if (IsWindowEnabled(Form->Handle) && !IsIconic(Form->Handle)) {
             SetActiveWindow(Form->Handle);
@@ -105,9 +112,19 @@ void TCustomForm::ActivateNext()
 
 bool TCustomForm::CloseQuery()
 {
+    for (int I = 0; I < MDIChildCount; ++I)
+        if (!MDIChildren[I]->CloseQuery())
+            return false;
     bool CanClose = true;
     OnCloseQuery(this, CanClose);
     return CanClose;
+}
+
+TCloseAction TCustomForm::DefaultCloseAction() const
+{
+    if (!IsMdiChild())
+        return caHide;
+    return FBorderIcons.Contains(biMinimize) ? caMinimize : caNone;
 }
 
 void TCustomForm::Close()
@@ -118,7 +135,7 @@ void TCustomForm::Close()
     }
     if (!CloseQuery())
         return;
-    TCloseAction Action = caHide;
+    TCloseAction Action = DefaultCloseAction();
     DoClose(Action);
     if (Action == caNone)
         return;
@@ -174,7 +191,7 @@ private:
 TModalResult TCustomForm::ShowModal()
 {
     TDragManager::End(false);
-    if (Visible || !Enabled || FFormState.Contains(fsModal) || Parent)
+    if (Visible || !Enabled || FFormState.Contains(fsModal) || Parent || IsMdiChild())
         throw EInvalidOperation("Cannot make a visible window modal");
     if (HWND Capture = GetCapture())
         SendMessageW(Capture, WM_CANCELMODE, 0, 0);

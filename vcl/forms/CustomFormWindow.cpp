@@ -3,6 +3,7 @@
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/FormFrame.h"
+#include "vcl/forms/MdiFrame.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/graphics/Brush.h"
 
@@ -14,24 +15,25 @@ namespace {
 constexpr DWORD LivingStyles = WS_VISIBLE | WS_DISABLED | WS_MINIMIZE | WS_MAXIMIZE | WS_HSCROLL | WS_VSCROLL;
 constexpr DWORD LivingExStyles = WS_EX_LAYERED | WS_EX_TOPMOST;
 
+bool IsMdiStyle(TFormStyle Style)
+{
+    return Style == fsMDIForm || Style == fsMDIChild;
+}
+
 } // namespace
 
 void TCustomForm::CreateParams(TCreateParams& Params)
 {
     TScrollingWinControl::CreateParams(Params);
-    const bool IsChild = Parent || ParentWindow;
-    const TFormFrame Frame = TFormFrame::Of(FBorderStyle, FBorderIcons, IsChild);
-    Params.Style = (Params.Style & ~static_cast<DWORD>(WS_TABSTOP)) | Frame.Style | WS_CLIPCHILDREN;
-    Params.ExStyle |= Frame.ExStyle;
-    if (IsChild)
+    const TFormFrame Styles = Frame();
+    Params.Style = (Params.Style & ~static_cast<DWORD>(WS_TABSTOP)) | Styles.Style | WS_CLIPCHILDREN;
+    Params.ExStyle |= Styles.ExStyle;
+    if (Parent || ParentWindow)
         return;
-    Params.Style &= ~static_cast<DWORD>(WS_CHILD);
-    const bool IsMain = Application->BecomesMainForm(this);
-    Params.WndParent = IsMain ? nullptr : Application->Handle;
-    if (IsMain)
-        Params.ExStyle |= WS_EX_APPWINDOW;
-    if (FFormStyle == fsStayOnTop)
-        Params.ExStyle |= WS_EX_TOPMOST;
+    if (IsMdiChild())
+        MdiChildParams(Params);
+    else
+        TopLevelParams(Params);
     if (FPlaced || IsDesigning())
         return;
     if (FPosition == poDefault || FPosition == poDefaultPosOnly)
@@ -41,17 +43,39 @@ void TCustomForm::CreateParams(TCreateParams& Params)
         Params.Width = Params.Height = CW_USEDEFAULT;
 }
 
+void TCustomForm::TopLevelParams(TCreateParams& Params)
+{
+    Params.Style &= ~static_cast<DWORD>(WS_CHILD);
+    const bool IsMain = Application->BecomesMainForm(this);
+    Params.WndParent = IsMain ? nullptr : Application->Handle;
+    if (IsMain)
+        Params.ExStyle |= WS_EX_APPWINDOW;
+    if (FFormStyle == fsStayOnTop)
+        Params.ExStyle |= WS_EX_TOPMOST;
+}
+
+TFormFrame TCustomForm::Frame() const
+{
+    const bool IsChild = IsMdiChild();
+    // Without a caption, or with that of a dialog, children could not be moved or minimized.
+    const bool NeedsCaption = IsChild && (FBorderStyle == bsNone || FBorderStyle == bsDialog);
+    return TFormFrame::Of(NeedsCaption ? bsSizeable : FBorderStyle, FBorderIcons, IsChild || Parent || ParentWindow);
+}
+
 void TCustomForm::CreateWnd()
 {
     TScrollingWinControl::CreateWnd();
     UpdateMenu();
     UpdateIcon();
+    if (FFormStyle == fsMDIForm && !Parent && !ParentWindow && !IsDesigning())
+        CreateMdiFrame();
     if (FAlphaBlend || FTransparentColor)
         UpdateLayer();
 }
 
 void TCustomForm::DestroyWnd()
 {
+    DestroyMdiFrame();
     // A window takes its menu with it.
     SetControlFlag(csDestroyingHandle, true);
     if (FMenu)
@@ -111,6 +135,10 @@ void TCustomForm::SetFormStyle(TFormStyle Value)
 {
     if (FFormStyle == Value)
         return;
+    if (!IsDesigning() && (IsMdiStyle(Value) || IsMdiStyle(FFormStyle))) {
+        ChangeMdiStyle(Value);
+        return;
+    }
     FFormStyle = Value;
     if (!HandleAllocated() || Parent)
         return;
@@ -136,8 +164,7 @@ TRect TCustomForm::GetClientRect() const
 {
     if (HandleAllocated())
         return TScrollingWinControl::GetClientRect();
-    const TFormFrame Frame = TFormFrame::Of(FBorderStyle, FBorderIcons, Parent || ParentWindow);
-    const TSize Margins = Frame.Margins(ShowsMenu());
+    const TSize Margins = Frame().Margins(ShowsMenu());
     return {0, 0, std::max(0, Width - static_cast<int>(Margins.cx) - 2 * FBorderWidth),
             std::max(0, Height - static_cast<int>(Margins.cy) - 2 * FBorderWidth)};
 }
@@ -156,6 +183,10 @@ void TCustomForm::PlaceForShowing()
 {
     if (std::exchange(FPlaced, true) || Parent || IsDesigning())
         return;
+    if (IsMdiChild()) {
+        PlaceMdiChild();
+        return;
+    }
     TRect Around;
     TCustomForm* Center = Application->MainForm;
     switch (FPosition) {
@@ -194,7 +225,9 @@ void TCustomForm::WMSize(TWMSize& Message)
         DefaultHandler(Message);
         return;
     }
-    if (!IsDesigning()) {
+    // Children get sizes before they show.
+    const bool IsState = !IsMdiChild() || (GetWindowLongW(Handle, GWL_STYLE) & WS_VISIBLE);
+    if (!IsDesigning() && IsState) {
         if (Message.WParam == SIZE_RESTORED)
             FWindowState = wsNormal;
         else if (Message.WParam == SIZE_MINIMIZED)

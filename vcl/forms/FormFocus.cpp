@@ -44,6 +44,7 @@ bool TFormFocus::SetFocusedControl(TWinControl* Control)
         return false;
     if (!FForm->GetDesigner())
         FActive = Control == FForm ? nullptr : Control;
+    FForm->FocusInMdiChild();
     Screen->SetActive(FForm, Control);
     if (Control->ControlState.Contains(csFocusing))
         return true;

@@ -21,6 +21,8 @@ public:
     void DefocusControl(TWinControl* Control, bool Removing);
     // Gives the window focus to the active control, or to the form.
     void SetWindowFocus();
+    // The form keeps the focus of its window for another one, an MDI child of its: no control is active.
+    void Leave() { FActive = nullptr; }
     // The first control in tab order becomes active, if none is.
     void SelectFirst();
 

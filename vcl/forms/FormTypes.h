@@ -16,6 +16,7 @@ VCL_ENUM(TDefaultMonitor, dmDesktop, dmPrimary, dmMainForm, dmActiveForm);
 VCL_ENUM(TPrintScale, poNone, poProportional, poPrintToFit);
 VCL_ENUM(TFormStateFlag, fsCreating, fsVisible, fsShowing, fsModal, fsCreatedMDIChild, fsActivated);
 using TFormState = Set<TFormStateFlag>;
+VCL_ENUM(TTileMode, tbHorizontal, tbVertical);
 VCL_ENUM(TCloseAction, caNone, caHide, caFree, caMinimize);
 
 // How a modal form ended; applications may use numbers of their own.

@@ -1,0 +1,262 @@
+// MDI: what forms with the styles fsMDIForm and fsMDIChild do beyond others.
+#include "vcl/forms/Application.h"
+#include "vcl/forms/Form.h"
+#include "vcl/forms/MdiFrame.h"
+#include "vcl/forms/Screen.h"
+
+#include <algorithm>
+
+// The form is one, or will be when it has its window.
+bool TCustomForm::IsMdiChild() const
+{
+    return FFormStyle == fsMDIChild && !Parent && !ParentWindow && !IsDesigning();
+}
+
+// That a child's window lies in; nullptr without one.
+TMdiFrame* TCustomForm::FrameOfChild() const
+{
+    if (!FFormState.Contains(fsCreatedMDIChild) || !HandleAllocated())
+        return nullptr;
+    HWND Client = GetAncestor(const_cast<TCustomForm*>(this)->GetHandle(), GA_PARENT);
+    auto* Frame = As<TCustomForm>(FindControl(GetAncestor(Client, GA_PARENT)));
+    return Frame ? Frame->FMdiFrame.get() : nullptr;
+}
+
+TCustomForm* TCustomForm::NeedMdiParent()
+{
+    if (TCustomForm* Form = Application->MdiParent())
+        return Form;
+    throw EInvalidOperation("Cannot create form. No MDI forms are currently active");
+}
+
+void TCustomForm::ChangeMdiStyle(TFormStyle Value)
+{
+    const bool Making = IsLoading() || FFormState.Contains(fsCreating);
+    if (Value == fsMDIChild && !Parent && !Making)
+        NeedMdiParent();
+    const bool HadWindow = HandleAllocated();
+    DestroyHandle();
+    FFormStyle = Value;
+    if (Value == fsMDIChild && FPosition == poDesigned)
+        Position = poDefault;
+    if (HadWindow && Value != fsMDIChild)
+        HandleNeeded();
+    UpdateControlState();
+    // Children are never hidden.
+    if (Value == fsMDIChild)
+        Visible = true;
+}
+
+// ---- the form that holds the children
+
+HWND TCustomForm::GetClientHandle() const
+{
+    return FMdiFrame ? FMdiFrame->Client() : nullptr;
+}
+
+void TCustomForm::CreateMdiFrame()
+{
+    FMdiFrame = std::make_unique<TMdiFrame>(*this);
+    FMdiFrame->UpdateMenu();
+    Realign();
+    if (Application->MdiParent() != this)
+        return;
+    // Those that lost their windows with the one before.
+    for (int I = Screen->CustomFormCount; I-- > 0;)
+        if (TCustomForm* Form = Screen->CustomForms[I]; Form->IsMdiChild() && !Form->HandleAllocated())
+            Form->UpdateControlState();
+}
+
+void TCustomForm::DestroyMdiFrame()
+{
+    if (!FMdiFrame)
+        return;
+    for (TForm* Child : FMdiFrame->Children())
+        static_cast<TCustomForm*>(Child)->DestroyHandle();
+    FMdiFrame.reset();
+}
+
+void TCustomForm::DestroyMdiChildren()
+{
+    while (TForm* Child = MDIChildCount > 0 ? MDIChildren[0] : nullptr)
+        delete Child;
+}
+
+void TCustomForm::AlignControls(TControl* Control, TRect& Rect)
+{
+    TScrollingWinControl::AlignControls(Control, Rect);
+    if (FMdiFrame)
+        FMdiFrame->Place(Rect);
+}
+
+TForm* TCustomForm::GetActiveMDIChild() const
+{
+    return FMdiFrame ? FMdiFrame->ActiveChild() : nullptr;
+}
+
+int TCustomForm::GetMDIChildCount() const
+{
+    return FMdiFrame ? static_cast<int>(FMdiFrame->Children().size()) : 0;
+}
+
+TForm* TCustomForm::GetMDIChildren(int Index) const
+{
+    const std::vector<TForm*> Children = FMdiFrame ? FMdiFrame->Children() : std::vector<TForm*>();
+    if (Index < 0 || static_cast<size_t>(Index) >= Children.size())
+        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    return Children[static_cast<size_t>(Index)];
+}
+
+void TCustomForm::Cascade()
+{
+    if (FMdiFrame)
+        FMdiFrame->Send(WM_MDICASCADE);
+}
+
+void TCustomForm::Tile()
+{
+    if (FMdiFrame)
+        FMdiFrame->Send(WM_MDITILE, TileMode == tbHorizontal ? MDITILE_HORIZONTAL : MDITILE_VERTICAL);
+}
+
+void TCustomForm::ArrangeIcons()
+{
+    if (FMdiFrame)
+        FMdiFrame->Send(WM_MDIICONARRANGE);
+}
+
+void TCustomForm::Next()
+{
+    if (FMdiFrame)
+        FMdiFrame->Send(WM_MDINEXT, 0, FALSE);
+}
+
+void TCustomForm::Previous()
+{
+    if (FMdiFrame)
+        FMdiFrame->Send(WM_MDINEXT, 0, TRUE);
+}
+
+AnsiString TCustomForm::GetText() const
+{
+    return FMdiFrame ? FMdiFrame->Caption : TScrollingWinControl::GetText();
+}
+
+void TCustomForm::StoreText(const AnsiString& Value)
+{
+    if (FMdiFrame)
+        FMdiFrame->Caption = Value;
+    TScrollingWinControl::StoreText(Value);
+}
+
+void TCustomForm::CMColorChanged(TMessage& Message)
+{
+    Inherited(Message);
+    if (FMdiFrame)
+        FMdiFrame->Invalidate();
+}
+
+// ---- children
+
+void TCustomForm::MdiChildParams(TCreateParams& Params)
+{
+    TCustomForm* Form = NeedMdiParent();
+    Form->HandleNeeded();
+    Params.WndParent = Form->ClientHandle;
+    Params.ExStyle |= WS_EX_MDICHILD;
+}
+
+void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
+{
+    // Its first messages need the default procedure of children.
+    if (IsMdiChild())
+        FFormState << fsCreatedMDIChild;
+    try {
+        TScrollingWinControl::CreateWindowHandle(Params);
+    } catch (...) {
+        FFormState >> fsCreatedMDIChild;
+        throw;
+    }
+}
+
+void TCustomForm::DestroyWindowHandle()
+{
+    if (TMdiFrame* Frame = FrameOfChild()) {
+        SetControlFlag(csDestroyingHandle, true);
+        // The form hears that it is no longer active.
+        Frame->Destroy(Handle);
+    }
+    FFormState >> fsCreatedMDIChild;
+    if (HandleAllocated())
+        TScrollingWinControl::DestroyWindowHandle();
+    SetControlFlag(csDestroyingHandle, false);
+}
+
+void TCustomForm::PlaceMdiChild()
+{
+    if (FPosition == poDesigned || FPosition == poDefault || FPosition == poDefaultPosOnly ||
+        FPosition == poDefaultSizeOnly)
+        return;
+    // Centred on anything else it would lie outside.
+    TRect Area;
+    ::GetClientRect(GetAncestor(Handle, GA_PARENT), &Area);
+    SetBounds(std::max(0, (Area.Width() - Width) / 2), std::max(0, (Area.Height() - Height) / 2), Width, Height);
+}
+
+// ---- messages
+
+void TCustomForm::DefaultHandler(TMessage& Message)
+{
+    if (!HandleAllocated())
+        return;
+    if (FFormState.Contains(fsCreatedMDIChild))
+        Message.Result = DefMDIChildProcW(Handle, Message.Msg, Message.WParam, Message.LParam);
+    else if (FMdiFrame)
+        FMdiFrame->DefaultHandler(Message);
+    else
+        TScrollingWinControl::DefaultHandler(Message);
+}
+
+void TCustomForm::WndProc(TMessage& Message)
+{
+    if (Message.Msg == WM_SETFOCUS && PassFocusOn())
+        return;
+    TScrollingWinControl::WndProc(Message);
+}
+
+// The form that holds children passes the focus on to the active one, and that to its active control.
+bool TCustomForm::PassFocusOn()
+{
+    if (IsDestroying() || ControlState.Contains(csDestroyingHandle))
+        return false;
+    TWinControl* Heir = FFormState.Contains(fsCreatedMDIChild) ? FFocus.Active() : ActiveMDIChild;
+    if (!Heir || !Heir->HandleAllocated() || !Heir->CanFocus() || !IsWindowVisible(Heir->Handle))
+        return false;
+    ::SetFocus(Heir->Handle);
+    return true;
+}
+
+// A control of the form, or the form itself, has got the focus.
+void TCustomForm::FocusInMdiChild()
+{
+    TMdiFrame* Frame = FrameOfChild();
+    if (!Frame)
+        return;
+    // When the program becomes active again, the child does.
+    Frame->Form().FFocus.Leave();
+    Frame->Activate(Handle);
+}
+
+void TCustomForm::WMMDIActivate(TMessage& Message)
+{
+    Inherited(Message);
+    if (FrameOfChild())
+        MergeMenu(reinterpret_cast<HWND>(Message.LParam) == Handle);
+}
+
+void TCustomForm::WMMouseActivate(TMessage& Message)
+{
+    if (TMdiFrame* Frame = FrameOfChild())
+        Frame->Activate(Handle);
+    Inherited(Message);
+}
