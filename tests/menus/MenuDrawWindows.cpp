@@ -295,6 +295,25 @@ TEST_F(MenuDrawing, ALetterTypedInADrawnMenuClicksItsItem)
     EXPECT_THAT(FLog, ElementsAre(2));
 }
 
+TEST_F(MenuDrawing, ACyrillicLetterTypedInADrawnMenuClicksItsItem)
+{
+    FMenu->OwnerDraw = true;
+    TWhileMenuOpen WhileOpen([] {
+        INPUT Keys[2]{};
+        for (INPUT& Key : Keys) {
+            Key.type = INPUT_KEYBOARD;
+            Key.ki.wScan = L'о';
+            Key.ki.dwFlags = KEYEVENTF_UNICODE;
+        }
+        Keys[1].ki.dwFlags |= KEYEVENTF_KEYUP;
+        SendInput(2, Keys, sizeof(INPUT));
+    });
+    FMenu->Popup(150, 150);
+    EXPECT_FALSE(WhileOpen.TimedOut);
+    EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));
+    EXPECT_THAT(FLog, ElementsAre(1));
+}
+
 TEST_F(MenuDrawing, ItemsOfOtherWindowsAreLeftAlone)
 {
     MEASUREITEMSTRUCT Measured{};

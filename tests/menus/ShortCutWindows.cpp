@@ -42,6 +42,16 @@ TEST(ShortCut, EveryNamedKeyGoesToTextAndBack)
         }
 }
 
+TEST(ShortCut, KeysWithoutAFixedNameHaveTheKeyboardDrivers)
+{
+    // Those of the key pad share their place with others, from which only a flag tells them apart.
+    for (int Key : {VK_OEM_PLUS, VK_OEM_COMMA, VK_DIVIDE, VK_MULTIPLY, VK_SUBTRACT, VK_ADD}) {
+        const AnsiString Text = ShortCutToText(static_cast<TShortCut>(scCtrl | Key));
+        EXPECT_NE(Text, "") << Key;
+        EXPECT_EQ(TextToShortCut(Text), scCtrl | Key) << Text;
+    }
+}
+
 TEST(ShortCut, TextIsReadInAnyCaseAndOrder)
 {
     EXPECT_EQ(TextToShortCut("ctrl+shift+s"), scCtrl | scShift | 'S');

@@ -3,6 +3,7 @@
 #include "vcl/graphics/ImageList.h"
 #include "vcl/system/ClassBuilder.h"
 
+#include <memory>
 #include <vector>
 
 void TMenu::Describe(TClassBuilder<TMenu>& Class)
@@ -35,24 +36,6 @@ TMenuItem* FindBelow(TMenuItem* Item, const Matches& IsWanted)
         if (TMenuItem* Found = FindBelow(Item->Items[I], IsWanted))
             return Found;
     return nullptr;
-}
-
-// Opens the submenus that Item lies in, as far as their handlers are concerned. False when Item cannot be chosen.
-bool OpenPathTo(TMenuItem* Item, const TMenu* Menu)
-{
-    std::vector<TMenuItem*> Path;
-    for (TMenuItem* Above = Item->Parent; Above && Above->Parent; Above = Above->Parent)
-        Path.push_back(Above);
-    const uint16_t Command = Item->Command;
-    for (size_t I = Path.size(); I-- > 0;) {
-        if (!Path[I]->CanBeChosen())
-            return false;
-        Path[I]->Click();
-        // The handler may have rebuilt the submenu.
-        if (Menu->FindItem(Command, fkCommand) != Item)
-            return false;
-    }
-    return Item->CanBeChosen();
 }
 
 } // namespace
@@ -89,7 +72,10 @@ bool TMenu::DispatchPopup(HMENU Handle)
     TMenuItem* Item = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle);
     if (!Item)
         return false;
+    const std::weak_ptr<bool> Alive = FLife;
     Item->Click();
+    if (Alive.expired())
+        return true;
     // The handler may have deleted the item.
     if (TMenuItem* Still = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle))
         Still->UpdateHandle();
@@ -99,10 +85,29 @@ bool TMenu::DispatchPopup(HMENU Handle)
 bool TMenu::IsShortCut(TShortCut ShortCut)
 {
     TMenuItem* Item = FindItem(ShortCut, fkShortCut);
-    if (!Item || !OpenPathTo(Item, this))
+    if (!Item || !OpenPathTo(Item))
         return false;
     Item->Click();
     return true;
+}
+
+// Opens the submenus that Item lies in, as far as their handlers are concerned. False when Item cannot be chosen.
+bool TMenu::OpenPathTo(TMenuItem* Item) const
+{
+    std::vector<TMenuItem*> Path;
+    for (TMenuItem* Above = Item->Parent; Above && Above->Parent; Above = Above->Parent)
+        Path.push_back(Above);
+    const uint16_t Command = Item->Command;
+    const std::weak_ptr<bool> Alive = FLife;
+    for (size_t I = Path.size(); I-- > 0;) {
+        if (!Path[I]->CanBeChosen())
+            return false;
+        Path[I]->Click();
+        // The handler may have rebuilt the submenu, or deleted the menu.
+        if (Alive.expired() || FindItem(Command, fkCommand) != Item)
+            return false;
+    }
+    return Item->CanBeChosen();
 }
 
 AnsiString TMenu::HintOf(const TMessage& MenuSelect) const

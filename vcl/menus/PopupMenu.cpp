@@ -51,9 +51,10 @@ void TPopupMenu::CloseMenu()
 
 bool TPopupMenu::IsShortCut(TShortCut ShortCut)
 {
+    const std::weak_ptr<bool> Alive = FLife;
     if (FindItem(ShortCut, fkShortCut))
         DoPopup(this);
-    return TMenu::IsShortCut(ShortCut);
+    return !Alive.expired() && TMenu::IsShortCut(ShortCut);
 }
 
 unsigned TPopupMenu::TrackFlags() const

@@ -24,12 +24,30 @@ struct TPrefix {
 
 constexpr TPrefix Prefixes[] = {{"Shift+", scShift}, {"Ctrl+", scCtrl}, {"Alt+", scAlt}, {"^", scCtrl}};
 
+// Shares its scan code with another key, from which only a flag tells it apart.
+bool IsExtended(uint8_t Key)
+{
+    return Key == VK_DIVIDE || Key == VK_SNAPSHOT || Key == VK_NUMLOCK || Key == VK_APPS || Key == VK_LWIN ||
+           Key == VK_RWIN;
+}
+
+// On keyboards of one maker only; elsewhere their names are those of other keys.
+bool IsMakersKey(uint8_t Key)
+{
+    return Key >= VK_OEM_NEC_EQUAL && Key <= 0x96;
+}
+
 // What the keyboard driver calls a key that is not in the table.
 AnsiString SystemKeyName(uint8_t Key)
 {
-    const UINT ScanCode = MapVirtualKeyW(Key, MAPVK_VK_TO_VSC);
+    constexpr UINT ExtendedFlag = 0x100;
+    UINT ScanCode = MapVirtualKeyW(Key, MAPVK_VK_TO_VSC);
+    if (ScanCode == 0 || IsMakersKey(Key))
+        return {};
+    if (IsExtended(Key))
+        ScanCode |= ExtendedFlag;
     wchar_t Name[64];
-    const int Length = ScanCode ? GetKeyNameTextW(static_cast<LONG>(ScanCode << 16), Name, 64) : 0;
+    const int Length = GetKeyNameTextW(static_cast<LONG>(ScanCode << 16), Name, 64);
     return FromWide({Name, static_cast<size_t>(Length)});
 }
 
