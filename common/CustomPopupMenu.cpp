@@ -13,33 +13,33 @@ void TkelCustomPopupMenu::Describe(TClassBuilder<TkelCustomPopupMenu>& Class)
     Class.Message<&Self::MeasureItem>(WM_MEASUREITEM);
 }
 
-TkelCustomPopupMenu::TkelCustomPopupMenu(TComponent* AOwner) : TPopupMenu(AOwner)
+TkelCustomPopupMenu::TkelCustomPopupMenu(TComponent* AOwner) : TPopupMenu(AOwner), FIsTracked(!IsDesigning())
 {
-    if (!IsDesigning())
-        TPopupTracking::Get().Add();
+    if (FIsTracked)
+        PopupTracking->Add();
 }
 
 TkelCustomPopupMenu::~TkelCustomPopupMenu()
 {
-    if (!IsDesigning())
-        TPopupTracking::Get().Remove(this);
+    if (FIsTracked)
+        PopupTracking->Remove(this);
 }
 
 void TkelCustomPopupMenu::BeforeDestruction()
 {
-    if (TPopupTracking::Get().IsOpen(this))
+    if (PopupTracking->IsOpen(this))
         CloseMenu();
     inherited::BeforeDestruction();
 }
 
 TkelCustomPopupMenu* TkelCustomPopupMenu::Current()
 {
-    return TPopupTracking::Get().Current();
+    return PopupTracking->Current();
 }
 
 void TkelCustomPopupMenu::Popup(int X, int Y)
 {
-    if (TPopupTracking::Get().IsOpen(this))
+    if (PopupTracking->IsOpen(this))
         return;
     const TPopupTracking::TLoop Loop(this);
     ModifyItems(Items, FStyle == msStandard);

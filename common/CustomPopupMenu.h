@@ -53,4 +53,5 @@ private:
     unsigned TypeOf(const TMenuItem& Item, bool Standard) const;
 
     TMenuStyle FStyle = msStandard;
+    const bool FIsTracked; // made outside of the designer
 };

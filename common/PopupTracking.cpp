@@ -52,7 +52,8 @@ bool TPopupTracking::WindowMessage(TMessage& Message)
     case WM_MENUCHAR: return Char(static_cast<TWMMenuChar&>(Message));
     case WM_COMMAND: return Command(Message);
     case WM_EXITMENULOOP:
-        FSaved = std::exchange(FCurrent, nullptr);
+        // What is open around it is the current one again.
+        FSaved = std::exchange(FCurrent, FOpen.size() > 1 ? FOpen.end()[-2] : nullptr);
         FCommandPending = true;
         return false;
     default: return false;

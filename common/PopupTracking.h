@@ -45,3 +45,6 @@ private:
     TkelCustomPopupMenu* FSaved = nullptr;
     bool FCommandPending = false;
 };
+
+// The one tracking.
+inline TPopupTracking* const PopupTracking = &TPopupTracking::Get();

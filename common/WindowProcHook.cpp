@@ -19,10 +19,10 @@ void TWindowProcHook::Install(TControl* Control, const THookedWindowProc& Proced
 
 void TWindowProcHook::Remove()
 {
-    if (!FControl)
-        return;
-    if (FControl->WindowProc == FInstalled)
-        FControl->WindowProc = FLink->Next;
+    // A control whose destructors run is no TControl any more.
+    auto* Control = As<TControl>(FControl);
+    if (Control && Control->WindowProc == FInstalled)
+        Control->WindowProc = FLink->Next;
     Forget();
 }
 

@@ -22,7 +22,7 @@ public:
     // The control is about to go: it is left as it is.
     void Forget();
 
-    TControl* Control() const { return FControl; }
+    TControl* Control() const { return static_cast<TControl*>(FControl); }
 
 private:
     struct TLink {
@@ -30,7 +30,7 @@ private:
         TWndMethod Next;
     };
 
-    TControl* FControl = nullptr;
+    TComponent* FControl = nullptr;
     TWndMethod FInstalled;
     std::shared_ptr<TLink> FLink; // shared with what is in the chain
 };
