@@ -4,6 +4,8 @@
 #include "vcl/classes/MemoryStream.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/Writer.h"
+#include "vcl/graphics/Bitmap.h"
+#include "vcl/graphics/Canvas.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/LiveCount.h"
 
@@ -379,4 +381,32 @@ TEST(MenuStreaming, ItemsAreNestedObjects)
     ASSERT_EQ(Menu->Items->Items[0]->Count, 1);
     EXPECT_EQ(Menu->Items->Items[0]->Items[0], Copy->FindComponent("Open1"));
     EXPECT_EQ(Menu->Items->Items[0]->Items[0]->ShortCut, ShortCut('O', {ssCtrl}));
+}
+
+TEST(MenuStreaming, BitmapsAreStoredWithTheirItems)
+{
+    TMemoryStream Stream;
+    {
+        auto Root = std::make_unique<TMenuTestRoot>(nullptr);
+        auto* Menu = new TPopupMenu(Root.get());
+        Menu->Name = "PopupMenu1";
+        Menu->OwnerDraw = true;
+        for (const char* Name : {"With1", "Without1"})
+            AddItem(Menu->Items, Name)->Name = Name;
+        Menu->Items->Items[0]->Bitmap->SetSize(6, 5);
+        Menu->Items->Items[0]->Bitmap->Canvas->Pixels[2][1] = clRed;
+        TWriter(&Stream).WriteRootComponent(Root.get());
+    }
+    const std::string_view Bytes(static_cast<const char*>(Stream.Memory), static_cast<size_t>(Stream.Size));
+    EXPECT_EQ(Bytes.find("Bitmap.Data"), Bytes.rfind("Bitmap.Data")) << "once: an item without has none";
+    Stream.Position = 0;
+    auto Copy = std::make_unique<TMenuTestRoot>(nullptr);
+    ReadRootComponent(Stream, Copy.get());
+    auto* With = As<TMenuItem>(Copy->FindComponent("With1"));
+    ASSERT_NE(With, nullptr);
+    EXPECT_TRUE(With->GetParentMenu()->OwnerDraw);
+    EXPECT_TRUE(With->HasImage());
+    EXPECT_EQ(With->Bitmap->Width, 6);
+    EXPECT_EQ(With->Bitmap->Canvas->Pixels[2][1], clRed);
+    EXPECT_FALSE(As<TMenuItem>(Copy->FindComponent("Without1"))->HasImage());
 }

@@ -151,7 +151,11 @@ bool TMenu::DispatchDrawing(TMessage& Message)
         TMenuItem* Item = FindItem(static_cast<uintptr_t>(Message.LParam), fkHandle);
         if (!Item)
             return false;
-        Message.Result = Item->MenuChar(static_cast<wchar_t>(Message.WParamLo()));
+        // A letter of no item is for others: MDI frames have keys of their own here.
+        const intptr_t Answer = Item->MenuChar(static_cast<wchar_t>(Message.WParamLo()));
+        if (HIWORD(Answer) == MNC_IGNORE)
+            return false;
+        Message.Result = Answer;
         return true;
     }
     default: return false;
