@@ -1,5 +1,7 @@
 // The menu half of the unit Tsy_toolbar.
 #pragma once
 
+#include "menus/Icon.h"
 #include "menus/MenuBanner.h"
+#include "menus/MenuButton.h"
 #include "menus/OfficePopupMenu.h"

@@ -4,9 +4,6 @@
 #include "vcl/controls/WinControl.h"
 #include "vcl/menus/PopupMenu.h"
 
-namespace {
-
-// The press that closed the menu is still to come: it would open the menu again.
 void DropPressOn(TControl* Control)
 {
     TWinControl* Parent = Control->Parent;
@@ -19,8 +16,6 @@ void DropPressOn(TControl* Control)
             Area.Contains(TPoint(GET_X_LPARAM(Press.lParam), GET_Y_LPARAM(Press.lParam))))
             PeekMessageW(&Press, Parent->Handle, Kind, Kind, PM_REMOVE);
 }
-
-} // namespace
 
 void DropDown(TPopupMenu* Menu, TControl* Control, TkelSpeedButton* Latch)
 {

@@ -1,0 +1,124 @@
+#include "menus/MenuButton.h"
+
+#include "menus/MenuTracking.h"
+#include "toolbar/RandomGroup.h"
+#include "toolbar/SolidFill.h"
+#include "vcl/controls/WinControl.h"
+#include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/DisabledText.h"
+#include "vcl/system/ClassBuilder.h"
+
+namespace {
+
+constexpr int LastRandomGroup = 9999;
+
+} // namespace
+
+void TkelMenuButton::Describe(TClassBuilder<TkelMenuButton>& Class)
+{
+    Class.Property<&Self::GetAlign, &Self::SetAlign>("Align").Default(alNone);
+    Class.Property<&Self::GetMenu, &Self::SetMenu>("Menu");
+    Class.Property<&Self::MenuGroupIndex, &Self::MenuGroupIndex>("MenuGroupIndex").Default(0);
+    Class.Message<&Self::CMDialogChar>(CM_DIALOGCHAR);
+}
+
+TkelMenuButton::TkelMenuButton(TComponent* AOwner) : TkelSpeedButton(AOwner)
+{
+    AllowAllUp = true;
+    GroupIndex = RandomGroup(LastRandomGroup);
+    if (!IsDesigning())
+        TMenuTracking::Get().Add(this);
+}
+
+void TkelMenuButton::BeforeDestruction()
+{
+    TMenuTracking::Get().Remove(this);
+    inherited::BeforeDestruction();
+}
+
+void TkelMenuButton::SetMenu(TPopupMenu* Value)
+{
+    FMenu = Value;
+    if (Value)
+        Value->FreeNotification(this);
+}
+
+void TkelMenuButton::Notification(TComponent* Component, TOperation Operation)
+{
+    inherited::Notification(Component, Operation);
+    if (Operation == opRemove && Component == FMenu)
+        FMenu = nullptr;
+}
+
+void TkelMenuButton::SetHot(bool Value)
+{
+    if (FHot == Value)
+        return;
+    FHot = Value;
+    Repaint();
+}
+
+TPoint TkelMenuButton::DropPoint() const
+{
+    const bool InRow = Align == alLeft || Align == alRight;
+    return ClientToScreen(InRow ? TPoint(0, Height) : TPoint(Width, 0));
+}
+
+void TkelMenuButton::Click()
+{
+    inherited::Click();
+    if (FMenu)
+        TMenuTracking::Get().Click(this);
+}
+
+// Menus open with the press, so that it can go on to an item and choose it by letting go.
+void TkelMenuButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
+{
+    if (!FMenu || Button != mbLeft) {
+        inherited::MouseDown(Button, Shift, X, Y);
+        return;
+    }
+    TGraphicControl::MouseDown(Button, Shift, X, Y);
+    MouseCapture = false;
+    if (Enabled)
+        Click();
+}
+
+void TkelMenuButton::CMDialogChar(TCMDialogChar& Message)
+{
+    if (!TMenuTracking::Get().IsTracking()) {
+        Inherited(Message);
+        return;
+    }
+    if (!Enabled || !IsAccel(Message.CharCode, Caption))
+        return;
+    Click();
+    Message.Result = 1;
+}
+
+void TkelMenuButton::Paint()
+{
+    HDC Context = Canvas->BareHandle();
+    const TRect R(0, 0, Width, Height);
+    {
+        TSolidFill Fill(Context);
+        Fill.Fill(R, clBtnFace);
+        if (Down || FState == bsDown)
+            Fill.Frame(R, clBtnShadow, clBtnHighlight);
+        else if (FHot || FMouseInControl)
+            Fill.Frame(R, clBtnHighlight, clBtnShadow);
+    }
+    constexpr unsigned Flags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    Canvas->Font = Font;
+    Canvas->Brush->Style = bsClear;
+    TRect Text = R;
+    if (Enabled)
+        DrawText(Canvas->Handle, Caption, Text, Flags);
+    else
+        DrawDisabledText(Canvas->Handle, Caption, Text, Flags);
+}
+
+int TkelMenuButton::AccessibleRole() const
+{
+    return ROLE_SYSTEM_MENUITEM;
+}

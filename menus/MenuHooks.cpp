@@ -1,0 +1,64 @@
+#include "menus/MenuHooks.h"
+
+#include "menus/MenuTracking.h"
+#include "vcl/system/WindowsApi.h"
+
+namespace {
+
+HHOOK MouseHook = nullptr;
+HHOOK KeyboardHook = nullptr;
+
+// The loop of a menu looks at a key before it takes it, and the hook is called for both. What was decided first holds.
+struct TDecision {
+    WPARAM Key = 0;
+    LPARAM Data = 0;
+    bool Used = false;
+    bool Pending = false;
+};
+TDecision Decision;
+
+bool InMouseHook = false;
+
+LRESULT CALLBACK MouseProc(int Code, WPARAM WParam, LPARAM LParam)
+{
+    const LRESULT Result = CallNextHookEx(MouseHook, Code, WParam, LParam);
+    if (Code < 0 || WParam != WM_MOUSEMOVE || InMouseHook)
+        return Result;
+    InMouseHook = true;
+    TMenuTracking::Get().PointerMoved(reinterpret_cast<const MOUSEHOOKSTRUCT*>(LParam)->pt);
+    InMouseHook = false;
+    return Result;
+}
+
+LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
+{
+    const LRESULT Result = CallNextHookEx(KeyboardHook, Code, WParam, LParam);
+    if (Code < 0)
+        return Result;
+    const bool Again = Decision.Pending && Decision.Key == WParam && Decision.Data == LParam;
+    if (!Again)
+        Decision = {WParam, LParam, TMenuTracking::Get().Key(static_cast<uint16_t>(WParam), LParam), true};
+    Decision.Pending = Code == HC_NOREMOVE;
+    return Decision.Used ? 1 : Result;
+}
+
+} // namespace
+
+void InstallMenuHooks()
+{
+    if (MouseHook)
+        return;
+    // All threads' hooks would bring the program's file into other programs.
+    const DWORD Thread = GetCurrentThreadId();
+    MouseHook = SetWindowsHookExW(WH_MOUSE, &MouseProc, nullptr, Thread);
+    KeyboardHook = SetWindowsHookExW(WH_KEYBOARD, &KeyboardProc, nullptr, Thread);
+}
+
+void RemoveMenuHooks()
+{
+    if (!MouseHook)
+        return;
+    UnhookWindowsHookEx(std::exchange(MouseHook, nullptr));
+    UnhookWindowsHookEx(std::exchange(KeyboardHook, nullptr));
+    Decision = {};
+}

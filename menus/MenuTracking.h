@@ -1,0 +1,69 @@
+// TMenuTracking: how the user goes through the menus of the menu buttons, with the mouse and with the keyboard. There
+// is one for the whole program.
+//
+// It is idle, in keyboard mode (a button is highlighted and no menu is open), or a menu is open. While there are menu
+// buttons, hooks see the mouse and the keyboard of the user-interface thread; what they decide is done by a message,
+// when the hook has returned.
+#pragma once
+
+#include "vcl/graphics/Types.h"
+#include "vcl/menus/PopupList.h"
+#include "vcl/system/Object.h"
+
+#include <functional>
+#include <vector>
+
+class TCustomForm;
+class TkelMenuButton;
+
+class TMenuTracking : public TObject {
+public:
+    static TMenuTracking& Get();
+
+    // The first button brings the hooks, the last one takes them away. Those in the designer stay out of it.
+    void Add(TkelMenuButton* Button);
+    void Remove(TkelMenuButton* Button);
+
+    // Opens the button's menu, and those of others that the user goes on to; returns when all are closed. The button
+    // whose menu is open closes it.
+    void Click(TkelMenuButton* Button);
+    // A menu is open.
+    bool IsTracking() const { return FTracking; }
+    // Highlighted, or with its menu open; nullptr when idle.
+    TkelMenuButton* Current() const { return FCurrent; }
+
+    // For the hooks. The pointer has moved to a place on the screen.
+    void PointerMoved(const TPoint& Screen);
+    // True when the key, as a keyboard hook is told of it, is used up.
+    bool Key(uint16_t VirtualKey, intptr_t KeyData);
+
+private:
+    bool WindowMessage(TMessage& Message);
+    void Later(std::function<void()> Action);
+
+    void ShowMenu();
+    void CloseMenu();
+    void GoOnTo(TkelMenuButton* Button);
+    void SetCurrent(TkelMenuButton* Button);
+    void Leave();
+
+    bool IsInActiveForm(const TkelMenuButton* Button) const;
+    std::vector<TkelMenuButton*> Neighbours(const TkelMenuButton* Button) const;
+    bool PressKey(uint16_t VirtualKey, intptr_t KeyData);
+    bool ReleaseAlt(bool Alone);
+    bool ToggleKeyboardMode();
+    bool Step(int Direction);
+    bool Accelerator(uint16_t Char);
+    bool Shortcut(uint16_t VirtualKey, intptr_t KeyData);
+
+    std::vector<TkelMenuButton*> FButtons; // the youngest last
+    TkelMenuButton* FReference = nullptr;  // where the keyboard begins
+    TkelMenuButton* FCurrent = nullptr;
+    TkelMenuButton* FNext = nullptr; // whose menu opens when the one that is open has closed
+    std::function<void()> FLater;
+    TPoint FPointer;               // where it was last, on the screen
+    HMENU FSelectedMenu = nullptr; // where the open menu's selection is
+    bool FOnSubMenu = false;       // it is an item with a submenu
+    bool FTracking = false;
+    bool FAltAlone = false; // Alt is down, and nothing else has happened since
+};
