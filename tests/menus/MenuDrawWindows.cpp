@@ -46,6 +46,16 @@ void FillBitmap(TBitmap* Bitmap, int Width, int Height, TColor Color)
 
 class MenuDrawing : public testing::Test {
 protected:
+    // What the program makes once, when it is first needed, is there before the tests count.
+    static void SetUpTestSuite()
+    {
+        TPopupMenu Menu(nullptr);
+        Menu.OwnerDraw = true;
+        Menu.Items->Add(NewItem("Item", scNone, true, true, nullptr, 0, "", &Menu));
+        Measured(Menu.Items->Items[0]);
+        Drawn(Menu.Items->Items[0]);
+    }
+
     void SetUp() override
     {
         FTop = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 100, 100, 300, 200, nullptr, nullptr, nullptr,

@@ -392,7 +392,7 @@ TEST(MenuStreaming, BitmapsAreStoredWithTheirItems)
         Menu->Name = "PopupMenu1";
         Menu->OwnerDraw = true;
         for (const char* Name : {"With1", "Without1"})
-            AddItem(Menu->Items, Name)->Name = Name;
+            Menu->Items->Add(NewItem(Name, scNone, false, true, nullptr, 0, Name, Root.get()));
         Menu->Items->Items[0]->Bitmap->SetSize(6, 5);
         Menu->Items->Items[0]->Bitmap->Canvas->Pixels[2][1] = clRed;
         TWriter(&Stream).WriteRootComponent(Root.get());
