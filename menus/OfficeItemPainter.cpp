@@ -28,7 +28,7 @@ TOfficeItemPainter::TOfficeItemPainter(TCanvas* Canvas, TMenuItem* Item, unsigne
     FTextColor = FSelected ? clHighlightText : clMenuText;
 }
 
-void TOfficeItemPainter::DrawBanner(TkelMenuBanner* Banner, int TotalHeight)
+void TOfficeItemPainter::DrawBanner(TkelMenuBanner* Banner, int Top, int Height)
 {
     TPicture* Picture = Banner->Picture;
     const int Width = Picture->Width;
@@ -38,11 +38,11 @@ void TOfficeItemPainter::DrawBanner(TkelMenuBanner* Banner, int TotalHeight)
     const int X = IsLeft ? FRect.left : FRect.right - Width;
     int Y = 0;
     if (Banner->PicturePosition != ppTop)
-        Y = TotalHeight - Picture->Height;
+        Y = Height - Picture->Height;
     if (Banner->PicturePosition == ppCenter)
         Y /= 2;
     TSolidFill(FCanvas->BareHandle()).Fill({X, FRect.top, X + Width, FRect.bottom}, Banner->BackColor);
-    FCanvas->Draw(X, Y, Picture->Graphic);
+    FCanvas->Draw(X, Top + Y, Picture->Graphic);
     (IsLeft ? FRect.left : FRect.right) += IsLeft ? Width : -Width;
 }
 

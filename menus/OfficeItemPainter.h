@@ -28,9 +28,9 @@ public:
     // State has the system's ODS_ bits; Rect is the item's. The canvas comes with a solid brush.
     TOfficeItemPainter(TCanvas* Canvas, TMenuItem* Item, unsigned State, const TRect& Rect);
 
-    // The item's part of the banner and the whole picture, on which the rest then does not draw. TotalHeight is that of
-    // the menu.
-    void DrawBanner(TkelMenuBanner* Banner, int TotalHeight);
+    // The item's part of the banner and the whole picture, on which the rest then does not draw. Top and Height are
+    // those of all items of the menu together.
+    void DrawBanner(TkelMenuBanner* Banner, int Top, int Height);
     // An etched line with the title in its middle.
     void DrawSeparator();
     // Everything else. Mark is what checked items show.

@@ -42,7 +42,7 @@ void TkelOfficePopupMenu::Notification(TComponent* Component, TOperation Operati
 
 void TkelOfficePopupMenu::Popup(int X, int Y)
 {
-    FSummedItem = nullptr;
+    FExtentOf = nullptr;
     inherited::Popup(X, Y);
 }
 
@@ -57,14 +57,16 @@ void TkelOfficePopupMenu::DoMeasureItem(TMenuItem* Item, int& Width, int& Height
         Width += FBanner.Picture->Width + 2;
     Height = OfficeCellSize + 1;
     FHeights[Item->Command] = Height;
-    FSummedItem = nullptr;
+    FExtentOf = nullptr;
 }
 
 void TkelOfficePopupMenu::DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State, const TRect& Rect)
 {
     TOfficeItemPainter Painter(Canvas, Item, State, Rect);
-    if (FBanner.Picture->Width > 0)
-        Painter.DrawBanner(&FBanner, TotalHeight(Item));
+    if (FBanner.Picture->Width > 0) {
+        const TExtent& Extent = ExtentAround(Item, Rect.top);
+        Painter.DrawBanner(&FBanner, Extent.Top, Extent.Height);
+    }
     if (IsOfficeSeparator(*Item)) {
         Painter.DrawSeparator();
         return;
@@ -76,46 +78,50 @@ void TkelOfficePopupMenu::DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned 
 
 void TkelOfficePopupMenu::MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild)
 {
-    FSummedItem = nullptr;
+    FExtentOf = nullptr;
     inherited::MenuChanged(Sender, Source, Rebuild);
 }
 
-int TkelOfficePopupMenu::TotalHeight(const TMenuItem* Item)
+const TkelOfficePopupMenu::TExtent& TkelOfficePopupMenu::ExtentAround(const TMenuItem* Item, int ItemTop)
 {
     TMenuItem* Parent = Item->Parent;
-    if (!Parent)
-        return MeasuredHeight(Item->Command);
-    if (FSummedItem != Parent) {
-        FSum = SumOfHeights(Parent);
-        FSummedItem = Parent;
+    if (Parent && FExtentOf == Parent)
+        return FExtent;
+    FExtentOf = Parent;
+    FExtent = {.Top = ItemTop};
+    bool IsAbove = true;
+    for (unsigned Command : Parent ? ShownCommands(Parent) : std::vector<unsigned>{Item->Command}) {
+        IsAbove &= Command != Item->Command;
+        const auto Found = FHeights.find(Command);
+        const int Height = Found == FHeights.end() ? 0 : Found->second;
+        FExtent.Height += Height;
+        FExtent.Top -= IsAbove ? Height : 0;
     }
-    return FSum;
+    // Systems differ in whether the menu's frame lies above the first item. In the columns behind the first one, and
+    // when the menu is scrolled, this finds nothing.
+    if (FExtent.Top < 0 || FExtent.Top >= OfficeCellSize)
+        FExtent.Top = 0;
+    return FExtent;
 }
 
-int TkelOfficePopupMenu::SumOfHeights(TMenuItem* Parent) const
+std::vector<unsigned> TkelOfficePopupMenu::ShownCommands(TMenuItem* Parent)
 {
-    int Sum = 0;
+    std::vector<unsigned> Commands;
     if (!Parent->HandleAllocated()) {
         for (int I = 0; I < Parent->Count; ++I)
-            Sum += MeasuredHeight(Parent->Items[I]->Command);
-        return Sum;
+            Commands.push_back(Parent->Items[I]->Command);
+        return Commands;
     }
-    // Some items do not show.
     HMENU Menu = Parent->Handle;
-    for (int I = GetMenuItemCount(Menu); I-- > 0;) {
+    const int Count = GetMenuItemCount(Menu);
+    for (int I = 0; I < Count; ++I) {
         MENUITEMINFOW Info{};
         Info.cbSize = sizeof Info;
         Info.fMask = MIIM_ID;
         if (GetMenuItemInfoW(Menu, static_cast<UINT>(I), TRUE, &Info))
-            Sum += MeasuredHeight(Info.wID);
+            Commands.push_back(Info.wID);
     }
-    return Sum;
-}
-
-int TkelOfficePopupMenu::MeasuredHeight(unsigned Command) const
-{
-    const auto Found = FHeights.find(Command);
-    return Found == FHeights.end() ? 0 : Found->second;
+    return Commands;
 }
 
 // ---- keys

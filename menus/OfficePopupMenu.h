@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 class TkelOfficePopupMenu : public TkelCustomPopupMenu {
     VCL_CLASS(TkelOfficePopupMenu, TkelCustomPopupMenu)
@@ -50,16 +51,21 @@ protected:
 
 private:
     void CMDialogChar(TWMKey& Message);
-    // Of the menu that shows Item, in pixels, as far as its items have been measured.
-    int TotalHeight(const TMenuItem* Item);
-    int SumOfHeights(TMenuItem* Parent) const;
-    int MeasuredHeight(unsigned Command) const;
+    // Where the items of a menu lie together, in pixels, as far as they have been measured.
+    struct TExtent {
+        int Top = 0;
+        int Height = 0;
+    };
+    // Of the menu that shows Item, which is at ItemTop.
+    const TExtent& ExtentAround(const TMenuItem* Item, int ItemTop);
+    // The commands of the items that show, in their order.
+    static std::vector<unsigned> ShownCommands(TMenuItem* Parent);
 
     TkelMenuBanner FBanner;
     TOfficeGlyphs FGlyphs;
     std::shared_ptr<TMaskedImage> FMark; // from the first item that is drawn
     // By command. The system may measure an item once only, so this outlasts the menu's display.
     std::unordered_map<unsigned, int> FHeights;
-    const TMenuItem* FSummedItem = nullptr; // whose items have FSum
-    int FSum = 0;
+    const TMenuItem* FExtentOf = nullptr; // whose items have FExtent
+    TExtent FExtent;
 };

@@ -1,5 +1,6 @@
 // Free accelerators for the items that have none.
 
+#include "vcl/menus/Menu.h"
 #include "vcl/menus/MenuItem.h"
 
 #include <set>
@@ -41,8 +42,10 @@ bool TMenuItem::RethinkHotkeys(bool ForceRethink)
     // What the captions name themselves comes first; of two that name the same letter the first keeps it.
     std::set<wchar_t> Taken;
     std::vector<TMenuItem*> Wanting;
+    const TMenu* Menu = GetParentMenu();
     for (TMenuItem* Item : FItems) {
-        if (!Item->FVisible || Item->IsLine())
+        const bool IsLine = Item->IsLine() || (Menu && Menu->EntryType(*Item) & MFT_SEPARATOR);
+        if (!Item->FVisible || IsLine)
             continue;
         const TWideString Letter = ToWide(GetHotkey(Item->FCaption));
         if (Letter.empty() || !Taken.insert(Letter[0]).second)
