@@ -7,6 +7,40 @@ namespace {
 
 class MdiChildren : public TMdiTest {};
 
+// Read from a form file, with a size and a place that the system chooses.
+class TMdiDocument : public TForm {
+    VCL_CLASS(TMdiDocument, TForm)
+public:
+    explicit TMdiDocument(TComponent* AOwner) : TForm(AOwner) { LoadForm(this); }
+
+    void FormCreate(TObject*) { Log.push_back(HandleAllocated() || Visible ? "create late" : "create hidden"); }
+    void FormShow(TObject*) { Log.push_back("show"); }
+    void FormActivate(TObject*) { Log.push_back("activate"); }
+
+    TProbe* Edit = nullptr;
+    TLog Log;
+};
+
+void TMdiDocument::Describe(TClassBuilder<TMdiDocument>& Class)
+{
+    Class.Field<&Self::Edit>("Edit");
+    Class.Method<&Self::FormCreate>("FormCreate");
+    Class.Method<&Self::FormShow>("FormShow");
+    Class.Method<&Self::FormActivate>("FormActivate");
+}
+
+// Makes its first child while it is made itself.
+class TMdiOpener : public TMdiMain {
+    VCL_CLASS(TMdiOpener, TMdiMain)
+public:
+    explicit TMdiOpener(TComponent* AOwner) : TMdiMain(AOwner) { First = new TMdiNote(this); }
+
+    TMdiNote* First;
+};
+
+void TMdiOpener::Describe(TClassBuilder<TMdiOpener>&)
+{}
+
 TPoint CaptionOf(TForm* Form)
 {
     TRect R;
@@ -217,6 +251,43 @@ TEST_F(MdiChildren, TheActiveChildComesBackWithTheProgram)
     Main->SetFocus();
     EXPECT_TRUE(Edit->Focused());
     EXPECT_EQ(Active(), Notes[1]);
+}
+
+TEST_F(MdiChildren, BringToFrontActivates)
+{
+    Open(2);
+    Notes[0]->BringToFront();
+    ExpectActive(Notes[0]);
+}
+
+// ---- form files
+
+TEST_F(MdiChildren, AChildFromAFormFileShowsWhenItIsReady)
+{
+    Main->Open();
+    std::unique_ptr<TMdiDocument> Document(new TMdiDocument(nullptr));
+    EXPECT_THAT(Document->Log, ElementsAre("create hidden", "show", "activate"));
+    EXPECT_EQ(Main->ActiveMDIChild, Document.get());
+    EXPECT_TRUE(Document->Edit->Focused());
+    EXPECT_EQ(Document->ClientWidth, 222);
+    EXPECT_EQ(Document->ClientHeight, 111);
+}
+
+TEST(MdiChildrenWithout, AFormFileIsRefused)
+{
+    EXPECT_THROW(TMdiDocument(nullptr), EInvalidOperation);
+}
+
+TEST(MdiChildrenWithout, ChildrenMayBeMadeInOnCreateOfTheMainForm)
+{
+    TMdiOpener* Main = nullptr;
+    Application->CreateForm(&Main);
+    EXPECT_EQ(Main->MDIChildCount, 1);
+    EXPECT_TRUE(Main->First->Visible);
+    Main->Visible = true;
+    EXPECT_TRUE(PumpUntil([&] { return Main->First->Active; }));
+    EXPECT_EQ(Screen->ActiveForm, Main->First);
+    delete Main;
 }
 
 // ---- keys

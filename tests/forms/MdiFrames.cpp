@@ -221,6 +221,14 @@ TEST_F(MdiFrames, AMaximizedChildHasItsButtonsInTheMenuHoweverThatChanges)
     EXPECT_EQ(GetMenuItemCount(::GetMenu(Main->Handle)), 6) << "icon, two items, three buttons";
     Notes[0]->Show();
     EXPECT_EQ(SystemItems(), 2) << "the other one's";
+    File->Visible = false;
+    EXPECT_EQ(SystemItems(), 2);
+    EXPECT_EQ(GetMenuItemCount(::GetMenu(Main->Handle)), 5);
+    File->Visible = true;
+    EXPECT_EQ(GetMenuItemCount(::GetMenu(Main->Handle)), 6);
+    File->Caption = "&Files";
+    EXPECT_EQ(GetMenuItemCount(::GetMenu(Main->Handle)), 6);
+    File->Caption = "&File";
     Main->Menu = nullptr;
     EXPECT_EQ(::GetMenu(Main->Handle), nullptr);
     Main->Menu = Menu;
@@ -337,6 +345,7 @@ TEST_F(MdiFrames, ChildrenOfOtherOwnersGoWithTheFormToo)
     Note->OnDestroy = [&](TObject*) { ++Destroyed; };
     auto* Owned = new TMdiNote(Application);
     Owned->OnDestroy = [&](TObject*) { ++Destroyed; };
+    Note->OnActivate = [](TObject*) { ADD_FAILURE() << "activated as the form goes"; };
     delete std::exchange(Main, nullptr);
     EXPECT_EQ(Destroyed, 2);
 }
@@ -351,4 +360,16 @@ TEST_F(MdiFrames, ChangingTheStyleTakesTheChildrensWindowsAndBringsThemBack)
     Main->FormStyle = fsMDIForm;
     EXPECT_EQ(Main->MDIChildCount, 2);
     EXPECT_TRUE(Notes[0]->Showing);
+}
+
+TEST_F(MdiFrames, AMenuThatGoesLeavesTheMaximizedChild)
+{
+    AddMenu();
+    Open(1);
+    Notes[0]->WindowState = wsMaximized;
+    delete Menu;
+    EXPECT_EQ(Main->WindowMenu, nullptr);
+    Notes[0]->WindowState = wsNormal;
+    EXPECT_EQ(::GetMenu(Main->Handle), nullptr);
+    ExpectActive(Notes[0]);
 }

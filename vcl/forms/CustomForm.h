@@ -215,6 +215,7 @@ protected:
     void WndProc(TMessage& Message) override;
     void StoreText(const AnsiString& Value) override;
     void AlignControls(TControl* Control, TRect& Rect) override;
+    void SetZOrder(bool TopMost) override;
     void PaintWindow(HDC DC) override;
     bool PaintsItself() const override { return true; }
     void ReadState(TReader& Reader) override;
@@ -256,6 +257,8 @@ private:
     void CreateMdiFrame();
     void DestroyMdiFrame();
     void DestroyMdiChildren();
+    TForm* LowestMdiChild() const;
+    void BarChanged();
     void MdiChildParams(TCreateParams& Params);
     void PlaceMdiChild();
     bool PassFocusOn();

@@ -57,7 +57,7 @@ HWND TCustomForm::GetClientHandle() const
 void TCustomForm::CreateMdiFrame()
 {
     FMdiFrame = std::make_unique<TMdiFrame>(*this);
-    FMdiFrame->UpdateMenu();
+    UpdateMenu();
     Realign();
     if (Application->MdiParent() != this)
         return;
@@ -71,15 +71,29 @@ void TCustomForm::DestroyMdiFrame()
 {
     if (!FMdiFrame)
         return;
-    for (TForm* Child : FMdiFrame->Children())
+    if (FMenu)
+        FMenu->OnBarChange = nullptr;
+    while (TForm* Child = LowestMdiChild())
         static_cast<TCustomForm*>(Child)->DestroyHandle();
     FMdiFrame.reset();
 }
 
 void TCustomForm::DestroyMdiChildren()
 {
-    while (TForm* Child = MDIChildCount > 0 ? MDIChildren[0] : nullptr)
+    while (TForm* Child = LowestMdiChild())
         delete Child;
+}
+
+// From the lowest on, none becomes active when another one goes.
+TForm* TCustomForm::LowestMdiChild() const
+{
+    return MDIChildCount > 0 ? MDIChildren[MDIChildCount - 1] : nullptr;
+}
+
+void TCustomForm::BarChanged()
+{
+    if (FMdiFrame)
+        FMdiFrame->UpdateMenu();
 }
 
 void TCustomForm::AlignControls(TControl* Control, TRect& Rect)
@@ -160,9 +174,7 @@ void TCustomForm::CMColorChanged(TMessage& Message)
 
 void TCustomForm::MdiChildParams(TCreateParams& Params)
 {
-    TCustomForm* Form = NeedMdiParent();
-    Form->HandleNeeded();
-    Params.WndParent = Form->ClientHandle;
+    Params.WndParent = NeedMdiParent()->ClientHandle;
     Params.ExStyle |= WS_EX_MDICHILD;
 }
 
@@ -190,6 +202,15 @@ void TCustomForm::DestroyWindowHandle()
     if (HandleAllocated())
         TScrollingWinControl::DestroyWindowHandle();
     SetControlFlag(csDestroyingHandle, false);
+}
+
+void TCustomForm::SetZOrder(bool TopMost)
+{
+    TMdiFrame* Frame = FrameOfChild();
+    if (Frame && TopMost)
+        Frame->Activate(Handle);
+    else
+        TScrollingWinControl::SetZOrder(TopMost);
 }
 
 void TCustomForm::PlaceMdiChild()

@@ -39,6 +39,7 @@ void TCustomForm::SetMenu(TMainMenu* Value)
         return;
     if (FMenu) {
         MergeMenu(false);
+        FMenu->OnBarChange = nullptr;
         FMenu->WindowHandle = nullptr;
     }
     ReplaceReference(FMenu, Value);
@@ -74,14 +75,15 @@ void TCustomForm::MergeMenu(bool Merged)
         Bar->Merge(FMenu);
     else
         Bar->Unmerge(FMenu);
-    if (TMdiFrame* Frame = Application->MainForm->FMdiFrame.get())
-        Frame->UpdateMenu();
 }
 
 void TCustomForm::UpdateMenu()
 {
-    if (FMenu && HandleAllocated())
+    if (FMenu && HandleAllocated()) {
+        if (FMdiFrame)
+            FMenu->OnBarChange = {this, &TCustomForm::BarChanged};
         FMenu->WindowHandle = ShowsMenu() ? Handle : nullptr;
+    }
     if (FMdiFrame)
         FMdiFrame->UpdateMenu();
 }

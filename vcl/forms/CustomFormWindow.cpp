@@ -64,6 +64,12 @@ TFormFrame TCustomForm::Frame() const
 
 void TCustomForm::CreateWnd()
 {
+    if (IsMdiChild()) {
+        // The main form's window brings its children's with it.
+        NeedMdiParent()->HandleNeeded();
+        if (HandleAllocated())
+            return;
+    }
     TScrollingWinControl::CreateWnd();
     UpdateMenu();
     UpdateIcon();

@@ -107,4 +107,5 @@ void TMainMenu::UpdateWindow()
         ::SetMenu(FWindowHandle, Shown);
     else
         DrawMenuBar(FWindowHandle);
+    OnBarChange();
 }

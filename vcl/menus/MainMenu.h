@@ -26,6 +26,9 @@ public:
     // hides. A change counts from the next activation on.
     bool AutoMerge = false;
 
+    // The bar in the window has been set or filled anew. For the form, which may have more to put there.
+    TEvent<void()> OnBarChange;
+
 protected:
     void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
     bool IsMenuBar() const override { return true; }
