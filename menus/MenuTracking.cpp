@@ -8,6 +8,7 @@
 #include "toolbar/Flpfrm97.h"
 #include "toolbar/ToolBar.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/forms/Application.h"
 #include "vcl/forms/Screen.h"
 
 #include <algorithm>
@@ -41,6 +42,12 @@ TShiftState HeldShifts(intptr_t KeyData)
     if (KeyData & AltHeld)
         Shift << ssAlt;
     return Shift;
+}
+
+// Can be pointed at, and opens a menu.
+bool IsShown(const TkelMenuButton& Button)
+{
+    return Button.Menu && Button.Visible && Button.Enabled && Button.Parent && Button.Parent->Showing;
 }
 
 TMenuItem* FindShortCut(TComponent* Form, TShortCut ShortCut)
@@ -113,6 +120,9 @@ bool TMenuTracking::IsInActiveForm(const TkelMenuButton* Button) const
         return false;
     if (Button->Owner == Active)
         return true;
+    // The menus of the main form are those of its MDI children, too.
+    if (Active->FormStyle == fsMDIChild)
+        return Button->Owner == Application->MainForm;
     // A bar that floats is a form of its own, and part of the one that it has left.
     const auto* Frame = As<TFPForm97>(Active);
     return Frame && Frame->ToolBar && Frame->ToolBar->Owner == Button->Owner;
@@ -227,8 +237,8 @@ void TMenuTracking::PointerMoved(const TPoint& Screen)
     if (!FTracking || FNext || Screen == FPointer)
         return;
     FPointer = Screen;
-    for (TkelMenuButton* Button : Neighbours(FCurrent)) {
-        if (Button == FCurrent || !Button->Menu || !Button->Parent->Showing)
+    for (TkelMenuButton* Button : FButtons) {
+        if (!FCurrent || Button == FCurrent || Button->Owner != FCurrent->Owner || !IsShown(*Button))
             continue;
         if (PointInRect(Button->ScreenToClient(Screen), Button->ClientRect)) {
             GoOnTo(Button);

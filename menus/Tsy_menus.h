@@ -3,5 +3,6 @@
 
 #include "menus/Icon.h"
 #include "menus/MenuBanner.h"
+#include "menus/MenuBar.h"
 #include "menus/MenuButton.h"
 #include "menus/OfficePopupMenu.h"
