@@ -191,6 +191,11 @@ TEST_F(OfficePopupMenuPaintTest, ACheckedRadioItemShowsItsGlyphInstead)
         Glyph(Expected, At, At, 0);
         EXPECT_TRUE(SamePixels(Draw(Item, Checked), Expected)) << FromImages;
         EXPECT_TRUE(SamePixels(Draw(Item, Checked | Grayed), Disabled)) << "an empty box " << FromImages;
+        Expected.Fill({0, 0, Width, G + 1}, clHighlight);
+        Expected.Fill({1, 1, G, G}, clMenu);
+        Frame(Expected, 0, clBtnShadow, clBtnHighlight);
+        Glyph(Expected, At, At, 0);
+        EXPECT_TRUE(SamePixels(Draw(Item, Checked | Selected), Expected)) << "selected " << FromImages;
     }
 }
 
