@@ -42,14 +42,20 @@ public:
         FThread.join();
     }
 
+    void AllowLonger(int Times)
+    {
+        std::lock_guard Lock(FMutex);
+        FLimit *= Times;
+    }
+
 private:
     void Watch()
     {
-        const TClock::time_point Deadline = TClock::now() + FLimit;
+        const TClock::time_point Start = TClock::now();
         std::unique_lock Lock(FMutex);
         while (!FWake.wait_for(Lock, 50ms, [this] { return FDone; })) {
             AnswerDialogs();
-            if (FLimit > 0s && TClock::now() > Deadline)
+            if (FLimit > 0s && TClock::now() > Start + FLimit)
                 GiveUp();
         }
     }
@@ -63,12 +69,14 @@ private:
     }
 
     const std::string FTestName;
-    const std::chrono::seconds FLimit;
+    std::chrono::seconds FLimit;
     std::mutex FMutex;
     std::condition_variable FWake;
     bool FDone = false;
     std::thread FThread;
 };
+
+TWatchdog::TGuard* TWatchdog::Current = nullptr;
 
 TWatchdog::TWatchdog() = default;
 TWatchdog::~TWatchdog() = default;
@@ -76,9 +84,17 @@ TWatchdog::~TWatchdog() = default;
 void TWatchdog::OnTestStart(const testing::TestInfo& Test)
 {
     FGuard = std::make_unique<TGuard>(std::string(Test.test_suite_name()) + "." + Test.name());
+    Current = FGuard.get();
 }
 
 void TWatchdog::OnTestEnd(const testing::TestInfo&)
 {
+    Current = nullptr;
     FGuard.reset();
+}
+
+void TWatchdog::AllowLonger(int Times)
+{
+    if (Current)
+        Current->AllowLonger(Times);
 }

@@ -14,7 +14,12 @@ public:
     void OnTestStart(const testing::TestInfo& Test) override;
     void OnTestEnd(const testing::TestInfo& Test) override;
 
+    // Gives the test that runs so many times the limit.
+    static void AllowLonger(int Times);
+
 private:
     class TGuard;
+    static TGuard* Current; // of the test that runs
+
     std::unique_ptr<TGuard> FGuard;
 };

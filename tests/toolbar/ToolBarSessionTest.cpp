@@ -1,5 +1,6 @@
-// A long session with the mouse, at random but always the same for one seed: the messages go to the windows that the
-// system would send them to, at once and in order, so that no timing plays a part.
+// A long session with the mouse, at random but always the same for one seed: the messages go to the bar that is taken
+// or to the window that has the mouse, at once and in order, so that no timing plays a part.
+#include "tests/support/Watchdog.h"
 #include "tests/toolbar/DockFixture.h"
 #include "toolbar/Flpfrm97.h"
 
@@ -14,6 +15,7 @@ class ToolBarSessionTest : public DockFixture {
 protected:
     void SetUp() override
     {
+        TWatchdog::AllowLonger(5);
         Form->SetBounds(200, 150, 700, 500);
         for (TAlign Align : {alTop, alBottom, alLeft, alRight})
             Docks.push_back(NewDock(Align));
@@ -40,46 +42,40 @@ protected:
     int Random(int Below) { return static_cast<int>(Generator() % static_cast<unsigned>(Below)); }
     TPoint RandomPoint() { return Form->ClientToScreen({Random(760) - 30, Random(540) - 30}); }
 
-    // Somewhere on a bar or on the caption of its frame.
-    TPoint RandomGrip()
+    void Send(HWND Target, UINT Message, WPARAM Keys, const TPoint& Place)
     {
-        const TTestBar* Bar = Bars[Random(8)];
-        if (!Bar->Visible)
-            return RandomPoint();
-        if (Bar->Floating && Random(2) == 0)
-            return Bar->ClientToScreen({Random(Bar->Width / 2), -8});
-        return Bar->ClientToScreen({Random(Bar->Width), Random(Bar->Height)});
-    }
-
-    void Send(UINT Message, WPARAM Keys, const TPoint& Place)
-    {
-        const HWND Below = WindowFromPoint(Place);
-        const HWND Window = GetCapture() ? GetCapture() : Below;
-        const bool Inside = SendMessageW(Below, WM_NCHITTEST, 0, MAKELPARAM(Place.X, Place.Y)) == HTCLIENT;
-        if (!GetCapture() && (!FindControl(Window) || !Inside))
-            return;
+        HWND Window = GetCapture() ? GetCapture() : Target;
         POINT P = Place;
         MapWindowPoints(nullptr, Window, &P, 1);
         SendMessageW(Window, Message, Keys, MAKELPARAM(P.x, P.y));
-        PumpMessages();
+        // Not every move is painted, as with a quick hand.
+        if (Message != WM_MOUSEMOVE || ++Moved % 4 == 0)
+            PumpMessages();
     }
 
-    // One stroke: take something, move it about, let it go. Returns the number of actions. The right button's release
-    // is left out: it would open the system's menus.
+    // One stroke: take a bar somewhere, or the caption of its frame, move about, let go. Returns the number of actions.
+    // Of the right button the release is left out: it would open the system's menus.
     int Stroke()
     {
+        TTestBar* Bar = Bars[Random(8)];
+        if (!Bar->Visible)
+            return 0;
+        const bool ByCaption = Bar->Floating && Random(2) == 0;
+        const HWND Target = ByCaption ? Bar->Frame->GetHandle() : Bar->GetHandle();
+        const TPoint Grip =
+            ByCaption ? TPoint(Random(Bar->Width / 2), -8) : TPoint(Random(Bar->Width), Random(Bar->Height));
+        TPoint Place = Bar->ClientToScreen(Grip);
         const bool Left = Random(10) != 0;
         const WPARAM Keys = Left ? MK_LBUTTON : MK_RBUTTON;
-        TPoint Place = RandomGrip();
-        Send(WM_MOUSEMOVE, 0, Place);
-        Send(Left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN, Keys, Place);
+        Send(Target, WM_MOUSEMOVE, 0, Place);
+        Send(Target, Left ? WM_LBUTTONDOWN : WM_RBUTTONDOWN, Keys, Place);
         const int Moves = 1 + Random(8);
         for (int Move = 0; Move < Moves; ++Move) {
             Place = Random(3) == 0 ? Place + TPoint(Random(9) - 4, Random(9) - 4) : RandomPoint();
-            Send(WM_MOUSEMOVE, Keys, Place);
+            Send(Target, WM_MOUSEMOVE, Keys, Place);
         }
         if (Left)
-            Send(WM_LBUTTONUP, 0, Place);
+            Send(Target, WM_LBUTTONUP, 0, Place);
         EXPECT_EQ(GetCapture(), nullptr) << "the button is up";
         ReleaseCapture();
         return Moves + 3;
@@ -144,6 +140,7 @@ protected:
     }
 
     std::mt19937 Generator;
+    int Moved = 0;
     std::vector<TkelDock*> Docks;
     std::vector<TTestBar*> Bars;
     std::set<const TTestBar*> Hidden;
