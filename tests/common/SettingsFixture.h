@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/support/FormTest.h"
+#include "tests/support/OtherProcess.h"
 #include "tests/support/RegistryProbe.h"
 
 #include <gmock/gmock.h>
@@ -28,6 +29,3 @@ MATCHER_P(Is, Text, "")
 {
     return arg == std::string(Text);
 }
-
-// Runs a test, a disabled one, in a process of its own; what it expects decides on the result.
-bool PassesInAnotherProcess(const std::string& Test);

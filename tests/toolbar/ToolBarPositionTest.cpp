@@ -1,5 +1,6 @@
 // Where bars are, kept in the registry: what is written, and what comes of what is found there.
 #include "tests/support/FormText.h"
+#include "tests/support/OtherProcess.h"
 #include "tests/support/RegistryProbe.h"
 #include "tests/toolbar/DockFixture.h"
 #include "toolbar/Flpfrm97.h"
@@ -481,22 +482,8 @@ TEST_F(ToolBarPositionTest, DISABLED_ProcessThatMovesBars)
 
 TEST_F(ToolBarPositionTest, AnotherProcessFindsTheBarsWhereTheyWere)
 {
-    wchar_t Program[MAX_PATH];
-    GetModuleFileNameW(nullptr, Program, MAX_PATH);
-    std::wstring Command = L"\"" + std::wstring(Program) +
-                           L"\" --gtest_also_run_disabled_tests --gtest_filter=*DISABLED_ProcessThatMovesBars";
-    STARTUPINFOW Startup{};
-    Startup.cb = sizeof Startup;
-    PROCESS_INFORMATION Process{};
     Form.reset();
-    ASSERT_TRUE(
-        CreateProcessW(nullptr, Command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &Startup, &Process));
-    WaitForSingleObject(Process.hProcess, 60000);
-    DWORD Code = STILL_ACTIVE;
-    GetExitCodeProcess(Process.hProcess, &Code);
-    CloseHandle(Process.hThread);
-    CloseHandle(Process.hProcess);
-    ASSERT_EQ(Code, 0u);
+    ASSERT_TRUE(PassesInAnotherProcess("ToolBarPositionTest.DISABLED_ProcessThatMovesBars"));
 
     const int X = std::stoi(Record("Edit", "XPosition"));
     const int Y = std::stoi(Record("Edit", "YPosition"));

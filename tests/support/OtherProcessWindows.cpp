@@ -1,9 +1,14 @@
-#include "tests/common/SettingsFixture.h"
+#include "tests/support/OtherProcess.h"
+
+#include "vcl/system/Utf.h"
+#include "vcl/system/WindowsApi.h"
 
 bool PassesInAnotherProcess(const std::string& Test)
 {
-    std::wstring Command = ToWide("\"" + Application->ExeName +
-                                  "\" --gtest_also_run_disabled_tests --gtest_brief=1 --gtest_filter=" + Test);
+    wchar_t Program[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, Program, MAX_PATH);
+    std::wstring Command = L"\"" + std::wstring(Program) +
+                           L"\" --gtest_also_run_disabled_tests --gtest_brief=1 --gtest_filter=" + ToWide(Test);
     STARTUPINFOW Start{};
     Start.cb = sizeof(Start);
     PROCESS_INFORMATION Process;
