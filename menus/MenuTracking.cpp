@@ -15,9 +15,8 @@
 
 namespace {
 
-constexpr UINT DoLater = WM_APP + 0x3E1;
+constexpr UINT OpenCurrent = WM_APP + 0x3E1;
 constexpr intptr_t Released = intptr_t{1} << 31;
-constexpr intptr_t AltHeld = intptr_t{1} << 29;
 constexpr intptr_t WasDown = intptr_t{1} << 30;
 
 // The character of a key on the user's keyboard layout, without the modifiers; 0 when it has none.
@@ -30,18 +29,6 @@ uint16_t CharOf(uint16_t VirtualKey)
 bool IsHeld(int VirtualKey)
 {
     return (GetKeyState(VirtualKey) & 0x8000) != 0;
-}
-
-TShiftState HeldShifts(intptr_t KeyData)
-{
-    TShiftState Shift;
-    if (IsHeld(VK_SHIFT))
-        Shift << ssShift;
-    if (IsHeld(VK_CONTROL))
-        Shift << ssCtrl;
-    if (KeyData & AltHeld)
-        Shift << ssAlt;
-    return Shift;
 }
 
 // Can be pointed at, and opens a menu.
@@ -94,7 +81,7 @@ void TMenuTracking::Remove(TkelMenuButton* Button)
         FReference = FButtons.empty() ? nullptr : FButtons.back();
     if (!FButtons.empty())
         return;
-    FLater = nullptr;
+    FToOpen = nullptr;
     PopupList->RemoveListener({this, &TMenuTracking::WindowMessage});
     RemoveMenuHooks();
 }
@@ -209,17 +196,19 @@ void TMenuTracking::GoOnTo(TkelMenuButton* Button)
     CloseMenu();
 }
 
-void TMenuTracking::Later(std::function<void()> Action)
+// By a message, as a hook must return before a menu can be shown.
+void TMenuTracking::OpenLater()
 {
-    FLater = std::move(Action);
-    PostMessageW(PopupList->Window, DoLater, 0, 0);
+    FToOpen = FCurrent;
+    PostMessageW(PopupList->Window, OpenCurrent, 0, 0);
 }
 
 bool TMenuTracking::WindowMessage(TMessage& Message)
 {
-    if (Message.Msg == DoLater) {
-        if (const std::function<void()> Action = std::exchange(FLater, nullptr))
-            Action();
+    if (Message.Msg == OpenCurrent) {
+        TkelMenuButton* Button = std::exchange(FToOpen, nullptr);
+        if (Button && Button == FCurrent)
+            Button->Click();
         return true;
     }
     if (Message.Msg == WM_MENUSELECT && Message.LParam) {
@@ -263,13 +252,8 @@ bool TMenuTracking::Key(uint16_t VirtualKey, intptr_t KeyData)
             FAltAlone = !IsHeld(VK_CONTROL) && !IsHeld(VK_SHIFT);
         return FCurrent != nullptr;
     }
-    return ReleaseAlt(std::exchange(FAltAlone, false));
-}
-
-// The system would go to its own menu.
-bool TMenuTracking::ReleaseAlt(bool Alone)
-{
-    return Alone && ToggleKeyboardMode();
+    // Not used up, the system would go to its own menu.
+    return std::exchange(FAltAlone, false) && ToggleKeyboardMode();
 }
 
 bool TMenuTracking::ToggleKeyboardMode()
@@ -300,10 +284,7 @@ bool TMenuTracking::PressKey(uint16_t VirtualKey, intptr_t KeyData)
     case VK_RETURN:
         if (!FCurrent || FTracking)
             return false;
-        Later([this, Button = FCurrent] {
-            if (FCurrent == Button)
-                Button->Click();
-        });
+        OpenLater();
         return true;
     default: break;
     }
@@ -352,10 +333,7 @@ bool TMenuTracking::Accelerator(uint16_t Char)
         if (!Char || !IsAccel(Char, Button->Caption))
             continue;
         SetCurrent(Button);
-        Later([this, Button] {
-            if (FCurrent == Button)
-                Button->Click();
-        });
+        OpenLater();
         return true;
     }
     Leave();
@@ -364,7 +342,7 @@ bool TMenuTracking::Accelerator(uint16_t Char)
 
 bool TMenuTracking::Shortcut(uint16_t VirtualKey, intptr_t KeyData)
 {
-    const TShortCut Wanted = ShortCut(VirtualKey, HeldShifts(KeyData));
+    const TShortCut Wanted = KeyMessageToShortCut({WM_KEYDOWN, VirtualKey, KeyData});
     TMenuItem* Item = Wanted == scNone || !FReference->Owner ? nullptr : FindShortCut(FReference->Owner, Wanted);
     if (!Item)
         return false;

@@ -10,7 +10,6 @@
 #include "vcl/menus/PopupList.h"
 #include "vcl/system/Object.h"
 
-#include <functional>
 #include <vector>
 
 class TCustomForm;
@@ -39,7 +38,7 @@ public:
 
 private:
     bool WindowMessage(TMessage& Message);
-    void Later(std::function<void()> Action);
+    void OpenLater();
 
     void ShowMenu();
     void CloseMenu();
@@ -50,7 +49,6 @@ private:
     bool IsInActiveForm(const TkelMenuButton* Button) const;
     std::vector<TkelMenuButton*> Neighbours(const TkelMenuButton* Button) const;
     bool PressKey(uint16_t VirtualKey, intptr_t KeyData);
-    bool ReleaseAlt(bool Alone);
     bool ToggleKeyboardMode();
     bool Step(int Direction);
     bool Accelerator(uint16_t Char);
@@ -59,11 +57,11 @@ private:
     std::vector<TkelMenuButton*> FButtons; // the youngest last
     TkelMenuButton* FReference = nullptr;  // where the keyboard begins
     TkelMenuButton* FCurrent = nullptr;
-    TkelMenuButton* FNext = nullptr; // whose menu opens when the one that is open has closed
-    std::function<void()> FLater;
-    TPoint FPointer;               // where it was last, on the screen
-    HMENU FSelectedMenu = nullptr; // where the open menu's selection is
-    bool FOnSubMenu = false;       // it is an item with a submenu
+    TkelMenuButton* FNext = nullptr;   // whose menu opens when the one that is open has closed
+    TkelMenuButton* FToOpen = nullptr; // by the message that is on its way; only compared
+    TPoint FPointer;                   // where it was last, on the screen
+    HMENU FSelectedMenu = nullptr;     // where the open menu's selection is
+    bool FOnSubMenu = false;           // it is an item with a submenu
     bool FTracking = false;
     bool FAltAlone = false; // Alt is down, and nothing else has happened since
 };
