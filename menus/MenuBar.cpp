@@ -24,7 +24,7 @@ void TkelMenuBar::Describe(TClassBuilder<TkelMenuBar>&)
 
 TkelMenuBar::TkelMenuBar(TComponent* AOwner) : TkelToolBar(AOwner)
 {
-    Caption = ClassName() + std::to_string(AOwner ? AOwner->ComponentCount : 0);
+    NumberCaption();
     MakeIcon();
     FMinimize = AddButton("BTNMIN", {this, &TkelMenuBar::DoMin});
     FRestore = AddButton("BTNMAX", {this, &TkelMenuBar::DoMax});
@@ -111,20 +111,13 @@ void TkelMenuBar::Loaded()
 // The icon and the grip come first, the three buttons last, in their order.
 void TkelMenuBar::PlaceParts()
 {
+    const TDockAxis Axis(DragBox->Align == alTop ? alLeft : alTop); // of the dock that the grip is turned for
     DisableAlign();
-    const bool Vertical = DragBox->Align == alTop;
-    const auto MoveTo = [Vertical](TControl* Part, int Place) {
-        if (Vertical)
-            Part->Top = Place;
-        else
-            Part->Left = Place;
-    };
-    MoveTo(FIconPanel, 0);
-    MoveTo(DragBox, -1);
-    const int End = Vertical ? Height : Width;
-    int Place = End;
+    Axis.SetStart(*FIconPanel, 0);
+    Axis.SetStart(*DragBox, -1);
+    int Place = Axis.Length(*this);
     for (TkelSpeedButton* Button : {FMinimize, FRestore, FClose})
-        MoveTo(Button, Place += ButtonWidth);
+        Axis.SetStart(*Button, Place += ButtonWidth);
     EnableAlign();
 }
 

@@ -35,12 +35,17 @@ TkelToolBar::TkelToolBar(TComponent* AOwner) : TkelCustomPanel(AOwner)
     LayoutSuspended = true;
     ControlStyle = ControlStyle + TControlStyle{csOpaque};
     SetBounds(0, 0, Width, DefaultHeight);
-    Caption = ClassName() + std::to_string(AOwner ? AOwner->ComponentCount : 0);
+    NumberCaption();
     BevelInner = bvRaised;
     BevelOuter = bvNone;
     FDragBox = new TkelTBDragBox(this);
     FDragBox->Align = alLeft;
     FDragBox->Parent = this;
+}
+
+void TkelToolBar::NumberCaption()
+{
+    Caption = ClassName() + std::to_string(Owner ? Owner->ComponentCount : 0);
 }
 
 void TkelToolBar::BeforeDestruction()

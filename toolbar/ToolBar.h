@@ -117,6 +117,9 @@ protected:
     virtual void DoFloat() { OnFloat(this); }
     virtual void DoStatic() { OnStatic(this); }
 
+    // The class's name and the number of the owner's components. A constructor knows its own class only, so that of a
+    // descendant calls it again.
+    void NumberCaption();
     void Loaded() override;
     void Paint() override;
     void AlignControls(TControl* Control, TRect& Rect) override;
@@ -138,6 +141,7 @@ private:
     void TurnItems(bool Vertical);
     void PlaceDragBox();
     void PassInRow(TkelToolBar& Other);
+    void MoveRowsBehind(int Row, int By);
     void JoinRow(TkelToolBar& Other, int Place, int LowerRow);
     void TradeRows(TkelToolBar& Upper, TkelToolBar& Lower, TkelToolBar& Other);
 

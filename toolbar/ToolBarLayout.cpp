@@ -206,6 +206,15 @@ void TkelToolBar::SwapToolBar(TkelToolBar* ToolBar)
     Application->ProcessMessages();
 }
 
+// Moves all bars of the dock that begin behind Row across it.
+void TkelToolBar::MoveRowsBehind(int Row, int By)
+{
+    const TDockAxis Axis = Dock->Axis();
+    for (TkelToolBar* Bar : Dock->AllBars())
+        if (Axis.Row(*Bar) > Row)
+            Axis.SetRow(*Bar, Axis.Row(*Bar) + By);
+}
+
 // Moves the bar into the row of Other, at Place. The rows behind LowerRow move up, as if the bar had left a row of its
 // own there; that is not so when it comes from above or has left others behind, and is kept as it is.
 void TkelToolBar::JoinRow(TkelToolBar& Other, int Place, int LowerRow)
@@ -215,9 +224,7 @@ void TkelToolBar::JoinRow(TkelToolBar& Other, int Place, int LowerRow)
     const int Thick = Axis.Thickness(Other);
     Axis.SetStart(*this, Place);
     Axis.SetRow(*this, Axis.Row(Other));
-    for (TkelToolBar* Bar : InDock->AllBars())
-        if (Axis.Row(*Bar) > LowerRow)
-            Axis.SetRow(*Bar, Axis.Row(*Bar) - Thick);
+    MoveRowsBehind(LowerRow, -Thick);
     Axis.Grow(*InDock, -Thick);
 }
 
@@ -226,19 +233,13 @@ void TkelToolBar::JoinRow(TkelToolBar& Other, int Place, int LowerRow)
 void TkelToolBar::TradeRows(TkelToolBar& Upper, TkelToolBar& Lower, TkelToolBar& Other)
 {
     const TDockAxis Axis = Dock->Axis();
-    const std::vector<TkelToolBar*> Bars = Dock->AllBars();
-    const auto MoveBehind = [&](int Row, int By) {
-        for (TkelToolBar* Bar : Bars)
-            if (Axis.Row(*Bar) > Row)
-                Axis.SetRow(*Bar, Axis.Row(*Bar) + By);
-    };
     const int Difference = Axis.Thickness(Lower) - Axis.Thickness(Upper);
-    MoveBehind(Axis.Row(Lower), -Difference);
+    MoveRowsBehind(Axis.Row(Lower), -Difference);
     const int UpperRow = Axis.Row(Upper);
     Axis.SetRow(Upper, Axis.Row(Lower));
-    MoveBehind(UpperRow, Difference);
+    MoveRowsBehind(UpperRow, Difference);
     Axis.SetRow(Lower, UpperRow);
-    for (TkelToolBar* Bar : Bars)
+    for (TkelToolBar* Bar : Dock->AllBars())
         if (Bar != &Other && Axis.Row(*Bar) == Axis.Row(Other))
             Axis.SetRow(*Bar, Axis.Row(*this));
 }
