@@ -66,9 +66,10 @@ TPoint TkelMenuButton::DropPoint() const
 
 void TkelMenuButton::Click()
 {
-    inherited::Click();
     if (FMenu)
         TMenuTracking::Get().Click(this);
+    else
+        inherited::Click();
 }
 
 // Menus open with the press, so that it can go on to an item and choose it by letting go.

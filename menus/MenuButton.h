@@ -19,7 +19,8 @@ public:
     // Where the button comes to lie when menu bars are merged.
     int MenuGroupIndex = 0;
 
-    // Raises OnClick, and opens the menu or closes it when it is this button's that is open. Returns when it is closed.
+    // Opens the menu, or closes it when it is this button's that is open, and returns when it is closed. OnClick is
+    // raised before the menu opens, however that comes about: there it can be brought up to date.
     void Click() override;
 
     // Highlighted by the keyboard or because the menu is open.

@@ -19,13 +19,29 @@ TDecision Decision;
 
 bool InMouseHook = false;
 
+bool IsPress(WPARAM Message)
+{
+    switch (Message) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_NCLBUTTONDOWN:
+    case WM_NCRBUTTONDOWN:
+    case WM_NCMBUTTONDOWN: return true;
+    default: return false;
+    }
+}
+
 LRESULT CALLBACK MouseProc(int Code, WPARAM WParam, LPARAM LParam)
 {
     const LRESULT Result = CallNextHookEx(MouseHook, Code, WParam, LParam);
-    if (Code < 0 || WParam != WM_MOUSEMOVE || InMouseHook)
+    if (Code < 0 || InMouseHook)
         return Result;
     InMouseHook = true;
-    TMenuTracking::Get().PointerMoved(reinterpret_cast<const MOUSEHOOKSTRUCT*>(LParam)->pt);
+    if (WParam == WM_MOUSEMOVE)
+        TMenuTracking::Get().PointerMoved(reinterpret_cast<const MOUSEHOOKSTRUCT*>(LParam)->pt);
+    else if (IsPress(WParam))
+        TMenuTracking::Get().ButtonPressed();
     InMouseHook = false;
     return Result;
 }

@@ -16,8 +16,10 @@
 namespace {
 
 constexpr UINT OpenCurrent = WM_APP + 0x3E1;
+constexpr UINT OpenLetter = WM_APP + 0x3E2;
 constexpr intptr_t Released = intptr_t{1} << 31;
 constexpr intptr_t WasDown = intptr_t{1} << 30;
+constexpr intptr_t AltHeld = intptr_t{1} << 29;
 
 // The character of a key on the user's keyboard layout, without the modifiers; 0 when it has none.
 uint16_t CharOf(uint16_t VirtualKey)
@@ -31,10 +33,50 @@ bool IsHeld(int VirtualKey)
     return (GetKeyState(VirtualKey) & 0x8000) != 0;
 }
 
-// Can be pointed at, and opens a menu.
-bool IsShown(const TkelMenuButton& Button)
+// A bar may lie in a dock that is hidden.
+bool IsOnScreen(const TkelMenuButton& Button)
 {
-    return Button.Menu && Button.Visible && Button.Enabled && Button.Parent && Button.Parent->Showing;
+    const TWinControl* Bar = Button.Parent;
+    return Button.Visible && Bar && Bar->HandleAllocated() && IsWindowVisible(Button.Parent->Handle);
+}
+
+// The form that a component belongs to, be it by way of a frame; nullptr when there is none.
+TCustomForm* FormOf(TComponent* Component)
+{
+    while (Component && !As<TCustomForm>(Component))
+        Component = Component->Owner;
+    return As<TCustomForm>(Component);
+}
+
+// The form that has the menus while Form is active: the menus of an MDI child are with its parent's, and a frame in
+// which a bar floats is part of the form that the bar has left.
+TCustomForm* MenuFormOf(TCustomForm* Form)
+{
+    if (const auto* Frame = As<TFPForm97>(Form); Frame && Frame->ToolBar)
+        Form = FormOf(Frame->ToolBar->Owner);
+    return Form && Form->FormStyle == fsMDIChild ? Application->MainForm : Form;
+}
+
+TCustomForm* ActiveMenuForm()
+{
+    return MenuFormOf(Screen->ActiveCustomForm);
+}
+
+// The forms whose menus are those of MenuForm: itself, and its active MDI child, which comes first.
+std::vector<TCustomForm*> FormsWithMenusOf(TCustomForm* MenuForm)
+{
+    std::vector<TCustomForm*> Forms;
+    if (MenuForm && MenuForm->FormStyle == fsMDIForm && MenuForm->ActiveMDIChild)
+        Forms.push_back(MenuForm->ActiveMDIChild);
+    if (MenuForm)
+        Forms.push_back(MenuForm);
+    return Forms;
+}
+
+bool IsAmongMenusOf(TCustomForm* MenuForm, const TkelMenuButton& Button)
+{
+    const std::vector<TCustomForm*> Forms = FormsWithMenusOf(MenuForm);
+    return std::ranges::find(Forms, FormOf(Button.Owner)) != Forms.end();
 }
 
 TMenuItem* FindShortCut(TComponent* Form, TShortCut ShortCut)
@@ -100,19 +142,25 @@ std::vector<TkelMenuButton*> TMenuTracking::Neighbours(const TkelMenuButton* But
     return Found;
 }
 
-bool TMenuTracking::IsInActiveForm(const TkelMenuButton* Button) const
+TkelMenuButton* TMenuTracking::FindByLetter(const TkelMenuButton* Bar, uint16_t Char) const
 {
-    const TCustomForm* Active = Screen->ActiveCustomForm;
-    if (!Button || !Active)
-        return false;
-    if (Button->Owner == Active)
-        return true;
-    // The menus of the main form are those of its MDI children, too.
-    if (Active->FormStyle == fsMDIChild)
-        return Button->Owner == Application->MainForm;
-    // A bar that floats is a form of its own, and part of the one that it has left.
-    const auto* Frame = As<TFPForm97>(Active);
-    return Frame && Frame->ToolBar && Frame->ToolBar->Owner == Button->Owner;
+    for (TkelMenuButton* Button : Neighbours(Bar))
+        if (Char && IsAccel(Char, Button->Caption))
+            return Button;
+    return nullptr;
+}
+
+// Where the keyboard begins in the active form: the reference button if it is there, else the youngest that is.
+TkelMenuButton* TMenuTracking::Start() const
+{
+    TCustomForm* Form = ActiveMenuForm();
+    const auto CanStart = [Form](const TkelMenuButton* Button) {
+        return Button && IsOnScreen(*Button) && IsAmongMenusOf(Form, *Button);
+    };
+    if (CanStart(FReference))
+        return FReference;
+    const auto Found = std::find_if(FButtons.rbegin(), FButtons.rend(), CanStart);
+    return Found == FButtons.rend() ? nullptr : *Found;
 }
 
 void TMenuTracking::SetCurrent(TkelMenuButton* Button)
@@ -163,10 +211,11 @@ void TMenuTracking::Click(TkelMenuButton* Button)
     Leave();
 }
 
-// The button, its menu or its form may be gone when the menu closes.
+// The button, its menu or its form may be gone after OnClick, and when the menu closes.
 void TMenuTracking::ShowMenu()
 {
-    TPopupMenu* Menu = FCurrent->Menu;
+    FCurrent->TkelSpeedButton::Click();
+    TPopupMenu* Menu = FCurrent ? FCurrent->Menu : nullptr;
     if (!Menu)
         return;
     FSelectedMenu = nullptr;
@@ -211,6 +260,12 @@ bool TMenuTracking::WindowMessage(TMessage& Message)
             Button->Click();
         return true;
     }
+    if (Message.Msg == OpenLetter) {
+        OpenByLetter(static_cast<uint16_t>(Message.WParam), Message.LParam);
+        return true;
+    }
+    if (Message.Msg == WM_ACTIVATEAPP && !Message.WParam)
+        Leave();
     if (Message.Msg == WM_MENUSELECT && Message.LParam) {
         FSelectedMenu = reinterpret_cast<HMENU>(Message.LParam);
         FOnSubMenu = (Message.WParamHi() & MF_POPUP) != 0;
@@ -223,37 +278,52 @@ bool TMenuTracking::WindowMessage(TMessage& Message)
 // When a menu opens or closes the system tells of a move that was none: a menu opened by a key would go at once.
 void TMenuTracking::PointerMoved(const TPoint& Screen)
 {
-    if (!FTracking || FNext || Screen == FPointer)
+    if (!FTracking || !FCurrent || FNext || Screen == FPointer)
         return;
     FPointer = Screen;
+    TCustomForm* Owner = FormOf(FCurrent->Owner);
+    TCustomForm* Form = Owner ? MenuFormOf(Owner) : ActiveMenuForm();
     for (TkelMenuButton* Button : FButtons) {
-        if (!FCurrent || Button == FCurrent || Button->Owner != FCurrent->Owner || !IsShown(*Button))
+        if (Button == FCurrent || !Button->Menu || !Button->Enabled || !IsAmongMenusOf(Form, *Button))
             continue;
-        if (PointInRect(Button->ScreenToClient(Screen), Button->ClientRect)) {
+        if (IsOnScreen(*Button) && PointInRect(Button->ScreenToClient(Screen), Button->ClientRect)) {
             GoOnTo(Button);
             return;
         }
     }
 }
 
+// A press anywhere ends the keyboard mode, as it does in the system's menu bars. An open menu sees to itself.
+void TMenuTracking::ButtonPressed()
+{
+    if (FCurrent && !FTracking)
+        Leave();
+}
+
 // ---- the keyboard
 
 bool TMenuTracking::Key(uint16_t VirtualKey, intptr_t KeyData)
 {
-    if (!IsInActiveForm(FReference))
+    TCustomForm* Form = ActiveMenuForm();
+    if (std::ranges::none_of(FButtons, [Form](const auto* Button) { return IsAmongMenusOf(Form, *Button); }))
         return false;
     if (VirtualKey != VK_MENU) {
         FAltAlone = false;
         return !(KeyData & Released) && PressKey(VirtualKey, KeyData);
     }
+    if (KeyData & Released)
+        return ReleaseAlt();
     // With AltGr the system presses Ctrl, too.
-    if (!(KeyData & Released)) {
-        if (!(KeyData & WasDown))
-            FAltAlone = !IsHeld(VK_CONTROL) && !IsHeld(VK_SHIFT);
-        return FCurrent != nullptr;
-    }
-    // Not used up, the system would go to its own menu.
-    return std::exchange(FAltAlone, false) && ToggleKeyboardMode();
+    if (!(KeyData & WasDown))
+        FAltAlone = !IsHeld(VK_CONTROL) && !IsHeld(VK_SHIFT);
+    return FCurrent != nullptr;
+}
+
+// A release that is not used up takes the system to its own menu.
+bool TMenuTracking::ReleaseAlt()
+{
+    const bool Alone = std::exchange(FAltAlone, false);
+    return std::exchange(FAltUsed, false) || (Alone && ToggleKeyboardMode());
 }
 
 bool TMenuTracking::ToggleKeyboardMode()
@@ -262,7 +332,7 @@ bool TMenuTracking::ToggleKeyboardMode()
         Leave();
         return true;
     }
-    const std::vector<TkelMenuButton*> Buttons = Neighbours(FReference);
+    const std::vector<TkelMenuButton*> Buttons = Neighbours(Start());
     if (Buttons.empty())
         return false;
     SetCurrent(Buttons.front());
@@ -329,9 +399,7 @@ bool TMenuTracking::Accelerator(uint16_t Char)
         PostMessageW(PopupList->Window, WM_COMMAND, Command, 0);
         return true;
     }
-    for (TkelMenuButton* Button : Neighbours(FCurrent)) {
-        if (!Char || !IsAccel(Char, Button->Caption))
-            continue;
+    if (TkelMenuButton* Button = FindByLetter(FCurrent, Char)) {
         SetCurrent(Button);
         OpenLater();
         return true;
@@ -343,9 +411,33 @@ bool TMenuTracking::Accelerator(uint16_t Char)
 bool TMenuTracking::Shortcut(uint16_t VirtualKey, intptr_t KeyData)
 {
     const TShortCut Wanted = KeyMessageToShortCut({WM_KEYDOWN, VirtualKey, KeyData});
-    TMenuItem* Item = Wanted == scNone || !FReference->Owner ? nullptr : FindShortCut(FReference->Owner, Wanted);
-    if (!Item)
+    if (Wanted == scNone)
         return false;
-    PostMessageW(PopupList->Window, WM_COMMAND, Item->Command, 0);
+    for (TCustomForm* Form : FormsWithMenusOf(ActiveMenuForm()))
+        if (TMenuItem* Item = FindShortCut(Form, Wanted)) {
+            PostMessageW(PopupList->Window, WM_COMMAND, Item->Command, 0);
+            return true;
+        }
+    return (KeyData & AltHeld) && !IsHeld(VK_CONTROL) && LetterElsewhere(CharOf(VirtualKey), KeyData);
+}
+
+// Alt and the letter of a button. Those that lie in the active form itself hear of it as other controls do.
+bool TMenuTracking::LetterElsewhere(uint16_t Char, intptr_t KeyData)
+{
+    const TkelMenuButton* Button = FindByLetter(Start(), Char);
+    if (!Button || GetParentForm(Button) == Screen->ActiveCustomForm)
+        return false;
+    FAltUsed = true;
+    PostMessageW(PopupList->Window, OpenLetter, Char, KeyData);
     return true;
+}
+
+// The controls of the active form come first.
+void TMenuTracking::OpenByLetter(uint16_t Char, intptr_t KeyData)
+{
+    TCustomForm* Active = Screen->ActiveCustomForm;
+    if (Active && Active->Perform(CM_DIALOGCHAR, Char, KeyData) != 0)
+        return;
+    if (TkelMenuButton* Button = FindByLetter(Start(), Char))
+        Button->Click();
 }

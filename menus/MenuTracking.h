@@ -12,7 +12,6 @@
 
 #include <vector>
 
-class TCustomForm;
 class TkelMenuButton;
 
 class TMenuTracking : public TObject {
@@ -31,8 +30,9 @@ public:
     // Highlighted, or with its menu open; nullptr when idle.
     TkelMenuButton* Current() const { return FCurrent; }
 
-    // For the hooks. The pointer has moved to a place on the screen.
+    // For the hooks. The pointer has moved to a place on the screen, or a button of the mouse is pressed.
     void PointerMoved(const TPoint& Screen);
+    void ButtonPressed();
     // True when the key, as a keyboard hook is told of it, is used up.
     bool Key(uint16_t VirtualKey, intptr_t KeyData);
 
@@ -46,16 +46,20 @@ private:
     void SetCurrent(TkelMenuButton* Button);
     void Leave();
 
-    bool IsInActiveForm(const TkelMenuButton* Button) const;
+    TkelMenuButton* Start() const;
     std::vector<TkelMenuButton*> Neighbours(const TkelMenuButton* Button) const;
+    TkelMenuButton* FindByLetter(const TkelMenuButton* Bar, uint16_t Char) const;
     bool PressKey(uint16_t VirtualKey, intptr_t KeyData);
+    bool ReleaseAlt();
     bool ToggleKeyboardMode();
     bool Step(int Direction);
     bool Accelerator(uint16_t Char);
     bool Shortcut(uint16_t VirtualKey, intptr_t KeyData);
+    bool LetterElsewhere(uint16_t Char, intptr_t KeyData);
+    void OpenByLetter(uint16_t Char, intptr_t KeyData);
 
     std::vector<TkelMenuButton*> FButtons; // the youngest last
-    TkelMenuButton* FReference = nullptr;  // where the keyboard begins
+    TkelMenuButton* FReference = nullptr;  // the last one that was made or that the keyboard was on
     TkelMenuButton* FCurrent = nullptr;
     TkelMenuButton* FNext = nullptr;   // whose menu opens when the one that is open has closed
     TkelMenuButton* FToOpen = nullptr; // by the message that is on its way; only compared
@@ -64,4 +68,5 @@ private:
     bool FOnSubMenu = false;           // it is an item with a submenu
     bool FTracking = false;
     bool FAltAlone = false; // Alt is down, and nothing else has happened since
+    bool FAltUsed = false;  // Alt is down, and has opened a menu together with a letter
 };

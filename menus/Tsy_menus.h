@@ -2,6 +2,7 @@
 #pragma once
 
 #include "menus/Icon.h"
+#include "menus/MDIChildMenuBar.h"
 #include "menus/MenuBanner.h"
 #include "menus/MenuBar.h"
 #include "menus/MenuButton.h"

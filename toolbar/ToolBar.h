@@ -89,8 +89,8 @@ public:
     const std::vector<TControl*>& Items() const { return FItems; }
     // Finds the order anew, from where the controls lie. Controls at the same place keep the order they were added in.
     void SortControls();
-    // Turns each item to the direction of the bar's dock: what was at the far end stays there, the others follow from
-    // the near end in their order. Items keep the length they take of the bar.
+    // Turns each item to the direction of the bar: what was at the far end stays there, the others follow from the near
+    // end in their order. Items keep the length they take of the bar. Nothing happens where bars have no direction.
     void CorrectAlign();
     TkelTBDragBox* GetDragBox() const { return FDragBox; }
     PROPERTY_READ(TkelTBDragBox*, DragBox);

@@ -61,6 +61,8 @@ void TkelToolBar::CorrectAlign()
 {
     if (Dock && Dock->TakesBars())
         TurnItems(Dock->Axis().IsVertical());
+    else if (FFloating)
+        TurnItems(false);
 }
 
 // All at once: the layout would mix up what is turned already and what is not.

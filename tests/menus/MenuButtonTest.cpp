@@ -1,13 +1,7 @@
 // Menu buttons under a real mouse and keyboard.
-#include "menus/MenuButton.h"
-
-#include "menus/MenuTracking.h"
-#include "menus/OfficePopupMenu.h"
-#include "tests/support/FormTest.h"
+#include "tests/menus/MenuScript.h"
 #include "tests/support/FormText.h"
-#include "tests/support/SystemInput.h"
 #include "toolbar/Tsy_toolbar.h"
-#include "vcl/menus/UtilityWindow.h"
 
 #include <gmock/gmock.h>
 
@@ -15,53 +9,9 @@ using testing::ElementsAre;
 
 namespace {
 
-// What is done while menus are open: each step when its condition holds, in order. A menu that nobody closes is closed
-// after some seconds, and the script is not done then.
-class TScript {
-public:
-    TScript() : FWindow(AllocateHWnd([this](TMessage& Message) { Tick(Message); }))
-    {
-        SetTimer(FWindow, 1, 20, nullptr);
-    }
-    ~TScript() { DeallocateHWnd(FWindow); }
-    TScript(const TScript&) = delete;
-
-    void When(std::function<bool()> Condition, std::function<void()> Action)
-    {
-        FSteps.push_back({std::move(Condition), std::move(Action)});
-    }
-    bool IsDone() const { return FNext == FSteps.size(); }
-    size_t StepsDone() const { return FNext; }
-
-private:
-    void Tick(TMessage& Message)
-    {
-        if (Message.Msg != WM_TIMER) {
-            DefaultWindowProc(FWindow, Message);
-            return;
-        }
-        if (++FTicks == 250)
-            EndMenu();
-        if (IsDone() || !FSteps[FNext].first())
-            return;
-        const auto Action = FSteps[FNext++].second;
-        Action();
-    }
-
-    std::vector<std::pair<std::function<bool()>, std::function<void()>>> FSteps;
-    size_t FNext = 0;
-    int FTicks = 0;
-    HWND FWindow;
-};
-
 class MenuButtonTest : public TFormTest {
 protected:
-    static void SetUpTestSuite()
-    {
-        TFormTest::SetUpTestSuite();
-        TMenuTracking::Get();
-        TkelOfficePopupMenu Menu(nullptr);
-    }
+    static void SetUpTestSuite() { MakeWhatMenusShare(); }
     void SetUp() override
     {
         Dock = new TkelDock(Form.get());
@@ -102,29 +52,6 @@ protected:
         return Button;
     }
 
-    static std::function<bool()> IsOpen(const TkelMenuButton* Button)
-    {
-        return [Button] {
-            return TkelCustomPopupMenu::Current() == Button->Menu && TMenuTracking::Get().Current() == Button &&
-                   FindWindowW(L"#32768", nullptr);
-        };
-    }
-    static std::function<void()> Type(uint16_t Key)
-    {
-        return [Key] { SendKey(Key); };
-    }
-    static std::function<void()> PointTo(TControl* Control)
-    {
-        return [Control] { SendMove(Control->ClientToScreen({Control->Width / 2, Control->Height / 2})); };
-    }
-    // Presses and lets go on the button; returns when no menu is open any more.
-    void Click(TkelMenuButton* Button)
-    {
-        MovePointerTo(Button, Button->Width / 2, 10);
-        SendButton(mbLeft, true);
-        SendButton(mbLeft, false);
-        PumpMessages();
-    }
     void ExpectIdle()
     {
         EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
@@ -162,7 +89,7 @@ TEST_F(MenuButtonTest, APressOpensTheMenuBelowTheButtonWhichStaysDown)
         WasDown = File->Down && File->Hot;
         SendKey(VK_ESCAPE);
     });
-    Click(File);
+    ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone());
     EXPECT_TRUE(WasDown);
     const TPoint Corner = File->ClientToScreen({0, File->Height});
@@ -177,7 +104,7 @@ TEST_F(MenuButtonTest, ThePointerGoesOnToTheNextMenu)
     Script.When(IsOpen(Edit), PointTo(Help));
     Script.When(IsOpen(Help), PointTo(File));
     Script.When(IsOpen(File), Type(VK_ESCAPE));
-    Click(File);
+    ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone());
     ExpectIdle();
 }
@@ -188,7 +115,7 @@ TEST_F(MenuButtonTest, AClickOnTheButtonOfTheOpenMenuClosesIt)
         SendButton(mbLeft, true);
         SendButton(mbLeft, false);
     });
-    Click(File);
+    ClickToOpen(File);
     PumpMessages();
     EXPECT_TRUE(Script.IsDone());
     ExpectIdle();
@@ -197,7 +124,7 @@ TEST_F(MenuButtonTest, AClickOnTheButtonOfTheOpenMenuClosesIt)
 TEST_F(MenuButtonTest, ALetterChoosesAnItem)
 {
     Script.When(IsOpen(File), Type('S'));
-    Click(File);
+    ClickToOpen(File);
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
     EXPECT_THAT(Chosen, ElementsAre("&Save"));
     ExpectIdle();
@@ -210,7 +137,7 @@ TEST_F(MenuButtonTest, TheArrowsGoRoundTheBar)
     Script.When(IsOpen(Help), Type(VK_RIGHT));
     Script.When(IsOpen(File), Type(VK_LEFT));
     Script.When(IsOpen(Help), Type(VK_ESCAPE));
-    Click(File);
+    ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
     ExpectIdle();
 }
@@ -287,7 +214,7 @@ TEST_F(MenuButtonTest, AButtonMayGoWhileItsMenuIsOpen)
         delete File;
         File = Edit;
     });
-    Click(File);
+    ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone());
     EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
 }
@@ -296,6 +223,6 @@ TEST_F(MenuButtonTest, TheMenuMayGoWithItsButton)
 {
     delete File->Menu;
     EXPECT_EQ(File->Menu, nullptr);
-    Click(File);
+    ClickToOpen(File);
     EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
 }

@@ -1,0 +1,156 @@
+#include "menus/MDIChildMenuBar.h"
+
+#include "menus/MenuButton.h"
+#include "vcl/forms/Form.h"
+#include "vcl/system/ClassBuilder.h"
+
+#include <algorithm>
+
+namespace {
+
+template <class T>
+T* FirstComponent(const TComponent* Owner)
+{
+    for (int I = 0; Owner && I < Owner->ComponentCount; ++I)
+        if (auto* Found = As<T>(Owner->Components[I]))
+            return Found;
+    return nullptr;
+}
+
+std::vector<TkelMenuButton*> MenuButtons(const TkelToolBar& Bar)
+{
+    std::vector<TkelMenuButton*> Found;
+    for (TControl* Item : Bar.Items())
+        if (auto* Button = As<TkelMenuButton>(Item))
+            Found.push_back(Button);
+    return Found;
+}
+
+TDockAxis AxisOf(const TkelToolBar& Bar)
+{
+    const TkelDock* Dock = Bar.Dock;
+    return Dock && Dock->TakesBars() ? Dock->Axis() : TDockAxis(alTop);
+}
+
+} // namespace
+
+void TkelMDIChildMenuBar::Describe(TClassBuilder<TkelMDIChildMenuBar>& Class)
+{
+    Class.Property<&Self::AutoMerge, &Self::AutoMerge>("AutoMerge");
+}
+
+TkelMDIChildMenuBar::TkelMDIChildMenuBar(TComponent* AOwner) : TkelMenuBar(AOwner)
+{
+    NumberCaption();
+    auto* Form = As<TCustomForm>(AOwner);
+    if (!Form || IsDesigning())
+        return;
+    Form->FreeNotification(this);
+    FHook.Install(Form, {this, &TkelMDIChildMenuBar::FormWndProc});
+}
+
+void TkelMDIChildMenuBar::Notification(TComponent* Component, TOperation Operation)
+{
+    inherited::Notification(Component, Operation);
+    if (Operation == opRemove && Component == FHook.Control())
+        FHook.Forget();
+}
+
+void TkelMDIChildMenuBar::Loaded()
+{
+    inherited::Loaded();
+    if (!AutoMerge || IsDesigning())
+        return;
+    if (TkelDock* InDock = Dock)
+        InDock->Visible = false;
+    else
+        Visible = false;
+}
+
+// ---- the child becomes active
+
+void TkelMDIChildMenuBar::FormWndProc(TMessage& Message, const TWndMethod& Next)
+{
+    auto* Form = As<TCustomForm>(Owner);
+    if (Message.Msg == WM_MDIACTIVATE && Form->HandleAllocated() &&
+        reinterpret_cast<HWND>(Message.LParam) == Form->Handle && FirstComponent<TkelMDIChildMenuBar>(Owner) == this)
+        ChildActivated(reinterpret_cast<HWND>(Message.WParam));
+    Next(Message);
+}
+
+void TkelMDIChildMenuBar::ChildActivated(HWND Before)
+{
+    TCustomForm* Parent = ParentForm();
+    for (int I = 0; Before && Parent && I < Parent->MDIChildCount; ++I) {
+        TForm* Child = Parent->MDIChildren[I];
+        if (Child->Handle != Before)
+            continue;
+        if (auto* Bar = FirstComponent<TkelMDIChildMenuBar>(Child))
+            Bar->UnMerge();
+        break;
+    }
+    Merge();
+}
+
+TCustomForm* TkelMDIChildMenuBar::ParentForm() const
+{
+    auto* Form = Owner ? As<TCustomForm>(Owner->Owner) : nullptr;
+    return Form && Form->FormStyle == fsMDIForm ? Form : nullptr;
+}
+
+TkelMenuBar* TkelMDIChildMenuBar::ParentBar() const
+{
+    return FirstComponent<TkelMenuBar>(ParentForm());
+}
+
+// ---- merging
+
+void TkelMDIChildMenuBar::Merge()
+{
+    TkelMenuBar* Bar = ParentBar();
+    if (!Bar)
+        return;
+    const std::vector<TkelMenuButton*> Buttons = MenuButtons(*this);
+    FOrder.assign(Buttons.begin(), Buttons.end());
+    Bar->DisableAlign();
+    for (TkelMenuButton* Button : Buttons) {
+        const std::vector<TkelMenuButton*> Others = MenuButtons(*Bar);
+        const auto Behind = std::ranges::find_if(
+            Others, [=](const TkelMenuButton* Other) { return Other->MenuGroupIndex > Button->MenuGroupIndex; });
+        Button->Parent = Bar;
+        Bar->CorrectAlign();
+        const TDockAxis Axis = AxisOf(*Bar);
+        Axis.SetStart(*Button, Behind == Others.end() ? Axis.Length(*Bar) : Axis.Start(**Behind) - 1);
+        if (Behind != Others.end())
+            break;
+    }
+    Bar->EnableAlign();
+    SortBoth(*Bar);
+}
+
+void TkelMDIChildMenuBar::UnMerge()
+{
+    TkelMenuBar* Bar = ParentBar();
+    if (!Bar)
+        return;
+    DisableAlign();
+    for (TkelMenuButton* Button : MenuButtons(*Bar))
+        if (Button->Owner == Owner)
+            Button->Parent = this;
+    CorrectAlign();
+    // They lie as they did in the other bar. In their old order they merge the next time as they did this time.
+    const auto PlaceOf = [this](const TkelMenuButton* Button) { return std::ranges::find(FOrder, Button); };
+    std::vector<TkelMenuButton*> Buttons = MenuButtons(*this);
+    std::ranges::sort(Buttons, {}, PlaceOf);
+    int Place = 0;
+    for (TkelMenuButton* Button : Buttons)
+        AxisOf(*this).SetStart(*Button, Place += AxisOf(*this).Length(*Button));
+    EnableAlign();
+    SortBoth(*Bar);
+}
+
+void TkelMDIChildMenuBar::SortBoth(TkelMenuBar& Bar)
+{
+    Bar.SortControls();
+    SortControls();
+}

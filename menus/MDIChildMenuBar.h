@@ -1,0 +1,41 @@
+// TkelMDIChildMenuBar: the menus that an MDI child brings along.
+//
+// While the child is the active one, its menu buttons lie in the menu bar of the MDI form. The child must be owned by
+// that form, and the form must own a TkelMenuBar; else the buttons stay where they are.
+#pragma once
+
+#include "common/WindowProcHook.h"
+#include "menus/MenuBar.h"
+
+class TCustomForm;
+
+class TkelMDIChildMenuBar : public TkelMenuBar {
+    VCL_CLASS(TkelMDIChildMenuBar, TkelMenuBar)
+public:
+    // The owner is the child. The bar of anything that is no form never merges by itself.
+    explicit TkelMDIChildMenuBar(TComponent* AOwner);
+
+    // The child shows neither the bar nor the dock that it lies in. Takes effect when the child is loaded; the buttons
+    // go to the form's bar and back in any case.
+    bool AutoMerge = true;
+
+    // Moves the buttons to the form's bar, each behind those there whose MenuGroupIndex is not greater. The first one
+    // that thereby comes before another button is also the last one that moves; the others stay, and do not show.
+    void Merge();
+    // Takes them back.
+    void UnMerge();
+
+protected:
+    void Loaded() override;
+    void Notification(TComponent* Component, TOperation Operation) override;
+
+private:
+    void FormWndProc(TMessage& Message, const TWndMethod& Next);
+    void ChildActivated(HWND Before);
+    TCustomForm* ParentForm() const;
+    TkelMenuBar* ParentBar() const;
+    void SortBoth(TkelMenuBar& Bar);
+
+    TWindowProcHook FHook;
+    std::vector<const TControl*> FOrder; // of the menu buttons when they were merged; only compared
+};

@@ -1,0 +1,81 @@
+// Menus under a real mouse and keyboard: what a user does while menus are open.
+#pragma once
+
+#include "menus/MenuButton.h"
+#include "menus/MenuTracking.h"
+#include "menus/OfficePopupMenu.h"
+#include "tests/support/FormTest.h"
+#include "vcl/menus/UtilityWindow.h"
+
+// What is done while menus are open: each step when its condition holds, in order. A menu that nobody closes is closed
+// after some seconds, and the script is not done then.
+class TScript {
+public:
+    TScript() : FWindow(AllocateHWnd([this](TMessage& Message) { Tick(Message); }))
+    {
+        SetTimer(FWindow, 1, 20, nullptr);
+    }
+    ~TScript() { DeallocateHWnd(FWindow); }
+    TScript(const TScript&) = delete;
+
+    void When(std::function<bool()> Condition, std::function<void()> Action)
+    {
+        FSteps.push_back({std::move(Condition), std::move(Action)});
+    }
+    bool IsDone() const { return FNext == FSteps.size(); }
+    size_t StepsDone() const { return FNext; }
+
+private:
+    void Tick(TMessage& Message)
+    {
+        if (Message.Msg != WM_TIMER) {
+            DefaultWindowProc(FWindow, Message);
+            return;
+        }
+        if (++FTicks == 250)
+            EndMenu();
+        if (IsDone() || !FSteps[FNext].first())
+            return;
+        const auto Action = FSteps[FNext++].second;
+        Action();
+    }
+
+    std::vector<std::pair<std::function<bool()>, std::function<void()>>> FSteps;
+    size_t FNext = 0;
+    int FTicks = 0;
+    HWND FWindow;
+};
+
+// To be there before tests count what they leave behind.
+inline void MakeWhatMenusShare()
+{
+    MakeWhatFormsShare();
+    TMenuTracking::Get();
+    TkelOfficePopupMenu Menu(nullptr);
+}
+
+// Conditions and actions of a script.
+inline auto IsOpen(const TkelMenuButton* Button)
+{
+    return [Button] {
+        return TkelCustomPopupMenu::Current() == Button->Menu && TMenuTracking::Get().Current() == Button &&
+               FindWindowW(L"#32768", nullptr);
+    };
+}
+inline auto Type(uint16_t Key, TShiftState Shift = {})
+{
+    return [=] { SendKey(Key, Shift); };
+}
+inline auto PointTo(TControl* Control)
+{
+    return [Control] { SendMove(Control->ClientToScreen({Control->Width / 2, Control->Height / 2})); };
+}
+
+// Presses and lets go on a button that opens a menu; returns when no menu is open any more.
+inline void ClickToOpen(TControl* Button)
+{
+    MovePointerTo(Button, Button->Width / 2, 10);
+    SendButton(mbLeft, true);
+    SendButton(mbLeft, false);
+    PumpMessages();
+}
