@@ -7,7 +7,7 @@
 #include "demo/Drawing.h"
 #include "demo/Gallery.h"
 #include "demo/History.h"
-#include "toolbar/Tsy_toolbar.h"
+#include "menus/Tsy_menus.h"
 #include "vcl/vcl.h"
 
 class TMainForm : public TForm {

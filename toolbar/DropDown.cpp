@@ -1,6 +1,7 @@
 #include "toolbar/DropDown.h"
 
 #include "toolbar/SpeedButton.h"
+#include "toolbar/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/menus/PopupMenu.h"
 
@@ -21,13 +22,17 @@ void DropDown(TPopupMenu* Menu, TControl* Control, TkelSpeedButton* Latch)
 {
     const TPoint Place = Control->ClientToScreen(TPoint(0, Control->Height));
     Menu->PopupComponent = Control;
+    const TStillThere IsLatch(Latch);
     Latch->Down = true;
     try {
         Menu->Popup(Place.x, Place.y);
     } catch (...) {
-        Latch->Down = false;
+        if (IsLatch)
+            Latch->Down = false;
         throw;
     }
+    if (!IsLatch)
+        return;
     DropPressOn(Latch);
     Latch->Down = false;
 }

@@ -41,13 +41,3 @@ TkelTBComboPopup::TkelTBComboPopup(TComponent* AOwner) : TkelComboPopupButton(AO
 {
     Align = alLeft;
 }
-
-void TkelTBColorCombo::Describe(TClassBuilder<TkelTBColorCombo>& Class)
-{
-    Class.Publish("Align");
-}
-
-TkelTBColorCombo::TkelTBColorCombo(TComponent* AOwner) : TkelColorComboButton(AOwner)
-{
-    Align = alLeft;
-}

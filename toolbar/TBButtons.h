@@ -1,7 +1,6 @@
 // The library's buttons as items of a tool bar: aligned to the left from the start, and with a published Align.
 #pragma once
 
-#include "toolbar/ColorComboButton.h"
 #include "toolbar/ComboPopupButton.h"
 #include "toolbar/PopupButton.h"
 
@@ -27,10 +26,4 @@ class TkelTBComboPopup : public TkelComboPopupButton {
     VCL_CLASS(TkelTBComboPopup, TkelComboPopupButton)
 public:
     explicit TkelTBComboPopup(TComponent* AOwner);
-};
-
-class TkelTBColorCombo : public TkelColorComboButton {
-    VCL_CLASS(TkelTBColorCombo, TkelColorComboButton)
-public:
-    explicit TkelTBColorCombo(TComponent* AOwner);
 };

@@ -1,7 +1,6 @@
 // The unit Tsy_toolbar: glyph strips, tool buttons and what they are drawn with, and the items of tool bars.
 #pragma once
 
-#include "toolbar/ColorComboButton.h"
 #include "toolbar/ComboButton.h"
 #include "toolbar/ComboPopupButton.h"
 #include "toolbar/DitherBrush.h"

@@ -1,6 +1,6 @@
 #include "toolbar/Glyphs.h"
 #include "tests/support/FormText.h"
-#include "tests/toolbar/Strips.h"
+#include "tests/support/Strips.h"
 #include "vcl/graphics/Icon.h"
 #include "vcl/system/LiveCount.h"
 

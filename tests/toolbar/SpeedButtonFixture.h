@@ -3,7 +3,7 @@
 
 #include "tests/support/Input.h"
 #include "tests/support/PaintToBitmap.h"
-#include "tests/toolbar/Strips.h"
+#include "tests/support/Strips.h"
 #include "toolbar/SpeedButton.h"
 
 // A button that lets tests see its drawing state and hands its mouse methods out.

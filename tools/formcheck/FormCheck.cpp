@@ -1,7 +1,7 @@
 #include "tools/formcheck/FormCheck.h"
 
 #include "common/Tsy_common.h"
-#include "toolbar/Tsy_toolbar.h"
+#include "menus/Tsy_menus.h"
 #include "tools/formcheck/MissingControl.h"
 #include "vcl/classes/FormConvert.h"
 #include "vcl/vcl.h"

@@ -1,4 +1,4 @@
-#include "tests/toolbar/Strips.h"
+#include "tests/support/Strips.h"
 
 #include "vcl/graphics/Canvas.h"
 

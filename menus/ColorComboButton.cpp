@@ -1,5 +1,6 @@
-#include "toolbar/ColorComboButton.h"
+#include "menus/ColorComboButton.h"
 
+#include "toolbar/DropDown.h"
 #include "toolbar/SolidFill.h"
 #include "vcl/graphics/Canvas.h"
 #include "vcl/system/ClassBuilder.h"
@@ -15,21 +16,39 @@ constexpr int BandGap = 1;          // between the band and the glyph
 
 void TkelColorComboButton::Describe(TClassBuilder<TkelColorComboButton>& Class)
 {
-    Class.Property<&Self::GetCurrentColor, &Self::SetCurrentColor>("CurrentColor");
+    Class.Property<&Self::PublishedColor, &Self::SetCurrentColor>("CurrentColor");
     Class.Event<&Self::OnChange>("OnChange");
 }
 
 TkelColorComboButton::TkelColorComboButton(TComponent* AOwner) : TkelComboButton(AOwner)
-{}
+{
+    if (IsDesigning())
+        return;
+    FMenu = new TkelColorMenu(this);
+    FMenu->CreateItems();
+    FMenu->OnChange = {this, &TkelColorComboButton::Changed};
+}
 
 void TkelColorComboButton::SetCurrentColor(TColor Value)
 {
-    if (FCurrentColor == Value)
+    if (PublishedColor() == Value)
         return;
-    FCurrentColor = Value;
+    (FMenu ? FMenu->CurrentColor : FDesignedColor) = Value;
+    Changed(this);
+}
+
+void TkelColorComboButton::Changed(TObject*)
+{
     MainButton()->Repaint();
     if (!IsLoading())
         OnChange(this);
+}
+
+void TkelColorComboButton::ListDown()
+{
+    inherited::ListDown();
+    if (FMenu)
+        DropDown(FMenu, this, ArrowButton());
 }
 
 void TkelColorComboButton::DrawOnMain(TCanvas* Canvas, TRect& R)
@@ -44,10 +63,10 @@ void TkelColorComboButton::DrawOnMain(TCanvas* Canvas, TRect& R)
         Fill.Fill(Band, clBtnHighlight);
         OffsetRect(Band, -1, -1);
         Fill.Fill(Band, clBtnShadow);
-    } else if (FCurrentColor == clNone) {
+    } else if (PublishedColor() == clNone) {
         Fill.Frame(Band, clBtnShadow, clBtnShadow);
     } else {
-        Fill.Fill(Band, FCurrentColor);
+        Fill.Fill(Band, PublishedColor());
     }
     R.bottom -= BandHeight + BandGap;
 }
