@@ -132,6 +132,13 @@ void TkelColorMenu::UpdateBreaks()
         Items->Items[I]->Break = StartsColumn(I, FMenuOrdering) ? mbBreak : mbNone;
 }
 
+// Cells reach to the left out of their items. The space for that comes with a break; the first column has it as well,
+// whether its item has a Break or not.
+unsigned TkelColorMenu::EntryType(const TMenuItem& Item) const
+{
+    return inherited::EntryType(Item) | (Item.Parent == Items && Item.MenuIndex == 0 ? MFT_MENUBREAK : 0);
+}
+
 // ---- the current colour
 
 int TkelColorMenu::ColorToIndex(TColor Color) const

@@ -45,6 +45,7 @@ public:
 protected:
     void DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State, const TRect& Rect) override;
     void DoMeasureItem(TMenuItem* Item, int& Width, int& Height, TCanvas* Canvas) override;
+    unsigned EntryType(const TMenuItem& Item) const override;
     // A form without items gets the sixteen colours. What its own items are to do on a click, and where columns begin,
     // is set in any case.
     void Loaded() override;

@@ -1,6 +1,7 @@
 #include "toolbar/ComboButton.h"
 
 #include "toolbar/RandomGroup.h"
+#include "toolbar/StillThere.h"
 #include "vcl/controls/Mouse.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -49,8 +50,10 @@ protected:
     // The release may change the look of this half; the other one follows.
     void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override
     {
+        const TStillThere IsHere(this);
         TkelSpeedButton::MouseUp(Button, Shift, X, Y);
-        FCombo.SetHot(IsHot());
+        if (IsHere)
+            FCombo.SetHot(IsHot());
     }
     void DrawContent(const TRect& R) override
     {
@@ -144,14 +147,18 @@ void TkelComboButton::DoButtonClick(TObject*)
 
 void TkelComboButton::DoListDown(TObject*)
 {
+    const TStillThere IsHere(FArrow);
     try {
         ListDown();
-        OnListDown(this);
+        if (IsHere)
+            OnListDown(this);
     } catch (...) {
-        FArrow->Down = false;
+        if (IsHere)
+            FArrow->Down = false;
         throw;
     }
-    FArrow->Down = false;
+    if (IsHere)
+        FArrow->Down = false;
 }
 
 // ---- the pointer

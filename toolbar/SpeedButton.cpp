@@ -4,6 +4,7 @@
 #include "toolbar/DitherBrush.h"
 #include "toolbar/ImageCells.h"
 #include "toolbar/SolidFill.h"
+#include "toolbar/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -190,8 +191,11 @@ void TkelSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int
         FState = FDown ? bsExclusive : bsUp;
         Repaint();
     }
+    const TStillThere IsHere(this);
     if (Inside)
         Click();
+    if (!IsHere)
+        return;
     UpdateTracking();
     Repaint();
 }

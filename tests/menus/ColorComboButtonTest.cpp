@@ -1,6 +1,6 @@
 #include "menus/ColorComboButton.h"
 
-#include "tests/support/FormTest.h"
+#include "tests/menus/MenuScript.h"
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
 #include "tests/support/Strips.h"
@@ -194,11 +194,7 @@ namespace {
 // On the screen, under a real mouse and keyboard.
 class ColorComboButtonFormTest : public TFormTest {
 protected:
-    static void SetUpTestSuite()
-    {
-        TFormTest::SetUpTestSuite();
-        TkelColorComboButton Combo(nullptr);
-    }
+    static void SetUpTestSuite() { MakeWhatMenusShare(); }
     ColorComboButtonFormTest()
     {
         Combo->SetBounds(40, 30, 33, 22);

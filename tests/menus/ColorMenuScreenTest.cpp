@@ -1,7 +1,6 @@
 // Colour menus on the screen, under a real mouse and keyboard.
 #include "menus/ColorMenu.h"
 
-#include "tests/support/FormTest.h"
 #include "tests/menus/MenuScript.h"
 #include "tests/support/PixelImage.h"
 #include "tests/support/WhileMenuOpen.h"
@@ -15,11 +14,7 @@ namespace {
 
 class ColorMenuScreenTest : public TFormTest {
 protected:
-    static void SetUpTestSuite()
-    {
-        TFormTest::SetUpTestSuite();
-        TkelColorMenu Menu(nullptr);
-    }
+    static void SetUpTestSuite() { MakeWhatMenusShare(); }
     void SetUp() override
     {
         Menu->CreateItems();
@@ -55,7 +50,7 @@ protected:
         EXPECT_TRUE(GetMenuItemRect(nullptr, Menu->Handle, static_cast<UINT>(Index), &R));
         return R;
     }
-    static void PointTo(const TRect& R) { SendMove({(R.left + R.right) / 2, (R.top + R.bottom) / 2}); }
+    static void PointAt(const TRect& R) { SendMove({(R.left + R.right) / 2, (R.top + R.bottom) / 2}); }
     TPixelImage PixelsAt(const TRect& R)
     {
         RedrawWindow(FindWindowW(L"#32768", nullptr), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -75,6 +70,10 @@ protected:
                 Found.push_back(I);
         }
         return Found;
+    }
+    bool IsSelected(int Index)
+    {
+        return (GetMenuState(Menu->Handle, static_cast<UINT>(Index), MF_BYPOSITION) & MF_HILITE) != 0;
     }
     static TColor ColorOf(int Index)
     {
@@ -144,19 +143,23 @@ TEST_F(ColorMenuScreenTest, EveryCellShowsItsColour)
 
 TEST_F(ColorMenuScreenTest, TheFrameOfTheSelectedCellIsWhole)
 {
-    TScript Script;
-    Script.When(&TWhileMenuOpen::IsOpen, [&] { PointTo(PlaceOf(5)); });
-    Script.When([&] { return GetMenuState(Menu->Handle, 5, MF_BYPOSITION) & MF_HILITE; },
-                [&] {
-                    TRect Cell = PlaceOf(5);
-                    Cell = {Cell.left - 2, Cell.top + 1, Cell.right, Cell.bottom - 1};
-                    TPixelImage Expected = PixelsAt(Cell);
-                    Expected.Frame({0, 0, Cell.Width(), Cell.Height()}, clBtnHighlight, cl3DDkShadow);
-                    EXPECT_TRUE(SamePixels(PixelsAt(Cell), Expected));
-                    SendKey(VK_ESCAPE);
-                });
-    Menu->Popup(150, 150);
-    EXPECT_TRUE(Script.IsDone());
+    for (TMenuOrdering Ordering : {mo16x1, mo8x2, mo4x4, mo2x8, mo1x16})
+        for (int Index : {0, 15}) {
+            Menu->MenuOrdering = Ordering;
+            TScript Script;
+            Script.When(&TWhileMenuOpen::IsOpen, [&] { PointAt(PlaceOf(Index)); });
+            Script.When([&] { return IsSelected(Index); },
+                        [&] {
+                            const TRect R = PlaceOf(Index);
+                            const TPixelImage Seen = PixelsAt({R.left - 2, R.top + 1, R.right, R.bottom - 1});
+                            TPixelImage Expected = Seen.Part({0, 0, Seen.Width(), Seen.Height()});
+                            Expected.Frame({0, 0, Seen.Width(), Seen.Height()}, clBtnHighlight, cl3DDkShadow);
+                            EXPECT_TRUE(SamePixels(Seen, Expected)) << Ordering << ", " << Index;
+                            SendKey(VK_ESCAPE);
+                        });
+            Menu->Popup(150, 150);
+            EXPECT_TRUE(Script.IsDone());
+        }
 }
 
 // ---- choosing
@@ -164,7 +167,7 @@ TEST_F(ColorMenuScreenTest, TheFrameOfTheSelectedCellIsWhole)
 TEST_F(ColorMenuScreenTest, TheMouseChoosesAColour)
 {
     PopupWith([&] {
-        PointTo(PlaceOf(10));
+        PointAt(PlaceOf(10));
         SendButton(mbLeft, true);
         SendButton(mbLeft, false);
     });

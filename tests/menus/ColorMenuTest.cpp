@@ -51,7 +51,10 @@ std::vector<int> CheckedItems(TMenu* Menu)
 
 class ColorMenuTest : public testing::Test {
 protected:
-    ColorMenuTest() { Menu->OnChange = [this](TObject* Sender) { Changes += Sender == Menu.get(); }; }
+    ColorMenuTest()
+    {
+        Menu->OnChange = [this](TObject* Sender) { Changes += Sender == Menu.get(); };
+    }
     TMenuItem* Item(int Index) { return Menu->Items->Items[Index]; }
 
     std::unique_ptr<TOpenColorMenu> Menu = std::make_unique<TOpenColorMenu>(nullptr);
@@ -155,8 +158,9 @@ TEST_F(ColorMenuTest, TheSameOrderingOnceMoreLeavesTheItemsAlone)
 TEST_F(ColorMenuTest, AFormWithoutItemsGetsTheColours)
 {
     THostWindow Window;
-    ReadFormText(&Window, "object Window1: THostWindow\n  object Menu1: TkelColorMenu\n    Width = 30\n"
-                          "    Height = 20\n    MenuOrdering = mo2x8\n  end\n  object Menu2: TkelColorMenu\n  end\nend\n");
+    ReadFormText(&Window,
+                 "object Window1: THostWindow\n  object Menu1: TkelColorMenu\n    Width = 30\n"
+                 "    Height = 20\n    MenuOrdering = mo2x8\n  end\n  object Menu2: TkelColorMenu\n  end\nend\n");
     auto* First = As<TkelColorMenu>(Window.FindComponent("Menu1"));
     auto* Second = As<TkelColorMenu>(Window.FindComponent("Menu2"));
     ASSERT_TRUE(First && Second);

@@ -141,3 +141,18 @@ TEST_F(ComboPopupButtonTest, AClickOnTheArrowClosesTheMenuAndDoesNotOpenItAgain)
     EXPECT_EQ(Opened, 1);
     EXPECT_FALSE(Combo->ArrowButton()->Down);
 }
+
+TEST_F(ComboPopupButtonTest, TheButtonMayGoWhileItsMenuIsOpen)
+{
+    Combo->Menu = Real;
+    Show();
+    TWhileMenuOpen WhileOpen([&] {
+        delete std::exchange(Combo, nullptr);
+        EndMenu();
+    });
+    ClickOn(Combo->ArrowButton());
+    PumpMessages();
+    EXPECT_EQ(Combo, nullptr);
+    EXPECT_FALSE(WhileOpen.TimedOut);
+    EXPECT_THAT(Events, ElementsAre());
+}
