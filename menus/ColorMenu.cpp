@@ -50,9 +50,8 @@ bool StartsColumn(int Index, TMenuOrdering Ordering)
     case mo8x2: return Index % 2 == 0;
     case mo4x4: return Index % 4 == 0;
     case mo2x8: return Index == 8;
-    case mo1x16: return false;
+    default: return false;
     }
-    return false;
 }
 
 } // namespace
@@ -154,29 +153,31 @@ void TkelColorMenu::DoClick(TObject* Sender)
     const TColor Color = Item ? ColorOf(*Item) : clNone;
     if (Color == clNone)
         return;
-    Item->Checked = true;
+    CheckOnly(Item);
     CurrentColor = Color;
     OnChange(this);
 }
 
+// A mark that is left from the colour before would be wrong, also when no item has the current one.
 void TkelColorMenu::Popup(int X, int Y)
 {
-    CheckCurrentColor();
+    const int Index = ColorToIndex(CurrentColor);
+    TMenuItem* Current = nullptr;
+    for (int I = 0; I < Items->Count && !Current; ++I)
+        if (Items->Items[I]->Tag == Index)
+            Current = Items->Items[I];
+    CheckOnly(Current);
     inherited::Popup(X, Y);
 }
 
-// The others of the group go off with it. When no item has the colour, a mark left from the one before would be wrong.
-void TkelColorMenu::CheckCurrentColor()
+// Of the colours; what else a menu may have keeps its marks. Nothing is checked for nullptr.
+void TkelColorMenu::CheckOnly(TMenuItem* Item)
 {
-    const int Current = ColorToIndex(CurrentColor);
     for (int I = 0; I < Items->Count; ++I)
-        if (TMenuItem* Item = Items->Items[I]; Item->Tag == Current) {
-            Item->Checked = true;
-            return;
-        }
-    for (int I = 0; I < Items->Count; ++I)
-        if (TMenuItem* Item = Items->Items[I]; Item->RadioItem && Item->GroupIndex == ColorGroup)
-            Item->Checked = false;
+        if (TMenuItem* Each = Items->Items[I]; Each != Item && ColorOf(*Each) != clNone)
+            Each->Checked = false;
+    if (Item)
+        Item->Checked = true;
 }
 
 // ---- measuring and drawing

@@ -1,7 +1,8 @@
 // TkelColorMenu: a popup menu with a grid of sixteen colours, one of which can be chosen.
 //
-// They are the first colours of the system's default palette. The Tag of an item is the number of its colour there, so
-// a form may have items of its own, in another order; see Loaded. The current colour is the checked item.
+// They are the first of the system's default palette. The Tag of an item is the number of its colour there, so a form
+// may have items of its own, in another order and with the four colours behind the sixteen. The item of the current
+// colour is checked.
 #pragma once
 
 #include "menus/OfficePopupMenu.h"
@@ -52,7 +53,7 @@ protected:
 
 private:
     void UpdateBreaks();
-    void CheckCurrentColor();
+    void CheckOnly(TMenuItem* Item);
 
     int FWidth;
     int FHeight;

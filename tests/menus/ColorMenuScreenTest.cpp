@@ -2,6 +2,7 @@
 #include "menus/ColorMenu.h"
 
 #include "tests/menus/MenuScript.h"
+#include "tests/menus/PaletteColor.h"
 #include "tests/support/PixelImage.h"
 #include "tests/support/WhileMenuOpen.h"
 
@@ -75,12 +76,6 @@ protected:
     {
         return (GetMenuState(Menu->Handle, static_cast<UINT>(Index), MF_BYPOSITION) & MF_HILITE) != 0;
     }
-    static TColor ColorOf(int Index)
-    {
-        PALETTEENTRY Entry;
-        GetPaletteEntries(static_cast<HPALETTE>(GetStockObject(DEFAULT_PALETTE)), static_cast<UINT>(Index), 1, &Entry);
-        return TColor(RGB(Entry.peRed, Entry.peGreen, Entry.peBlue));
-    }
 
     TkelColorMenu* Menu = new TkelColorMenu(Form.get());
     int Changes = 0;
@@ -137,7 +132,7 @@ TEST_F(ColorMenuScreenTest, EveryCellShowsItsColour)
 {
     Look([&] {
         for (int I = 0; I < 16; ++I)
-            EXPECT_EQ(PixelsAt(PlaceOf(I)).At(10, 10), ColorOf(I)) << I;
+            EXPECT_EQ(PixelsAt(PlaceOf(I)).At(10, 10), PaletteColor(I)) << I;
     });
 }
 
@@ -172,7 +167,7 @@ TEST_F(ColorMenuScreenTest, TheMouseChoosesAColour)
         SendButton(mbLeft, false);
     });
     EXPECT_EQ(Changes, 1);
-    EXPECT_EQ(Menu->CurrentColor, ColorOf(10));
+    EXPECT_EQ(Menu->CurrentColor, PaletteColor(10));
     EXPECT_THAT(CheckedItems(), ElementsAre(10));
 }
 
@@ -180,16 +175,16 @@ TEST_F(ColorMenuScreenTest, TheArrowKeysGoThroughTheGrid)
 {
     PopupWith([] { SendKeys({VK_DOWN, VK_RIGHT, VK_DOWN, VK_RETURN}); });
     EXPECT_EQ(Changes, 1);
-    EXPECT_EQ(Menu->CurrentColor, ColorOf(5));
+    EXPECT_EQ(Menu->CurrentColor, PaletteColor(5));
     EXPECT_THAT(CheckedItems(), ElementsAre(5));
 }
 
 TEST_F(ColorMenuScreenTest, EscapeChoosesNothing)
 {
-    Menu->CurrentColor = ColorOf(4);
+    Menu->CurrentColor = PaletteColor(4);
     PopupWith([] { SendKeys({VK_DOWN, VK_ESCAPE}); });
     EXPECT_EQ(Changes, 0);
-    EXPECT_EQ(Menu->CurrentColor, ColorOf(4));
+    EXPECT_EQ(Menu->CurrentColor, PaletteColor(4));
 }
 
 TEST_F(ColorMenuScreenTest, LettersChooseNothing)
@@ -201,14 +196,14 @@ TEST_F(ColorMenuScreenTest, LettersChooseNothing)
 TEST_F(ColorMenuScreenTest, TheCurrentColourIsChecked)
 {
     Look([&] { EXPECT_THAT(CheckedItems(), ElementsAre(0)); });
-    Menu->CurrentColor = ColorOf(6);
+    Menu->CurrentColor = PaletteColor(6);
     Look([&] { EXPECT_THAT(CheckedItems(), ElementsAre(6)); });
 }
 
 TEST_F(ColorMenuScreenTest, NoItemIsCheckedForAColourThatTheMenuHasNot)
 {
     for (TColor Foreign : {TColor(0x123456), clWhite, clNone, clBtnFace}) {
-        Menu->CurrentColor = ColorOf(6);
+        Menu->CurrentColor = PaletteColor(6);
         Look([] {});
         Menu->CurrentColor = Foreign;
         Look([&] { EXPECT_THAT(CheckedItems(), ElementsAre()) << "the mark of the colour before would be wrong"; });
@@ -218,7 +213,7 @@ TEST_F(ColorMenuScreenTest, NoItemIsCheckedForAColourThatTheMenuHasNot)
 TEST_F(ColorMenuScreenTest, TheFirstItemOfTheColourIsChecked)
 {
     Menu->Items->Items[9]->Tag = 6;
-    Menu->CurrentColor = ColorOf(6);
+    Menu->CurrentColor = PaletteColor(6);
     Look([&] { EXPECT_THAT(CheckedItems(), ElementsAre(6)); });
 }
 
@@ -235,7 +230,7 @@ TEST_F(ColorMenuScreenTest, ItemsOfTheApplicationKeepTheirMarks)
 
 TEST_F(ColorMenuScreenTest, PopupWhileItIsOpenDoesNothing)
 {
-    Menu->CurrentColor = ColorOf(3);
+    Menu->CurrentColor = PaletteColor(3);
     Look([&] {
         const TRect Before = PlaceOf(0);
         Menu->Popup(300, 300);

@@ -1,6 +1,7 @@
 // Colour menus as components and in pictures.
 #include "menus/ColorMenu.h"
 
+#include "tests/menus/PaletteColor.h"
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
 #include "vcl/system/LiveCount.h"
@@ -20,13 +21,6 @@ public:
     using TkelColorMenu::DoMeasureItem;
     using TkelColorMenu::TkelColorMenu;
 };
-
-TColor SystemColor(int Index)
-{
-    PALETTEENTRY Entry;
-    GetPaletteEntries(static_cast<HPALETTE>(GetStockObject(DEFAULT_PALETTE)), static_cast<UINT>(Index), 1, &Entry);
-    return TColor(RGB(Entry.peRed, Entry.peGreen, Entry.peBlue));
-}
 
 // The numbers of the items that start a column.
 std::vector<int> Breaks(TMenu* Menu)
@@ -170,7 +164,7 @@ TEST_F(ColorMenuTest, AFormWithoutItemsGetsTheColours)
     EXPECT_THAT(Breaks(First), ElementsAre(8));
     EXPECT_EQ(Second->Items->Count, 16) << "the same names do not collide";
     First->Items->Items[5]->Click();
-    EXPECT_EQ(First->CurrentColor, SystemColor(5));
+    EXPECT_EQ(First->CurrentColor, PaletteColor(5));
     EXPECT_EQ(Second->CurrentColor, clBlack);
 }
 
@@ -187,9 +181,10 @@ TEST_F(ColorMenuTest, AFormsOwnItemsStayAndDoTheMenusWork)
     ASSERT_EQ(Read->Items->Count, 3);
     EXPECT_THAT(Breaks(Read), ElementsAre(0, 2));
     Read->Items->Items[0]->Click();
-    EXPECT_EQ(Read->CurrentColor, SystemColor(13));
+    EXPECT_EQ(Read->CurrentColor, PaletteColor(13));
     Read->Items->Items[1]->Click();
-    EXPECT_EQ(Read->CurrentColor, SystemColor(4));
+    EXPECT_EQ(Read->CurrentColor, PaletteColor(4));
+    EXPECT_THAT(CheckedItems(Read), ElementsAre(1));
     auto* Other = As<TkelColorMenu>(Window.FindComponent("Menu2"));
     EXPECT_EQ(Other->Items->Count, 16) << "a designer's names are unique in the form";
 }
@@ -202,7 +197,7 @@ TEST_F(ColorMenuTest, AClickMakesTheColourTheCurrentOne)
     for (int I : {3, 15, 0}) {
         Changes = 0;
         Item(I)->Click();
-        EXPECT_EQ(Menu->CurrentColor, SystemColor(I));
+        EXPECT_EQ(Menu->CurrentColor, PaletteColor(I));
         EXPECT_EQ(Changes, 1);
         EXPECT_THAT(CheckedItems(Menu.get()), ElementsAre(I));
     }
@@ -213,7 +208,7 @@ TEST_F(ColorMenuTest, AClickMakesTheColourTheCurrentOne)
 TEST_F(ColorMenuTest, SettingTheColourRaisesNoOnChange)
 {
     Menu->CreateItems();
-    Menu->CurrentColor = SystemColor(7);
+    Menu->CurrentColor = PaletteColor(7);
     EXPECT_EQ(Changes, 0);
 }
 
@@ -229,7 +224,7 @@ TEST_F(ColorMenuTest, WhatStandsForNoColourCannotBeChosen)
     Menu->DoClick(nullptr);
     Menu->DoClick(Menu.get());
     EXPECT_EQ(Changes, 0);
-    EXPECT_EQ(Menu->CurrentColor, SystemColor(2));
+    EXPECT_EQ(Menu->CurrentColor, PaletteColor(2));
     EXPECT_THAT(CheckedItems(Menu.get()), ElementsAre(2));
     Item(9)->Tag = 19;
     Item(9)->Click();
@@ -242,15 +237,15 @@ TEST_F(ColorMenuTest, TheIndexOfAColourIsItsNumberInThePalette)
     EXPECT_EQ(Menu->ColorToIndex(clWhite), 0);
     Menu->CreateItems();
     for (int I = 0; I < 16; ++I)
-        EXPECT_EQ(Menu->ColorToIndex(SystemColor(I)), I);
+        EXPECT_EQ(Menu->ColorToIndex(PaletteColor(I)), I);
     EXPECT_EQ(Menu->ColorToIndex(TColor(0x123456)), 16);
     EXPECT_EQ(Menu->ColorToIndex(clWhite), 16) << "behind the sixteen";
     EXPECT_EQ(Menu->ColorToIndex(clNone), 16);
     delete Item(15);
-    EXPECT_EQ(Menu->ColorToIndex(SystemColor(14)), 14);
-    EXPECT_EQ(Menu->ColorToIndex(SystemColor(15)), 15);
+    EXPECT_EQ(Menu->ColorToIndex(PaletteColor(14)), 14);
+    EXPECT_EQ(Menu->ColorToIndex(PaletteColor(15)), 15);
     Menu->CreateItems();
-    EXPECT_EQ(Menu->ColorToIndex(SystemColor(19)), 19);
+    EXPECT_EQ(Menu->ColorToIndex(PaletteColor(19)), 19);
     EXPECT_EQ(Menu->ColorToIndex(TColor(0x123456)), 31);
 }
 
@@ -321,7 +316,7 @@ TEST_F(ColorMenuPaintTest, AtRestAColourStandsOnTheFace)
 {
     for (int I = 0; I < 16; ++I) {
         TPixelImage Expected = Face();
-        Swatch(Expected, SystemColor(I));
+        Swatch(Expected, PaletteColor(I));
         EXPECT_TRUE(SamePixels(Draw(Item(I), 0), Expected)) << I;
     }
 }
@@ -330,7 +325,7 @@ TEST_F(ColorMenuPaintTest, ASelectedCellIsRaised)
 {
     TPixelImage Expected = Face();
     Expected.Frame(Cell, clBtnHighlight, cl3DDkShadow);
-    Swatch(Expected, SystemColor(3));
+    Swatch(Expected, PaletteColor(3));
     EXPECT_TRUE(SamePixels(Draw(Item(3), ODS_SELECTED), Expected));
     EXPECT_TRUE(SamePixels(Draw(Item(3), ODS_SELECTED | ODS_CHECKED), Expected));
 }
@@ -342,7 +337,7 @@ TEST_F(ColorMenuPaintTest, ACheckedCellIsSunkenOnTheCheckerboard)
         for (int X = Cell.left; X < Cell.right; ++X)
             Expected.Set(X, Y, (X + Y) % 2 == 0 ? clBtnHighlight : clBtnFace);
     Expected.Frame(Cell, cl3DDkShadow, clBtnHighlight);
-    Swatch(Expected, SystemColor(3));
+    Swatch(Expected, PaletteColor(3));
     EXPECT_TRUE(SamePixels(Draw(Item(3), ODS_CHECKED), Expected));
 }
 
@@ -360,7 +355,7 @@ TEST_F(ColorMenuPaintTest, CellsWithoutRoomForTheColourStayEmpty)
         TPixelImage Image = Blank();
         DrawOn(Image, Item(13), ODS_SELECTED, {Left, Top, Left + Size, Top + Size});
         const int Side = std::max(Size - 2 - 6 - 2, 0);
-        EXPECT_EQ(Image.CountOf(SystemColor(13)), Side * (Size + 2 - 6 - 2)) << Size;
+        EXPECT_EQ(Image.CountOf(PaletteColor(13)), Side * (Size + 2 - 6 - 2)) << Size;
         for (int X = 0; X < Image.Width(); ++X)
             for (int Y = 0; Y < Image.Height(); ++Y)
                 if (!TRect(Left - 2, Top + 1, Left + Size, Top + Size - 1).Contains({X, Y}))
