@@ -1,11 +1,11 @@
 #include "menus/MenuButton.h"
 
 #include "menus/MenuTracking.h"
+#include "menus/TurnedPicture.h"
 #include "toolbar/RandomGroup.h"
 #include "toolbar/SolidFill.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/graphics/Canvas.h"
-#include "vcl/graphics/DisabledText.h"
 #include "vcl/system/ClassBuilder.h"
 
 namespace {
@@ -30,10 +30,9 @@ TkelMenuButton::TkelMenuButton(TComponent* AOwner) : TkelSpeedButton(AOwner)
         TMenuTracking::Get().Add(this);
 }
 
-void TkelMenuButton::BeforeDestruction()
+TkelMenuButton::~TkelMenuButton()
 {
     TMenuTracking::Get().Remove(this);
-    inherited::BeforeDestruction();
 }
 
 void TkelMenuButton::SetMenu(TPopupMenu* Value)
@@ -101,22 +100,49 @@ void TkelMenuButton::Paint()
 {
     HDC Context = Canvas->BareHandle();
     const TRect R(0, 0, Width, Height);
-    {
-        TSolidFill Fill(Context);
-        Fill.Fill(R, clBtnFace);
-        if (Down || FState == bsDown)
-            Fill.Frame(R, clBtnShadow, clBtnHighlight);
-        else if (FHot || FMouseInControl)
-            Fill.Frame(R, clBtnHighlight, clBtnShadow);
-    }
-    constexpr unsigned Flags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-    Canvas->Font = Font;
-    Canvas->Brush->Style = bsClear;
-    TRect Text = R;
-    if (Enabled)
-        DrawText(Canvas->Handle, Caption, Text, Flags);
+    TSolidFill(Context).Fill(R, clBtnFace);
+    if (StandsOnEnd())
+        DrawStandingCaption(Context);
     else
-        DrawDisabledText(Canvas->Handle, Caption, Text, Flags);
+        DrawCaption(Canvas, R, {1, 1});
+    TSolidFill Fill(Canvas->BareHandle());
+    if (Down || FState == bsDown)
+        Fill.Frame(R, clBtnShadow, clBtnHighlight);
+    else if (FHot || FMouseInControl)
+        Fill.Frame(R, clBtnHighlight, clBtnShadow);
+}
+
+// In a vertical bar, which leaves no room for the caption across it.
+bool TkelMenuButton::StandsOnEnd() const
+{
+    return (Align == alTop || Align == alBottom) && Height > Width;
+}
+
+// The highlight of a disabled caption lies at Light from its shadow.
+void TkelMenuButton::DrawCaption(TCanvas* Target, TRect R, const TPoint& Light)
+{
+    constexpr unsigned Flags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    Target->Font = Font;
+    Target->Brush->Style = bsClear;
+    if (!Enabled) {
+        OffsetRect(R, Light.X, Light.Y);
+        Target->Font->Color = clBtnHighlight;
+        DrawText(Target->Handle, Caption, R, Flags);
+        OffsetRect(R, -Light.X, -Light.Y);
+        Target->Font->Color = clBtnShadow;
+    }
+    DrawText(Target->Handle, Caption, R, Flags);
+}
+
+void TkelMenuButton::DrawStandingCaption(HDC Context)
+{
+    // One for all: it is used up at once. Never destroyed, as it outlives what drawing needs.
+    static TTurnedPicture& Picture = *new TTurnedPicture;
+    const TRect Lying(0, 0, Height, Width);
+    Picture.SetSize(Width, Height);
+    TSolidFill(Picture.Canvas->BareHandle()).Fill(Lying, clBtnFace);
+    DrawCaption(Picture.Canvas, Lying, {1, -1});
+    Picture.Show(Context, 0, 0);
 }
 
 int TkelMenuButton::AccessibleRole() const

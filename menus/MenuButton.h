@@ -10,7 +10,7 @@ class TkelMenuButton : public TkelSpeedButton {
 public:
     // Alone in a group of its own, so that it can stay down.
     explicit TkelMenuButton(TComponent* AOwner);
-    void BeforeDestruction() override;
+    ~TkelMenuButton() override;
 
     // Somebody else's; cleared when it is deleted. Accelerators work in a TkelOfficePopupMenu only.
     TPopupMenu* GetMenu() const { return FMenu; }
@@ -39,6 +39,9 @@ protected:
 
 private:
     void CMDialogChar(TCMDialogChar& Message);
+    bool StandsOnEnd() const;
+    void DrawCaption(TCanvas* Target, TRect R, const TPoint& Light);
+    void DrawStandingCaption(HDC Context);
 
     TPopupMenu* FMenu = nullptr;
     bool FHot = false;

@@ -1,12 +1,14 @@
 #include "menus/MenuHooks.h"
 
 #include "menus/MenuTracking.h"
+#include "vcl/graphics/Handle.h"
 #include "vcl/system/WindowsApi.h"
 
 namespace {
 
-HHOOK MouseHook = nullptr;
-HHOOK KeyboardHook = nullptr;
+using THook = TOwnedHandle<HHOOK, UnhookWindowsHookEx>;
+THook MouseHook;
+THook KeyboardHook;
 
 // The loop of a menu looks at a key before it takes it, and the hook is called for both. What was decided first holds.
 struct TDecision {
@@ -34,7 +36,7 @@ bool IsPress(WPARAM Message)
 
 LRESULT CALLBACK MouseProc(int Code, WPARAM WParam, LPARAM LParam)
 {
-    const LRESULT Result = CallNextHookEx(MouseHook, Code, WParam, LParam);
+    const LRESULT Result = CallNextHookEx(MouseHook.Get(), Code, WParam, LParam);
     if (Code < 0 || InMouseHook)
         return Result;
     InMouseHook = true;
@@ -48,7 +50,7 @@ LRESULT CALLBACK MouseProc(int Code, WPARAM WParam, LPARAM LParam)
 
 LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
 {
-    const LRESULT Result = CallNextHookEx(KeyboardHook, Code, WParam, LParam);
+    const LRESULT Result = CallNextHookEx(KeyboardHook.Get(), Code, WParam, LParam);
     if (Code < 0)
         return Result;
     const bool Again = Decision.Pending && Decision.Key == WParam && Decision.Data == LParam;
@@ -62,19 +64,15 @@ LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
 
 void InstallMenuHooks()
 {
-    if (MouseHook)
-        return;
     // All threads' hooks would bring the program's file into other programs.
     const DWORD Thread = GetCurrentThreadId();
-    MouseHook = SetWindowsHookExW(WH_MOUSE, &MouseProc, nullptr, Thread);
-    KeyboardHook = SetWindowsHookExW(WH_KEYBOARD, &KeyboardProc, nullptr, Thread);
+    MouseHook.Reset(SetWindowsHookExW(WH_MOUSE, &MouseProc, nullptr, Thread));
+    KeyboardHook.Reset(SetWindowsHookExW(WH_KEYBOARD, &KeyboardProc, nullptr, Thread));
 }
 
 void RemoveMenuHooks()
 {
-    if (!MouseHook)
-        return;
-    UnhookWindowsHookEx(std::exchange(MouseHook, nullptr));
-    UnhookWindowsHookEx(std::exchange(KeyboardHook, nullptr));
+    MouseHook.Reset();
+    KeyboardHook.Reset();
     Decision = {};
 }

@@ -24,8 +24,12 @@ constexpr intptr_t AltHeld = intptr_t{1} << 29;
 // The character of a key on the user's keyboard layout, without the modifiers; 0 when it has none.
 uint16_t CharOf(uint16_t VirtualKey)
 {
+    constexpr UINT KeepState = 4; // of the dead key that may be waiting for its letter
     const HKL Layout = GetKeyboardLayout(0);
-    return static_cast<uint16_t>(MapVirtualKeyExW(VirtualKey, MAPVK_VK_TO_CHAR, Layout) & 0x7FFF);
+    const BYTE NoneHeld[256] = {};
+    wchar_t Char[8] = {};
+    const UINT ScanCode = MapVirtualKeyExW(VirtualKey, MAPVK_VK_TO_VSC, Layout);
+    return ToUnicodeEx(VirtualKey, ScanCode, NoneHeld, Char, 8, KeepState, Layout) == 1 ? Char[0] : 0;
 }
 
 bool IsHeld(int VirtualKey)
@@ -270,7 +274,21 @@ bool TMenuTracking::WindowMessage(TMessage& Message)
         FSelectedMenu = reinterpret_cast<HMENU>(Message.LParam);
         FOnSubMenu = (Message.WParamHi() & MF_POPUP) != 0;
     }
+    if (Message.Msg == WM_UNINITMENUPOPUP)
+        SubMenuCloses(Message.WParam);
     return false;
+}
+
+// Not every system tells that the selection is back on the item that the submenu belongs to.
+void TMenuTracking::SubMenuCloses(uintptr_t Handle)
+{
+    TPopupMenu* Menu = FCurrent ? FCurrent->Menu : nullptr;
+    TMenuItem* Item =
+        Menu && FSelectedMenu == reinterpret_cast<HMENU>(Handle) ? Menu->FindItem(Handle, fkHandle) : nullptr;
+    if (!Item || !Item->Parent)
+        return;
+    FSelectedMenu = Item->Parent->Handle;
+    FOnSubMenu = true;
 }
 
 // ---- the mouse

@@ -38,6 +38,7 @@ public:
 
 private:
     bool WindowMessage(TMessage& Message);
+    void SubMenuCloses(uintptr_t Handle);
     void OpenLater();
 
     void ShowMenu();

@@ -1,6 +1,8 @@
 // Menu buttons under a real mouse and keyboard.
+#include "common/PointInRect.h"
 #include "tests/menus/MenuScript.h"
 #include "tests/support/FormText.h"
+#include "toolbar/Flpfrm97.h"
 #include "toolbar/Tsy_toolbar.h"
 
 #include <gmock/gmock.h>
@@ -52,6 +54,12 @@ protected:
         return Button;
     }
 
+    static bool PointerIsOn(const TControl* Control)
+    {
+        TPoint Pointer;
+        GetCursorPos(&Pointer);
+        return PointInRect(Control->ScreenToClient(Pointer), Control->ClientRect);
+    }
     void ExpectIdle()
     {
         EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
@@ -200,12 +208,341 @@ TEST_F(MenuButtonTest, ShortcutsOfClosedMenusWork)
     EXPECT_EQ(Chosen.size(), 1u);
 }
 
-TEST_F(MenuButtonTest, CyrillicAcceleratorsFollowTheLetters)
+TEST_F(MenuButtonTest, ACyrillicLetterChoosesAnItem)
 {
-    // The layout of the machine is not to be relied on; the letter itself is what counts.
-    EXPECT_EQ(As<TkelOfficePopupMenu>(File->Menu)->ProcessAccel('S')->Caption, "&Save");
     File->Menu->Items->Items[1]->Caption = "&Сохранить";
-    EXPECT_EQ(As<TkelOfficePopupMenu>(File->Menu)->ProcessAccel(0x0441)->Caption, "&Сохранить");
+    Script.When(IsOpen(File), [] { SendLetter(L'с'); });
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_THAT(Chosen, ElementsAre("&Сохранить"));
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AFunctionKeyIsNoLetter)
+{
+    // The virtual key of F1 has the number of a small p.
+    File->Menu->Items->Items[1]->Caption = "&print";
+    Script.When(IsOpen(File), Type(VK_F1));
+    Script.When([&] { return IsOpen(File)() && Chosen.empty(); }, Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_THAT(Chosen, ElementsAre());
+}
+
+TEST_F(MenuButtonTest, TheLetterOfADisabledItemChoosesNothing)
+{
+    File->Menu->Items->Items[1]->Enabled = false;
+    // Wine closes the menu then, as it does with every disabled item.
+    Script.When(IsOpen(File), [] {
+        SendKey('S');
+        SendKey(VK_ESCAPE);
+    });
+    ClickToOpen(File);
+    PumpMessages();
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_THAT(Chosen, ElementsAre());
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AnItemIsChosenWithTheArrowsAndEnter)
+{
+    Script.When(IsOpen(File), [] {
+        SendKey(VK_DOWN);
+        SendKey(VK_DOWN);
+        SendKey(VK_RETURN);
+    });
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_THAT(Chosen, ElementsAre("&Save"));
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AnItemIsChosenByGoingOnToItWithTheButtonHeld)
+{
+    Script.When(IsOpen(File), [&] { SendMove(File->ClientToScreen({20, File->Height + 32})); });
+    Script.When([] { return true; }, [] { SendButton(mbLeft, false); });
+    MovePointerTo(File, 10, 10);
+    SendButton(mbLeft, true);
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_THAT(Chosen, ElementsAre("&Save"));
+    ExpectIdle();
+}
+
+// ---- submenus
+
+class MenuButtonWithSubmenuTest : public MenuButtonTest {
+protected:
+    void SetUp() override
+    {
+        MenuButtonTest::SetUp();
+        for (const char* Caption : {"&One", "&Two"})
+            File->Menu->Items->Items[0]->Add(NewItem(
+                Caption, scNone, false, true,
+                [this](TObject* Sender) { Chosen.push_back(As<TMenuItem>(Sender)->Caption); }, 0, "", File->Menu));
+    }
+    static int OpenMenus()
+    {
+        int Count = 0;
+        for (HWND Window = nullptr; (Window = FindWindowExW(nullptr, Window, L"#32768", nullptr));)
+            Count += IsWindowVisible(Window) != 0;
+        return Count;
+    }
+};
+
+TEST_F(MenuButtonWithSubmenuTest, RightGoesIntoASubmenuAndLeftOutOfIt)
+{
+    Script.When(IsOpen(File), [] {
+        SendKey(VK_DOWN);
+        SendKey(VK_RIGHT);
+    });
+    Script.When([&] { return IsOpen(File)() && OpenMenus() == 2; }, Type(VK_LEFT));
+    Script.When([&] { return IsOpen(File)() && OpenMenus() == 1; }, Type(VK_LEFT));
+    Script.When(IsOpen(Help), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonWithSubmenuTest, RightLeavesASubmenuForTheNextMenu)
+{
+    Script.When(IsOpen(File), [] {
+        SendKey(VK_DOWN);
+        SendKey(VK_RIGHT);
+    });
+    Script.When([&] { return OpenMenus() == 2; }, Type(VK_RIGHT));
+    Script.When(IsOpen(Edit), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonWithSubmenuTest, ALetterReachesItemsOfSubmenus)
+{
+    Script.When(IsOpen(File), Type('T'));
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_THAT(Chosen, ElementsAre("&Two"));
+    ExpectIdle();
+}
+
+// ---- keys that are more than they seem
+
+TEST_F(MenuButtonTest, AltHeldForLongTogglesOnce)
+{
+    for (int I = 0; I < 5; ++I)
+        SendKeyState(VK_MENU, true);
+    SendKeyState(VK_MENU, false);
+    PumpMessages();
+    EXPECT_TRUE(File->Hot);
+    for (int I = 0; I < 5; ++I)
+        SendKeyState(VK_MENU, true);
+    SendKeyState(VK_MENU, false);
+    PumpMessages();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AltGrHighlightsNothing)
+{
+    SendKeyState(VK_LCONTROL, true);
+    SendKeyState(VK_RMENU, true);
+    SendKeyState(VK_RMENU, false);
+    SendKeyState(VK_LCONTROL, false);
+    PumpMessages();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AltLeavesAnOpenMenu)
+{
+    Script.When(IsOpen(File), Type(VK_MENU));
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone());
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AltAndALetterOpenAMenu)
+{
+    Script.When(IsOpen(Edit), Type(VK_ESCAPE));
+    TypeKey('E', {ssAlt});
+    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone(); }));
+    PumpMessages();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, APressElsewhereEndsTheKeyboardMode)
+{
+    MovePointerTo(Form.get(), 200, 200);
+    TypeKey(VK_F10);
+    ASSERT_TRUE(File->Hot);
+    ClickButton();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AnotherKeyEndsTheKeyboardModeAndGoesWhereItShould)
+{
+    std::vector<uint16_t> Keys;
+    Form->KeyPreview = true;
+    Form->OnKeyDown = [&](TObject*, uint16_t& Key, TShiftState) { Keys.push_back(Key); };
+    TypeKey(VK_F10);
+    ASSERT_TRUE(File->Hot);
+    TypeKey('X');
+    EXPECT_THAT(Keys, ElementsAre('X'));
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, ButtonsThatCannotBeUsedArePassedOver)
+{
+    Edit->Enabled = false;
+    TypeKey(VK_F10);
+    TypeKey(VK_RIGHT);
+    EXPECT_TRUE(Help->Hot);
+    TypeKey(VK_ESCAPE);
+    Script.When(IsOpen(File), PointTo(Edit));
+    Script.When([&] { return IsOpen(File)() && PointerIsOn(Edit); }, PointTo(Help));
+    Script.When(IsOpen(Help), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
+}
+
+TEST_F(MenuButtonTest, InAnotherFormTheKeysMeanSomethingElse)
+{
+    TForm Other(nullptr, 0);
+    Other.SetBounds(550, 100, 200, 150);
+    Other.Show();
+    ASSERT_TRUE(PumpUntil([&] { return Screen->ActiveCustomForm == &Other; }));
+    File->Menu->Items->Items[1]->ShortCut = ShortCut('S', {ssCtrl});
+    TypeKey(VK_F10);
+    TypeKey('S', {ssCtrl});
+    ExpectIdle();
+    EXPECT_THAT(Chosen, ElementsAre());
+    TypeKey(VK_ESCAPE); // the system's own menu
+}
+
+// ---- other places
+
+TEST_F(MenuButtonTest, InAVerticalBarTheMenuOpensBesideTheButton)
+{
+    auto* Side = new TkelDock(Form.get());
+    Side->Align = alLeft;
+    Side->Width = 0;
+    Side->Parent = Form.get();
+    Bar->DeleteFromDock();
+    Bar->Parent = Side;
+    Bar->InsertToDock();
+    PumpMessages();
+    ASSERT_EQ(Edit->Align, alTop);
+    EXPECT_GT(Edit->Height, Edit->Width);
+    TRect Window;
+    Script.When(IsOpen(Edit), [&] {
+        GetWindowRect(FindWindowW(L"#32768", nullptr), &Window);
+        SendKey(VK_RIGHT);
+    });
+    Script.When(IsOpen(Help), PointTo(File));
+    Script.When(IsOpen(File), Type(VK_ESCAPE));
+    ClickToOpen(Edit);
+    EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
+    const TPoint Corner = Edit->ClientToScreen({Edit->Width, 0});
+    EXPECT_EQ(Window.left, Corner.X);
+    EXPECT_EQ(Window.top, Corner.Y);
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AFloatingBarWorksFromItsFormAndFromItsFrame)
+{
+    Bar->FloatToPos(120, 260);
+    ASSERT_TRUE(Bar->Floating);
+    PumpMessages();
+    for (TForm* Active : {Form.get(), static_cast<TForm*>(Bar->Frame)}) {
+        Active->SetFocus();
+        SetForegroundWindow(Active->Handle);
+        ASSERT_TRUE(PumpUntil([&] { return Screen->ActiveCustomForm == Active; }));
+        TypeKey(VK_MENU);
+        EXPECT_TRUE(File->Hot);
+        TypeKey(VK_ESCAPE);
+        Script.When(IsOpen(Edit), Type(VK_ESCAPE));
+        TypeKey('E', {ssAlt});
+        EXPECT_TRUE(PumpUntil([&] { return Script.IsDone() && !TMenuTracking::Get().IsTracking(); }));
+        ExpectIdle();
+    }
+}
+
+TEST_F(MenuButtonTest, OnClickComesBeforeEveryOpening)
+{
+    std::vector<AnsiString> Opened;
+    for (TkelMenuButton* Button : {File, Edit, Help})
+        Button->OnClick = [&](TObject* Sender) { Opened.push_back(As<TkelMenuButton>(Sender)->Caption); };
+    Script.When(IsOpen(File), PointTo(Edit));
+    Script.When(IsOpen(Edit), Type(VK_RIGHT));
+    Script.When(IsOpen(Help), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
+    EXPECT_THAT(Opened, ElementsAre("&File", "&Edit", "&Help"));
+}
+
+TEST_F(MenuButtonTest, AButtonWithoutAMenuIsAnOrdinaryOne)
+{
+    int Clicks = 0;
+    Help->Menu = nullptr;
+    Help->OnClick = [&](TObject*) { ++Clicks; };
+    ClickOn(Help);
+    EXPECT_EQ(Clicks, 1);
+    EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
+}
+
+TEST_F(MenuButtonTest, AMenuOfAnotherKindOpensToo)
+{
+    auto* Menu = new TPopupMenu(Form.get());
+    Menu->Items->Add(
+        NewItem("&About", scNone, false, true, [this](TObject*) { Chosen.push_back("About"); }, 0, "", Menu));
+    Help->Menu = Menu;
+    Script.When([&] { return TMenuTracking::Get().Current() == Help && FindWindowW(L"#32768", nullptr); }, Type('A'));
+    ClickToOpen(Help);
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    ExpectIdle();
+}
+
+// ---- what may go
+
+TEST(MenuHooks, AreThereFromTheFirstButtonToTheLast)
+{
+    TMenuTracking::Get();
+    {
+        TkelMenuButton Warm(nullptr);
+    }
+    const int64_t Before = LiveHandleCount();
+    {
+        TkelMenuButton First(nullptr);
+        EXPECT_EQ(LiveHandleCount(), Before + 2);
+        TkelMenuButton Second(nullptr);
+        EXPECT_EQ(LiveHandleCount(), Before + 2);
+    }
+    EXPECT_EQ(LiveHandleCount(), Before);
+}
+
+TEST_F(MenuButtonTest, TheFormMayGoWhileAMenuIsOpen)
+{
+    Script.When(IsOpen(File), [&] { Form.reset(); });
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
+}
+
+TEST_F(MenuButtonTest, TheBarMayGoWhileAMenuIsOpen)
+{
+    Script.When(IsOpen(File), [&] { delete Bar; });
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
+}
+
+TEST_F(MenuButtonTest, ABarThatGoesInKeyboardModeTakesTheHighlightAlong)
+{
+    TypeKey(VK_F10);
+    ASSERT_TRUE(File->Hot);
+    delete Bar;
+    TypeKey(VK_RIGHT);
+    TypeKey(VK_DOWN);
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
 }
 
 TEST_F(MenuButtonTest, AButtonMayGoWhileItsMenuIsOpen)

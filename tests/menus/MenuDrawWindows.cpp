@@ -280,6 +280,8 @@ TEST_F(MenuDrawing, LettersOfEveryAlphabetChooseDrawnItems)
     EXPECT_EQ(Answer(L'о'), MAKELRESULT(1, MNC_EXECUTE));
     EXPECT_EQ(Answer(L'T'), MAKELRESULT(2, MNC_EXECUTE));
     EXPECT_EQ(HIWORD(Answer(L'x')), MNC_IGNORE);
+    FMenu->Items->Items[2]->Enabled = false;
+    EXPECT_EQ(Answer(L'T'), MAKELRESULT(2, MNC_SELECT)) << "disabled items are only selected";
     FMenu->Items->Items[0]->Visible = false;
     Native = FMenu->Handle;
     EXPECT_EQ(Answer(L'О'), MAKELRESULT(0, MNC_EXECUTE)) << "hidden items do not count";
@@ -308,16 +310,7 @@ TEST_F(MenuDrawing, ALetterTypedInADrawnMenuClicksItsItem)
 TEST_F(MenuDrawing, ACyrillicLetterTypedInADrawnMenuClicksItsItem)
 {
     FMenu->OwnerDraw = true;
-    TWhileMenuOpen WhileOpen([] {
-        INPUT Keys[2]{};
-        for (INPUT& Key : Keys) {
-            Key.type = INPUT_KEYBOARD;
-            Key.ki.wScan = L'о';
-            Key.ki.dwFlags = KEYEVENTF_UNICODE;
-        }
-        Keys[1].ki.dwFlags |= KEYEVENTF_KEYUP;
-        SendInput(2, Keys, sizeof(INPUT));
-    });
+    TWhileMenuOpen WhileOpen([] { SendLetter(L'о'); });
     FMenu->Popup(150, 150);
     EXPECT_FALSE(WhileOpen.TimedOut);
     EXPECT_TRUE(PumpUntil([&] { return !FLog.empty(); }));

@@ -5,6 +5,7 @@
 #include "menus/MenuTracking.h"
 #include "menus/OfficePopupMenu.h"
 #include "tests/support/FormTest.h"
+#include "tests/support/PaintToBitmap.h"
 #include "vcl/menus/UtilityWindow.h"
 
 // What is done while menus are open: each step when its condition holds, in order. A menu that nobody closes is closed
@@ -52,6 +53,14 @@ inline void MakeWhatMenusShare()
     MakeWhatFormsShare();
     TMenuTracking::Get();
     TkelOfficePopupMenu Menu(nullptr);
+    // For captions on end.
+    THostWindow Window;
+    auto* Button = new TkelMenuButton(&Window);
+    Button->Parent = &Window;
+    Window.DisableAlign();
+    Button->Align = alTop;
+    Button->SetBounds(0, 0, 22, 60);
+    PaintToBitmap(Button);
 }
 
 // Conditions and actions of a script.

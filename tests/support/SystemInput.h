@@ -24,5 +24,8 @@ TPoint FarCorner();
 // These handle no messages: what they lead to may have a message loop of its own, such as a menu's.
 void SendMove(const TPoint& Screen);
 void SendButton(TMouseButton Button, bool Down);
+void SendKeyState(uint16_t Key, bool Down);
+// A character that needs no key of the keyboard's layout.
+void SendLetter(wchar_t Letter);
 // A virtual key down and up, with the modifiers of Shift (ssShift, ssAlt, ssCtrl) held.
 void SendKey(uint16_t Key, TShiftState Shift = {});

@@ -14,16 +14,6 @@ void SendMouse(DWORD Flags, const TPoint& Place = {})
     SendInput(1, &Input, sizeof(Input));
 }
 
-void SendKeyEvent(uint16_t Key, bool Up)
-{
-    INPUT Input = {};
-    Input.type = INPUT_KEYBOARD;
-    Input.ki.wVk = Key;
-    Input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(Key, MAPVK_VK_TO_VSC));
-    Input.ki.dwFlags = Up ? KEYEVENTF_KEYUP : 0;
-    SendInput(1, &Input, sizeof(Input));
-}
-
 // A pixel in the units of absolute movements: the middle of what the system rounds to it.
 LONG Normalized(int Pixel, int SizeMetric)
 {
@@ -105,16 +95,38 @@ void SendButton(TMouseButton Button, bool Down)
     SendMouse((Down ? DownFlags : UpFlags)[Button]);
 }
 
+void SendKeyState(uint16_t Key, bool Down)
+{
+    INPUT Input = {};
+    Input.type = INPUT_KEYBOARD;
+    Input.ki.wVk = Key;
+    Input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(Key, MAPVK_VK_TO_VSC));
+    Input.ki.dwFlags = Down ? 0 : KEYEVENTF_KEYUP;
+    SendInput(1, &Input, sizeof(Input));
+}
+
+void SendLetter(wchar_t Letter)
+{
+    INPUT Inputs[2] = {};
+    for (INPUT& Input : Inputs) {
+        Input.type = INPUT_KEYBOARD;
+        Input.ki.wScan = Letter;
+        Input.ki.dwFlags = KEYEVENTF_UNICODE;
+    }
+    Inputs[1].ki.dwFlags |= KEYEVENTF_KEYUP;
+    SendInput(2, Inputs, sizeof(INPUT));
+}
+
 void SendKey(uint16_t Key, TShiftState Shift)
 {
     constexpr std::pair<TShiftStateFlag, uint16_t> Modifiers[] = {
         {ssShift, VK_SHIFT}, {ssCtrl, VK_CONTROL}, {ssAlt, VK_MENU}};
     for (const auto& [Flag, Modifier] : Modifiers)
         if (Shift.Contains(Flag))
-            SendKeyEvent(Modifier, false);
-    SendKeyEvent(Key, false);
-    SendKeyEvent(Key, true);
+            SendKeyState(Modifier, true);
+    SendKeyState(Key, true);
+    SendKeyState(Key, false);
     for (const auto& [Flag, Modifier] : Modifiers)
         if (Shift.Contains(Flag))
-            SendKeyEvent(Modifier, true);
+            SendKeyState(Modifier, false);
 }

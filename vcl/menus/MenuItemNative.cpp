@@ -189,7 +189,8 @@ void TMenuItem::FreeNative()
     FHandle = nullptr;
 }
 
-// The answer to WM_MENUCHAR for this item's menu: what item the letter chooses. Of several each has its turn.
+// The answer to WM_MENUCHAR for this item's menu: what item the letter chooses. Of several each has its turn, and one
+// that is disabled is only selected: executing it would close the menu.
 intptr_t TMenuItem::MenuChar(wchar_t Letter)
 {
     TMenu* Menu = GetParentMenu();
@@ -198,12 +199,15 @@ intptr_t TMenuItem::MenuChar(wchar_t Letter)
     int First = -1;  // with this letter
     int Behind = -1; // the selected item
     int Hits = 0;
+    bool IsEnabled = true; // the first
     bool SelectedAbove = false;
     for (int I = 0; I < GetMenuItemCount(FHandle); ++I) {
         const TMenuItem* Item = Menu ? Menu->FindItem(CommandAt(FHandle, I), fkCommand) : nullptr;
         if (Item && GetHotkey(Item->FCaption) == Wanted) {
-            ++Hits;
-            First = First < 0 ? I : First;
+            if (++Hits == 1) {
+                First = I;
+                IsEnabled = Item->Enabled;
+            }
             Behind = SelectedAbove && Behind < 0 ? I : Behind;
         }
         const UINT State = GetMenuState(FHandle, static_cast<UINT>(I), MF_BYPOSITION);
@@ -211,7 +215,7 @@ intptr_t TMenuItem::MenuChar(wchar_t Letter)
     }
     if (Hits == 0)
         return MAKELRESULT(0, MNC_IGNORE);
-    return MAKELRESULT(Behind < 0 ? First : Behind, Hits == 1 ? MNC_EXECUTE : MNC_SELECT);
+    return MAKELRESULT(Behind < 0 ? First : Behind, Hits == 1 && IsEnabled ? MNC_EXECUTE : MNC_SELECT);
 }
 
 void TMenuItem::MenuChanged(bool Rebuild)
