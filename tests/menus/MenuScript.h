@@ -6,46 +6,7 @@
 #include "menus/OfficePopupMenu.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PaintToBitmap.h"
-#include "vcl/menus/UtilityWindow.h"
-
-// What is done while menus are open: each step when its condition holds, in order. A menu that nobody closes is closed
-// after some seconds, and the script is not done then.
-class TScript {
-public:
-    TScript() : FWindow(AllocateHWnd([this](TMessage& Message) { Tick(Message); }))
-    {
-        SetTimer(FWindow, 1, 20, nullptr);
-    }
-    ~TScript() { DeallocateHWnd(FWindow); }
-    TScript(const TScript&) = delete;
-
-    void When(std::function<bool()> Condition, std::function<void()> Action)
-    {
-        FSteps.push_back({std::move(Condition), std::move(Action)});
-    }
-    bool IsDone() const { return FNext == FSteps.size(); }
-    size_t StepsDone() const { return FNext; }
-
-private:
-    void Tick(TMessage& Message)
-    {
-        if (Message.Msg != WM_TIMER) {
-            DefaultWindowProc(FWindow, Message);
-            return;
-        }
-        if (++FTicks == 250)
-            EndMenu();
-        if (IsDone() || !FSteps[FNext].first())
-            return;
-        const auto Action = FSteps[FNext++].second;
-        Action();
-    }
-
-    std::vector<std::pair<std::function<bool()>, std::function<void()>>> FSteps;
-    size_t FNext = 0;
-    int FTicks = 0;
-    HWND FWindow;
-};
+#include "tests/support/Script.h"
 
 // To be there before tests count what they leave behind.
 inline void MakeWhatMenusShare()
