@@ -63,6 +63,11 @@ TPoint TkelMenuButton::DropPoint() const
     return ClientToScreen(InRow ? TPoint(0, Height) : TPoint(Width, 0));
 }
 
+bool TkelMenuButton::IsOnScreen() const
+{
+    return Visible && Parent && Parent->HandleAllocated() && IsWindowVisible(Parent->Handle);
+}
+
 void TkelMenuButton::Click()
 {
     if (FMenu)

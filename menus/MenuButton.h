@@ -30,6 +30,9 @@ public:
     // Where the menu opens, on the screen: below the button, or beside one that stands in a vertical bar.
     TPoint DropPoint() const;
 
+    // With its bar, which may lie in a dock that is hidden.
+    bool IsOnScreen() const;
+
     int AccessibleRole() const override;
 
 protected:

@@ -37,6 +37,10 @@ public:
     bool Key(uint16_t VirtualKey, intptr_t KeyData);
 
 private:
+    // To the window that popup menus share.
+    static constexpr unsigned OpenCurrent = WM_APP + 0x3E1;
+    static constexpr unsigned OpenLetter = WM_APP + 0x3E2; // as WM_SYSCHAR
+
     bool WindowMessage(TMessage& Message);
     void SubMenuCloses(uintptr_t Handle);
     void OpenLater();

@@ -2,7 +2,7 @@
 #include "menus/MenuBar.h"
 
 #include "common/Panel.h"
-#include "tests/support/FormTest.h"
+#include "tests/menus/MenuScript.h"
 #include "toolbar/Tsy_toolbar.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -58,7 +58,7 @@ void TBarChild::Describe(TClassBuilder<TBarChild>&)
 
 class MenuBarTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() { MakeWhatFormsShare(); }
+    static void SetUpTestSuite() { MakeWhatMenusShare(); }
     void SetUp() override
     {
         UseMessageLoop([] { Application->ProcessMessages(); });
@@ -185,6 +185,132 @@ TEST_F(MenuBarTest, ItsItemsActOnTheChildAndOthersDoNothing)
     EXPECT_EQ(TBarChild::Closed, 1);
     Bar->DoSysMenuClick(Root->Items[6]);
     Bar->DoMin(nullptr);
+}
+
+// ---- the system menu under a real mouse and keyboard
+
+class SystemMenuTest : public MenuBarTest {
+protected:
+    void SetUp() override
+    {
+        MenuBarTest::SetUp();
+        auto* Button = new TkelMenuButton(Main);
+        Button->Align = alLeft;
+        Button->Parent = Bar;
+        Child = MaximizedChild();
+        ASSERT_TRUE(PumpUntil([&] { return ShowsChild(); }));
+    }
+    // The window of the system menu, once it is open; nullptr before.
+    HWND MenuWindow() const
+    {
+        return TkelCustomPopupMenu::Current() == Bar->SystemMenu() ? FindWindowW(L"#32768", nullptr) : nullptr;
+    }
+    auto IsOpen() const
+    {
+        return [this] { return MenuWindow() != nullptr; };
+    }
+    TPoint MiddleOf(int Item) const
+    {
+        TRect R;
+        GetMenuItemRect(nullptr, Bar->SystemMenu()->Handle, static_cast<UINT>(Item), &R);
+        return {(R.left + R.right) / 2, (R.top + R.bottom) / 2};
+    }
+
+    TForm* Child = nullptr;
+    TScript Script;
+};
+
+TEST_F(SystemMenuTest, AClickOnTheIconOpensItAtTheStartOfTheBar)
+{
+    TRect Window;
+    Script.When(IsOpen(), [&] {
+        GetWindowRect(MenuWindow(), &Window);
+        SendKey(VK_ESCAPE);
+    });
+    ClickToOpen(Bar->ChildIcon());
+    EXPECT_TRUE(Script.IsDone());
+    const TPoint Place = Bar->ClientToScreen({Bar->DragBox->Width, Bar->Height + 2});
+    EXPECT_EQ(Window.left, Place.X);
+    EXPECT_EQ(Window.top, Place.Y);
+    EXPECT_EQ(Child->WindowState, wsMaximized);
+}
+
+TEST_F(SystemMenuTest, InAVerticalBarItOpensBesideIt)
+{
+    Bar->DeleteFromDock();
+    Bar->Parent = Main->Side;
+    Bar->InsertToDock();
+    ASSERT_TRUE(PumpUntil([&] { return Bar->Height == Main->Side->Height && ShowsChild(); }));
+    TRect Window;
+    Script.When(IsOpen(), [&] {
+        GetWindowRect(MenuWindow(), &Window);
+        SendKey(VK_ESCAPE);
+    });
+    ClickToOpen(Bar->ChildIcon());
+    EXPECT_TRUE(Script.IsDone());
+    const TPoint Place = Bar->ClientToScreen({Bar->Width + 2, Bar->DragBox->Height});
+    EXPECT_EQ(Window.left, Place.X);
+    EXPECT_EQ(Window.top, Place.Y);
+}
+
+TEST_F(SystemMenuTest, ItsItemsAreChosenWithTheMouse)
+{
+    Script.When(IsOpen(), [&] {
+        SendMove(MiddleOf(0));
+        SendButton(mbLeft, true);
+        SendButton(mbLeft, false);
+    });
+    ClickToOpen(Bar->ChildIcon());
+    EXPECT_TRUE(PumpUntil([&] { return Child->WindowState == wsNormal; }));
+    EXPECT_FALSE(ShowsChild());
+}
+
+TEST_F(SystemMenuTest, ItsItemsAreChosenWithTheKeyboard)
+{
+    Script.When(IsOpen(), Type('R'));
+    ClickToOpen(Bar->ChildIcon());
+    EXPECT_TRUE(PumpUntil([&] { return Child->WindowState == wsNormal; }));
+    Child->WindowState = wsMaximized;
+    ASSERT_TRUE(PumpUntil([&] { return ShowsChild(); }));
+    Script.When(IsOpen(), [] {
+        SendKey(VK_UP);
+        SendKey(VK_RETURN);
+    });
+    ClickToOpen(Bar->ChildIcon());
+    EXPECT_TRUE(PumpUntil([&] { return TBarChild::Closed == 1; })) << "the last one is Close";
+}
+
+TEST_F(SystemMenuTest, CtrlF4ClosesTheChildWithTheMenuOpenAndWithout)
+{
+    new TBarChild(Main);
+    ASSERT_TRUE(PumpUntil([&] { return Main->ActiveMDIChild != Child && ShowsChild(); }));
+    TypeKey(VK_F4, {ssCtrl});
+    EXPECT_TRUE(PumpUntil([&] { return TBarChild::Closed == 1 && Main->ActiveMDIChild == Child && ShowsChild(); }));
+    Script.When(IsOpen(), Type(VK_F4, {ssCtrl}));
+    ClickToOpen(Bar->ChildIcon());
+    EXPECT_TRUE(PumpUntil([&] { return TBarChild::Closed == 2; }));
+    EXPECT_TRUE(PumpUntil([&] { return !ShowsChild(); }));
+}
+
+TEST_F(SystemMenuTest, ADoubleClickOnTheIconClosesTheChild)
+{
+    MovePointerTo(Bar->ChildIcon(), 8, 8);
+    Script.When(IsOpen(), [] {
+        SendButton(mbLeft, true);
+        SendButton(mbLeft, false);
+    });
+    SendButton(mbLeft, true);
+    SendButton(mbLeft, false);
+    EXPECT_TRUE(PumpUntil([&] { return TBarChild::Closed == 1; }));
+}
+
+TEST_F(SystemMenuTest, TheChildMayGoWhileItIsOpen)
+{
+    Script.When(IsOpen(), [&] { delete Child; });
+    Script.When([] { return true; }, Type('C'));
+    ClickToOpen(Bar->ChildIcon());
+    PumpMessages();
+    EXPECT_TRUE(PumpUntil([&] { return !ShowsChild(); }));
 }
 
 TEST_F(MenuBarTest, ANewBarIsCalledByItsClass)
