@@ -58,6 +58,10 @@ int main(int Count, char** Arguments)
         {"float_dock", &FloatDockBench},
         {"bar_records", &BarRecordsBench},
         {"bar_layout", &BarLayoutBench},
+        {"menu_open", &MenuOpenBench},
+        {"menu_switch", &MenuSwitchBench},
+        {"menu_draw", &MenuDrawBench},
+        {"hook_cost", &HookCostBench},
         {"startup", &StartupBench},
     };
     try {

@@ -39,4 +39,8 @@ void DragStepBench();
 void FloatDockBench();
 void BarRecordsBench();
 void BarLayoutBench();
+void MenuOpenBench();
+void MenuSwitchBench();
+void MenuDrawBench();
+void HookCostBench();
 void StartupBench();

@@ -2,7 +2,6 @@
 
 #include "menus/MenuTracking.h"
 #include "vcl/graphics/Handle.h"
-#include "vcl/system/WindowsApi.h"
 
 namespace {
 
@@ -18,8 +17,6 @@ struct TDecision {
     bool Pending = false;
 };
 TDecision Decision;
-
-bool InMouseHook = false;
 
 bool IsPress(WPARAM Message)
 {
@@ -37,14 +34,8 @@ bool IsPress(WPARAM Message)
 LRESULT CALLBACK MouseProc(int Code, WPARAM WParam, LPARAM LParam)
 {
     const LRESULT Result = CallNextHookEx(MouseHook.Get(), Code, WParam, LParam);
-    if (Code < 0 || InMouseHook)
-        return Result;
-    InMouseHook = true;
-    if (WParam == WM_MOUSEMOVE)
-        TMenuTracking::Get().PointerMoved(reinterpret_cast<const MOUSEHOOKSTRUCT*>(LParam)->pt);
-    else if (IsPress(WParam))
-        TMenuTracking::Get().ButtonPressed();
-    InMouseHook = false;
+    if (Code >= 0)
+        MenuButtonsSeeMouse(WParam, LParam);
     return Result;
 }
 
@@ -61,6 +52,18 @@ LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
 }
 
 } // namespace
+
+void MenuButtonsSeeMouse(WPARAM Message, LPARAM Data)
+{
+    static bool IsLooking = false; // what follows may bring the next one
+    if (std::exchange(IsLooking, true))
+        return;
+    if (Message == WM_MOUSEMOVE)
+        TMenuTracking::Get().PointerMoved(reinterpret_cast<const MOUSEHOOKSTRUCT*>(Data)->pt);
+    else if (IsPress(Message))
+        TMenuTracking::Get().ButtonPressed();
+    IsLooking = false;
+}
 
 void InstallMenuHooks()
 {
