@@ -76,6 +76,9 @@ TkelMenuButton* TMenuTracking::FindByLetter(const TkelMenuButton* Bar, uint16_t 
 bool TMenuTracking::Key(uint16_t VirtualKey, intptr_t KeyData)
 {
     TCustomForm* Form = ActiveMenuForm();
+    // Another form has come in between.
+    if (FCurrent && !FTracking && !IsAmongMenusOf(Form, *FCurrent))
+        Leave();
     if (std::ranges::none_of(FButtons, [Form](const auto* Button) { return IsAmongMenusOf(Form, *Button); }))
         return false;
     if (VirtualKey != VK_MENU) {

@@ -389,6 +389,27 @@ TEST_F(MenuButtonTest, AnotherKeyEndsTheKeyboardModeAndGoesWhereItShould)
     ExpectIdle();
 }
 
+TEST_F(MenuButtonTest, AnotherFormEndsTheKeyboardMode)
+{
+    TypeKey(VK_F10);
+    ASSERT_TRUE(File->Hot);
+    TForm Other(nullptr, 0);
+    Other.SetBounds(550, 100, 200, 150);
+    Other.Show();
+    ASSERT_TRUE(PumpUntil([&] { return Screen->ActiveCustomForm == &Other; }));
+    TypeKey(VK_RIGHT);
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AnotherProgramEndsTheKeyboardMode)
+{
+    TypeKey(VK_F10);
+    ASSERT_TRUE(File->Hot);
+    // As the system tells every window of the program.
+    SendMessageW(PopupList->Window, WM_ACTIVATEAPP, FALSE, 0);
+    ExpectIdle();
+}
+
 TEST_F(MenuButtonTest, ButtonsThatCannotBeUsedArePassedOver)
 {
     Edit->Enabled = false;
