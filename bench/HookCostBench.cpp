@@ -4,6 +4,8 @@
 #include "menus/MenuButton.h"
 #include "menus/MenuHooks.h"
 
+#include <algorithm>
+
 void HookCostBench()
 {
     constexpr int Moves = 10000;
@@ -19,8 +21,7 @@ void HookCostBench()
         }
         return Watch.Microseconds() / Moves;
     };
-    std::vector<double> Times;
-    for (int I = 0; I < 15; ++I)
-        Times.push_back(PerMove());
+    std::vector<double> Times(15);
+    std::ranges::generate(Times, PerMove);
     PrintFigure("hook_cost", Median(Times), "us");
 }
