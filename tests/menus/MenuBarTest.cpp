@@ -209,6 +209,18 @@ protected:
     {
         return [this] { return MenuWindow() != nullptr; };
     }
+    // Opens it by its icon, and closes it; where its corner was.
+    TPoint PlaceOfOpened()
+    {
+        TRect Window;
+        Script.When(IsOpen(), [&] {
+            GetWindowRect(MenuWindow(), &Window);
+            SendKey(VK_ESCAPE);
+        });
+        ClickToOpen(Bar->ChildIcon());
+        EXPECT_TRUE(Script.IsDone());
+        return {Window.left, Window.top};
+    }
     TPoint MiddleOf(int Item) const
     {
         TRect R;
@@ -222,16 +234,7 @@ protected:
 
 TEST_F(SystemMenuTest, AClickOnTheIconOpensItAtTheStartOfTheBar)
 {
-    TRect Window;
-    Script.When(IsOpen(), [&] {
-        GetWindowRect(MenuWindow(), &Window);
-        SendKey(VK_ESCAPE);
-    });
-    ClickToOpen(Bar->ChildIcon());
-    EXPECT_TRUE(Script.IsDone());
-    const TPoint Place = Bar->ClientToScreen({Bar->DragBox->Width, Bar->Height + 2});
-    EXPECT_EQ(Window.left, Place.X);
-    EXPECT_EQ(Window.top, Place.Y);
+    EXPECT_EQ(PlaceOfOpened(), Bar->ClientToScreen({Bar->DragBox->Width, Bar->Height + 2}));
     EXPECT_EQ(Child->WindowState, wsMaximized);
 }
 
@@ -241,16 +244,7 @@ TEST_F(SystemMenuTest, InAVerticalBarItOpensBesideIt)
     Bar->Parent = Main->Side;
     Bar->InsertToDock();
     ASSERT_TRUE(PumpUntil([&] { return Bar->Height == Main->Side->Height && ShowsChild(); }));
-    TRect Window;
-    Script.When(IsOpen(), [&] {
-        GetWindowRect(MenuWindow(), &Window);
-        SendKey(VK_ESCAPE);
-    });
-    ClickToOpen(Bar->ChildIcon());
-    EXPECT_TRUE(Script.IsDone());
-    const TPoint Place = Bar->ClientToScreen({Bar->Width + 2, Bar->DragBox->Height});
-    EXPECT_EQ(Window.left, Place.X);
-    EXPECT_EQ(Window.top, Place.Y);
+    EXPECT_EQ(PlaceOfOpened(), Bar->ClientToScreen({Bar->Width + 2, Bar->DragBox->Height}));
 }
 
 TEST_F(SystemMenuTest, ItsItemsAreChosenWithTheMouse)
