@@ -63,6 +63,7 @@ int main(int Count, char** Arguments)
         {"menu_draw", &MenuDrawBench},
         {"hook_cost", &HookCostBench},
         {"startup", &StartupBench},
+        {"folder_menu", &FolderMenuBench},
     };
     try {
         for (const auto& Figure : Figures)

@@ -44,3 +44,4 @@ void MenuSwitchBench();
 void MenuDrawBench();
 void HookCostBench();
 void StartupBench();
+void FolderMenuBench();

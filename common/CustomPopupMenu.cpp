@@ -97,10 +97,8 @@ void TkelCustomPopupMenu::MeasureItem(TWMMeasureItem& Message)
     if (!Item)
         return;
     Request.itemData = Item->Command;
-    MeasureWith(Request, [&](int& Width, int& Height) {
-        TScreenCanvas Canvas;
-        DoMeasureItem(Item, Width, Height, &Canvas);
-    });
+    TCanvas* Canvas = &PopupTracking->MeasuringCanvas();
+    MeasureWith(Request, [&](int& Width, int& Height) { DoMeasureItem(Item, Width, Height, Canvas); });
 }
 
 void TkelCustomPopupMenu::DrawItem(TWMDrawItem& Message)

@@ -83,6 +83,16 @@ TScreenCanvas::~TScreenCanvas()
     ReleaseDC(nullptr, Context);
 }
 
+void TScreenCanvas::Reset()
+{
+    TFont NewFont;
+    TPen NewPen;
+    TBrush NewBrush;
+    Font = &NewFont;
+    Pen = &NewPen;
+    Brush = &NewBrush;
+}
+
 void MeasureWith(MEASUREITEMSTRUCT& Request, const std::function<void(int& Width, int& Height)>& Measure)
 {
     int Width = static_cast<int>(Request.itemWidth);
@@ -113,7 +123,7 @@ TMenuItem* FindAccelerator(TMenuItem* Root, HMENU Menu, uint16_t Char)
         TMenuItem* Item = Root->Items[I];
         if (!Item->Enabled || !Item->Visible)
             continue;
-        if (IsOpen && IsAccel(Char, Item->Caption))
+        if (IsOpen && IsAccel(Char, Item->ShownCaption()))
             return Item;
         if (TMenuItem* Found = FindAccelerator(Item, Menu, Char))
             return Found;

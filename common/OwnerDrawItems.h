@@ -21,6 +21,9 @@ class TScreenCanvas : public TCanvas {
 public:
     TScreenCanvas() { Handle = GetDC(nullptr); }
     ~TScreenCanvas() override;
+
+    // Font, pen and brush are what they were at first.
+    void Reset();
 };
 
 // Hands a measure request's size to Measure and back.

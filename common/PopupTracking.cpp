@@ -1,6 +1,5 @@
 #include "common/PopupTracking.h"
 
-#include "common/OwnerDrawItems.h"
 #include "vcl/menus/PopupList.h"
 
 #include <utility>
@@ -20,7 +19,7 @@ void TPopupTracking::Add()
 
 void TPopupTracking::Remove(TkelCustomPopupMenu* Menu)
 {
-    std::erase(FOpen, Menu);
+    Forget(Menu);
     for (TkelCustomPopupMenu** Each : {&FCurrent, &FSaved})
         if (*Each == Menu)
             *Each = nullptr;
@@ -38,10 +37,25 @@ void TPopupTracking::Begin(TkelCustomPopupMenu* Menu)
 
 void TPopupTracking::End(TkelCustomPopupMenu* Menu)
 {
-    std::erase(FOpen, Menu);
+    Forget(Menu);
     // Still current when the system had no loop for it, as when another menu is open.
     if (FCurrent == Menu)
         FCurrent = FOpen.empty() ? nullptr : FOpen.back();
+}
+
+void TPopupTracking::Forget(TkelCustomPopupMenu* Open)
+{
+    std::erase(FOpen, Open);
+    if (FOpen.empty())
+        FMeasuring.reset();
+}
+
+TScreenCanvas& TPopupTracking::MeasuringCanvas()
+{
+    if (!FMeasuring)
+        FMeasuring = std::make_unique<TScreenCanvas>();
+    FMeasuring->Reset();
+    return *FMeasuring;
 }
 
 bool TPopupTracking::WindowMessage(TMessage& Message)
@@ -73,8 +87,8 @@ bool TPopupTracking::Measure(TWMMeasureItem& Message)
 {
     if (!IsDrawn())
         return false;
-    const bool IsOurs = FCurrent->FindItem(Message.Request()->itemData, fkCommand) != nullptr;
     FCurrent->MeasureItem(Message);
+    const bool IsOurs = Message.Request()->itemID != 0;
     Message.Result = IsOurs ? TRUE : 0;
     return IsOurs;
 }

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "common/CustomPopupMenu.h"
+#include "common/OwnerDrawItems.h"
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 // From Popup on a menu is the current one. When its loop ends it becomes the saved one, to which the command goes that
@@ -28,6 +30,9 @@ public:
     };
     bool IsOpen(const TkelCustomPopupMenu* Menu) const { return std::ranges::find(FOpen, Menu) != FOpen.end(); }
     TkelCustomPopupMenu* Current() const { return FCurrent; }
+    // For measuring an item. One canvas serves all items of a menu, as getting hold of the screen takes longer than
+    // measuring; each finds it as new.
+    TScreenCanvas& MeasuringCanvas();
 
 private:
     void Begin(TkelCustomPopupMenu* Menu);
@@ -37,6 +42,7 @@ private:
     bool Measure(TWMMeasureItem& Message);
     bool Char(TWMMenuChar& Message);
     bool Command(const TMessage& Message);
+    void Forget(TkelCustomPopupMenu* Open);
     bool IsDrawn() const { return FCurrent && FCurrent->Style == msOwnerDraw; }
 
     int FMenus = 0;                          // that live
@@ -44,6 +50,7 @@ private:
     TkelCustomPopupMenu* FCurrent = nullptr;
     TkelCustomPopupMenu* FSaved = nullptr;
     bool FCommandPending = false;
+    std::unique_ptr<TScreenCanvas> FMeasuring; // until no menu is open
 };
 
 // The one tracking.

@@ -3,6 +3,7 @@
 
 #include "menus/ColorComboButton.h"
 #include "menus/ColorMenu.h"
+#include "menus/FolderMenu.h"
 #include "menus/Icon.h"
 #include "menus/MDIChildMenuBar.h"
 #include "menus/MenuBanner.h"

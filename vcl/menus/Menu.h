@@ -23,7 +23,7 @@ public:
     // Clicks the item with this command; false when there is none.
     bool DispatchCommand(uint16_t Command);
     // The submenu is about to open: clicks its item. False when it is none of this menu's.
-    bool DispatchPopup(HMENU Handle);
+    virtual bool DispatchPopup(HMENU Handle);
     // Clicks the item that has this shortcut, as if its submenus had been opened; false when there is none or it cannot
     // be chosen.
     virtual bool IsShortCut(TShortCut ShortCut);
@@ -73,6 +73,8 @@ protected:
     // The MFT_ flags that the item's native entry gets besides those of its values. With MFT_OWNERDRAW the item's
     // command becomes the entry's data.
     virtual unsigned EntryType(const TMenuItem&) const { return 0; }
+    // What the native entry says, and where its accelerator is looked for.
+    virtual AnsiString EntryCaption(const TMenuItem& Item) const { return Item.Caption; }
     // The items on the menu's first level, those of a merged menu among them.
     virtual std::vector<TMenuItem*> ShownItems() const { return FItems->FItems; }
     // The native menu is filled anew when it is needed next.

@@ -96,6 +96,8 @@ public:
     bool HandleAllocated() const { return FHandle != nullptr; }
 
     bool IsLine() const { return FCaption == cLineCaption; }
+    // The caption as the item's menu shows it, in which & marks the accelerator.
+    AnsiString ShownCaption() const;
     // What a click on the item does: AutoCheck, then OnClick. Nothing while the item is disabled.
     virtual void Click();
     // True when the item, and everything it is in, is visible and enabled.

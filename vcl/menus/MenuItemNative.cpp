@@ -92,6 +92,12 @@ void TMenuItem::AppendTo(HMENU Menu)
     InsertMenuItemW(Menu, static_cast<UINT>(GetMenuItemCount(Menu)), TRUE, &Info);
 }
 
+AnsiString TMenuItem::ShownCaption() const
+{
+    const TMenu* Menu = GetParentMenu();
+    return Menu ? Menu->EntryCaption(*this) : FCaption;
+}
+
 void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
 {
     Info = {};
@@ -117,7 +123,7 @@ void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
         Info.fType |= MFT_SEPARATOR;
         return;
     }
-    Text = ToWide(FCaption);
+    Text = ToWide(ShownCaption());
     if (const AnsiString Keys = ShownShortCut(); !Keys.empty())
         Text += L'\t' + ToWide(Keys);
     Info.fMask |= MIIM_STRING | MIIM_BITMAP;
@@ -203,7 +209,7 @@ intptr_t TMenuItem::MenuChar(wchar_t Letter)
     bool SelectedAbove = false;
     for (int I = 0; I < GetMenuItemCount(FHandle); ++I) {
         const TMenuItem* Item = Menu ? Menu->FindItem(CommandAt(FHandle, I), fkCommand) : nullptr;
-        if (Item && GetHotkey(Item->FCaption) == Wanted) {
+        if (Item && GetHotkey(Item->ShownCaption()) == Wanted) {
             if (++Hits == 1) {
                 First = I;
                 IsEnabled = Item->Enabled;

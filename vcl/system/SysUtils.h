@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vcl/system/FileNames.h"
+#include "vcl/system/FileSearch.h"
 #include "vcl/system/Format.h"
 #include "vcl/system/Object.h"
 
