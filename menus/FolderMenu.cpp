@@ -107,6 +107,8 @@ void TkelFolderMenu::MakeMenu(const AnsiString& Path, TMenuItem* Parent)
     }
     int Left = MaxEntries;
     ForEachEntry(Start, [&](const TSearchRec& Entry) {
+        if (Left-- <= 0)
+            return false;
         const AnsiString Caption = Start + Entry.Name;
         TMenuItem* Item =
             NewItem(Caption, scNone, false, true, TNotifyEvent(this, &TkelFolderMenu::DoClickFolder), 0, "");
@@ -121,7 +123,7 @@ void TkelFolderMenu::MakeMenu(const AnsiString& Path, TMenuItem* Parent)
             Parent->Insert(Folders + static_cast<int>(Place - Lowest.begin()), Item);
             Lowest.insert(Place, Item);
         }
-        return --Left > 0;
+        return true;
     });
 }
 

@@ -27,6 +27,9 @@ public:
     bool ShowFiles = true;
     // Icons of 16 by 16 pixels in place of 32 by 32.
     bool SmallIcon = false;
+    // Of one folder; not published. The first ones that are found are shown, as the system has room for so many submenus
+    // and commands only.
+    int MaxEntries = 8000;
 
     // An entry was chosen; the path has no backslash at its end. Opening a submenu chooses nothing.
     TOnClickFolder OnClickFolder;
@@ -35,11 +38,9 @@ public:
     bool DispatchPopup(HMENU Handle) override;
 
     // Adds an item for each entry of a folder to Parent: folders at the beginning, the last one found first, and each
-    // file before the first item whose caption is lower (by bytes). At most MaxEntries, in the order in which they are
-    // found. A folder with entries of its own gets a submenu, which has nothing but one nameless item before it is
-    // opened.
+    // file before the first item whose caption is lower (by bytes). A folder with entries of its own gets a submenu,
+    // which has nothing but one nameless item before it is opened.
     void MakeMenu(const AnsiString& Path, TMenuItem* Parent);
-    static constexpr int MaxEntries = 8000;
     // The shell's icon, small if SmallIcon is set; empty when there is none. The caller deletes it.
     TIcon* GetFileIcon(const AnsiString& Path) const;
     // Raises OnClickFolder with the caption of Sender, a TMenuItem.

@@ -213,9 +213,13 @@ TEST_F(FolderMenuTest, AFolderTooDeepToReadCanBeChosen)
 
 TEST_F(FolderMenuTest, AnEndlessFolderEndsSomewhere)
 {
-    for (int I = 0; I < TkelFolderMenu::MaxEntries + 10; ++I)
+    for (int I = 0; I < 10; ++I)
         Folder.AddFile(IntToStr(I));
-    EXPECT_EQ(Made().size(), static_cast<size_t>(TkelFolderMenu::MaxEntries));
+    EXPECT_EQ(Made().size(), 10u);
+    Menu->MaxEntries = 7;
+    EXPECT_EQ(Made().size(), 7u);
+    Menu->MaxEntries = 0;
+    EXPECT_THAT(Made(), IsEmpty());
 }
 
 TEST_F(FolderMenuTest, PopupForgetsTheItemsBefore)
