@@ -2,38 +2,10 @@
 // against going through the folder and asking the shell for the icons of those items.
 #include "bench/Bench.h"
 #include "menus/FolderMenu.h"
+#include "tests/support/TestFolder.h"
 #include "vcl/menus/PopupList.h"
-#include "vcl/system/SysUtils.h"
 
 namespace {
-
-// A folder in the temporary one, with empty files; both go with the object.
-class TTestFolder {
-public:
-    explicit TTestFolder(int Files)
-    {
-        wchar_t Temp[MAX_PATH] = {};
-        GetTempPathW(MAX_PATH, Temp);
-        FPath = FromWide(Temp) + "tessary_folder_menu";
-        CreateDirectoryW(TWideText(FPath).c_str(), nullptr);
-        for (int I = 0; I < Files; ++I) {
-            FFiles.push_back(Path() + Format("Report %.4d%s", I, I % 2 ? ".txt" : ".bmp"));
-            CloseHandle(CreateFileW(TWideText(FFiles.back()).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0,
-                                    nullptr));
-        }
-    }
-    ~TTestFolder()
-    {
-        for (const AnsiString& File : FFiles)
-            DeleteFile(File);
-        RemoveDirectoryW(TWideText(FPath).c_str());
-    }
-    AnsiString Path() const { return FPath + "\\"; }
-
-private:
-    AnsiString FPath;
-    std::vector<AnsiString> FFiles;
-};
 
 // Closes itself when it is drawn.
 class TTimedMenu : public TkelFolderMenu {
@@ -95,7 +67,9 @@ double Ask(const AnsiString& Folder, const std::vector<AnsiString>& Visible)
 
 void FolderMenuBench()
 {
-    const TTestFolder Folder(1000);
+    const TTestFolder Folder;
+    for (int I = 0; I < 1000; ++I)
+        Folder.AddFile(Format("Report %.4d%s", I, I % 2 ? ".txt" : ".bmp"));
     TTimedMenu Menu;
     Menu.Folder = Folder.Path();
     Menu.Time();

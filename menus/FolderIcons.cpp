@@ -1,5 +1,6 @@
 #include "menus/FolderIcons.h"
 
+#include "vcl/system/SysUtils.h"
 #include "vcl/system/Utf.h"
 
 #include <algorithm>
@@ -11,9 +12,17 @@ constexpr uint32_t Opaque = 0xFF000000;
 // What the shell has for a path: the index of its icon with SHGFI_SYSICONINDEX, a new one with SHGFI_ICON.
 DWORD_PTR AskShell(const AnsiString& Path, UINT Flags, bool IsSmall, SHFILEINFOW& Info)
 {
-    Info = {};
     const UINT SizeFlag = IsSmall ? SHGFI_SMALLICON : SHGFI_LARGEICON;
     return SHGetFileInfoW(TWideText(Path).c_str(), 0, &Info, sizeof Info, Flags | SizeFlag);
+}
+
+// A shortcut's icon is that of something else with an arrow on it. The shell would say what is one, but takes longer
+// for that than for the icon.
+bool IsShortcut(const AnsiString& Path)
+{
+    constexpr const char* Endings[] = {".lnk", ".pif", ".url"};
+    const AnsiString Ending = ExtractFileExt(Path);
+    return std::ranges::any_of(Endings, [&](const char* Each) { return SameText(Ending, Each); });
 }
 
 } // namespace
@@ -43,7 +52,7 @@ void TFolderIcons::Reset(int Size)
 TIcon* TFolderIcons::FileIcon(const AnsiString& Path, bool IsSmall)
 {
     auto Icon = std::make_unique<TIcon>();
-    SHFILEINFOW Info;
+    SHFILEINFOW Info{};
     if (AskShell(Path, SHGFI_ICON, IsSmall, Info))
         Icon->Handle = Info.hIcon;
     return Icon.release();
@@ -56,7 +65,9 @@ int TFolderIcons::Add(TIcon* Icon)
 
 int TFolderIcons::AddFile(const AnsiString& Path)
 {
-    SHFILEINFOW Info;
+    if (IsShortcut(Path))
+        return Add(std::unique_ptr<TIcon>(FileIcon(Path, Size() == Small)).get());
+    SHFILEINFOW Info{};
     const auto Shell = reinterpret_cast<HIMAGELIST>(AskShell(Path, SHGFI_SYSICONINDEX, Size() == Small, Info));
     if (!Shell)
         return -1;

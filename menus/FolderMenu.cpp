@@ -10,6 +10,7 @@ namespace {
 constexpr int IconLeft = 8;  // of the item
 constexpr int TextLeft = 16; // besides the icon's width
 constexpr int SideRoom = 38;
+constexpr int NarrowestScreen = 600;
 constexpr int AllAttributes = 255;
 
 void CutLastCharacter(AnsiString& Text)
@@ -177,10 +178,10 @@ int TkelFolderMenu::IconOf(TMenuItem* Item)
 
 void TkelFolderMenu::DoMeasureItem(TMenuItem* Item, int& Width, int& Height, TCanvas* Canvas)
 {
-    // An item as wide as the screen would hide the arrow of its submenu.
-    const int Widest = GetSystemMetrics(SM_CXSCREEN) - 2 * FIcons.Size();
     Width = Canvas->TextWidth(ExtractFileName(Item->Caption)) + FIcons.Size() + SideRoom;
-    Width = std::min(Width, Widest);
+    // An item as wide as the screen would hide the arrow of its submenu. Most need no look at the screen, which is slow.
+    if (Width > NarrowestScreen)
+        Width = std::min(Width, GetSystemMetrics(SM_CXSCREEN) - 2 * FIcons.Size());
     Height = FIcons.Size();
 }
 

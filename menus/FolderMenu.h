@@ -35,6 +35,7 @@ public:
     TOnClickFolder OnClickFolder;
 
     void Popup(int X, int Y) override;
+    // Reads a folder that is opened for the first time. That is no click on its item.
     bool DispatchPopup(HMENU Handle) override;
 
     // Adds an item for each entry of a folder to Parent: folders at the beginning, the last one found first, and each

@@ -46,7 +46,7 @@ protected:
         return Image;
     }
     // The shell's icon for Path, as an image list draws it.
-    void DrawIcon(TPixelImage& Image, const AnsiString& Path) const
+    void DrawIcon(TPixelImage& Image, const AnsiString& Path, int X = 8) const
     {
         const std::unique_ptr<TIcon> Icon(Menu->GetFileIcon(Path));
         TImageList List(nullptr, Size, Size);
@@ -54,7 +54,7 @@ protected:
         ASSERT_EQ(List.AddIcon(Icon.get()), 0) << Path;
         TCanvas Canvas;
         Canvas.Handle = Image.DC();
-        List.Draw(&Canvas, 8, 0, 0);
+        List.Draw(&Canvas, X, 0, 0);
     }
     void UseSmallIcons()
     {
@@ -123,6 +123,17 @@ TEST_F(FolderMenuPaintTest, AFolderHasItsOwnIcon)
     TPixelImage Wanted = Expected("sub");
     DrawIcon(Wanted, Path);
     EXPECT_TRUE(SamePixels(Draw(AddItem(Path)), Wanted));
+}
+
+TEST_F(FolderMenuPaintTest, FilesHaveTheIconsOfTheirKinds)
+{
+    for (const char* Name : {"a.txt", "b.bmp", "c.lnk", "d.exe", "e.LNK", "f", "g.txt"}) {
+        const AnsiString Path = Folder.AddFile(Name);
+        TMenuItem* Item = AddItem(Path);
+        TPixelImage Wanted(32, 32, clBtnFace);
+        DrawIcon(Wanted, Path, 0);
+        EXPECT_TRUE(SamePixels(Draw(Item).Part({8, 0, 40, 32}), Wanted)) << Name;
+    }
 }
 
 TEST_F(FolderMenuPaintTest, SmallIconsMakeSmallItems)

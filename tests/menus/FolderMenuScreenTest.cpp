@@ -19,11 +19,14 @@ public:
 
     // By caption, on the screen.
     std::map<AnsiString, TRect> Places;
+    AnsiString Selected;
 
 protected:
     void DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State, const TRect& Rect) override
     {
         TkelFolderMenu::DoDrawItem(Item, Canvas, State, Rect);
+        if (State & ODS_SELECTED)
+            Selected = Item->Caption;
         POINT Origin = {};
         ClientToScreen(WindowFromDC(Canvas->BareHandle()), &Origin);
         Places[Item->Caption] = Rect;
@@ -71,6 +74,10 @@ protected:
     std::function<bool()> IsDrawn(const AnsiString& Name)
     {
         return [this, Name] { return Menu->Places.contains(Folder.Path() + Name); };
+    }
+    std::function<bool()> IsSelected(const AnsiString& Name)
+    {
+        return [this, Name] { return Menu->Selected == Folder.Path() + Name; };
     }
     static std::function<void()> Type(std::vector<uint16_t> Keys)
     {
@@ -209,7 +216,7 @@ TEST_F(FolderMenuScreenTest, ThePointerOpensASubmenuAndAClickChoosesInIt)
     Folder.AddFile("sub\\a&b.txt");
     Script.When(IsDrawn("sub"), PointTo("sub"));
     Script.When(IsDrawn("sub\\a&b.txt"), PointTo("sub\\a&b.txt"));
-    Script.When(AreOpen(2), Click);
+    Script.When(IsSelected("sub\\a&b.txt"), Click);
     Popup();
     EXPECT_TRUE(Script.IsDone());
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
