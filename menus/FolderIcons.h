@@ -51,8 +51,8 @@ private:
     static constexpr int StripLength = 32;
 
     TComUse FComUse;
-    std::unique_ptr<TImageList> FList; // the cells
-    std::vector<TMaskedImage> FStrips; // the cells as they are drawn, one below the other
-    std::vector<int> FCells;           // of the icons: files of one kind share theirs
+    std::unique_ptr<TImageList> FList;        // the cells
+    std::vector<TMaskedImage> FStrips;        // the cells as they are drawn, one below the other
+    std::vector<int> FCells;                  // of the icons: files of one kind share theirs
     std::unordered_map<int, int> FShellCells; // by the shell's own index
 };

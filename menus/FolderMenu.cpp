@@ -179,7 +179,8 @@ int TkelFolderMenu::IconOf(TMenuItem* Item)
 void TkelFolderMenu::DoMeasureItem(TMenuItem* Item, int& Width, int& Height, TCanvas* Canvas)
 {
     Width = Canvas->TextWidth(ExtractFileName(Item->Caption)) + FIcons.Size() + SideRoom;
-    // An item as wide as the screen would hide the arrow of its submenu. Most need no look at the screen, which is slow.
+    // An item as wide as the screen would hide the arrow of its submenu. Most need no look at the screen, which is
+    // slow.
     if (Width > NarrowestScreen)
         Width = std::min(Width, GetSystemMetrics(SM_CXSCREEN) - 2 * FIcons.Size());
     Height = FIcons.Size();
@@ -205,7 +206,8 @@ void TkelFolderMenu::DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State
     Canvas->Pen->Color = IsSelected ? clHighlightText : clMenuText;
     TRect Text = Rect;
     Text.left += FIcons.Size() + TextLeft;
-    DrawText(Canvas->Handle, ShownName(Item->Caption), Text, DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    DrawText(Canvas->Handle, ShownName(Item->Caption), Text,
+             DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     FIcons.Draw(Context, Rect.left + IconLeft, Rect.top, IconOf(Item));
 }
 

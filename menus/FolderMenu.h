@@ -27,8 +27,8 @@ public:
     bool ShowFiles = true;
     // Icons of 16 by 16 pixels in place of 32 by 32.
     bool SmallIcon = false;
-    // Of one folder; not published. The first ones that are found are shown, as the system has room for so many submenus
-    // and commands only.
+    // Of one folder; not published. The first ones that are found are shown, as the system has room for so many
+    // submenus and commands only.
     int MaxEntries = 8000;
 
     // An entry was chosen; the path has no backslash at its end. Opening a submenu chooses nothing.

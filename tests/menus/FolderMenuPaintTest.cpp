@@ -175,10 +175,21 @@ TEST_F(FolderMenuPaintTest, ANameWithAnEndingLosesFourCharacters)
         const char* Name;
         const char* Shown;
     } Cases[] = {
-        {"notes.txt", "notes"}, {"page.html", "page."}, {"Makefile", "Makefile"}, {"program.c", "progr"},
-        {"a.c", ""},            {".git", ""},           {".gitignore", ".gitig"}, {"a.tar.gz", "a.ta"},
-        {"отчёт.док", "отчёт"}, {"x.отчёт", "x.о"},     {"日本語.語", "日"},      {"\U0001F600.\U0001F600", ""},
-        {"a&b.txt", "a&b"},     {"a&&b", "a&&b"},       {"&x.txt", "&x"},
+        {"notes.txt", "notes"},
+        {"page.html", "page."},
+        {"Makefile", "Makefile"},
+        {"program.c", "progr"},
+        {"a.c", ""},
+        {".git", ""},
+        {".gitignore", ".gitig"},
+        {"a.tar.gz", "a.ta"},
+        {"отчёт.док", "отчёт"},
+        {"x.отчёт", "x.о"},
+        {"日本語.語", "日"},
+        {"\U0001F600.\U0001F600", ""},
+        {"a&b.txt", "a&b"},
+        {"a&&b", "a&&b"},
+        {"&x.txt", "&x"},
     };
     for (const auto& Case : Cases) {
         TMenuItem* Item = AddItem(Folder.Path() + "nowhere\\" + Case.Name);

@@ -1,9 +1,6 @@
 // Folder menus on the screen, under a real mouse and keyboard.
-#include "menus/MenuButton.h"
-#include "menus/MenuTracking.h"
 #include "tests/menus/FolderMenuFixture.h"
-#include "tests/support/FormTest.h"
-#include "tests/support/MenuScript.h"
+#include "tests/menus/MenuScript.h"
 
 #include <gmock/gmock.h>
 
@@ -38,8 +35,7 @@ class FolderMenuScreenTest : public TFormTest {
 protected:
     static void SetUpTestSuite()
     {
-        TFormTest::SetUpTestSuite();
-        TMenuTracking::Get();
+        MakeWhatMenusShare();
         TkelFolderMenu Menu(nullptr);
     }
     void SetUp() override
@@ -58,7 +54,7 @@ protected:
     }
     void PopupAndClose()
     {
-        Script.When(AreOpen(1), Type({VK_ESCAPE}));
+        Script.When(AreOpen(1), Keys({VK_ESCAPE}));
         Popup();
         EXPECT_TRUE(Script.IsDone());
     }
@@ -79,10 +75,10 @@ protected:
     {
         return [this, Name] { return Menu->Selected == Folder.Path() + Name; };
     }
-    static std::function<void()> Type(std::vector<uint16_t> Keys)
+    static std::function<void()> Keys(std::vector<uint16_t> Typed)
     {
-        return [Keys] {
-            for (uint16_t Key : Keys)
+        return [Typed] {
+            for (uint16_t Key : Typed)
                 SendKey(Key);
         };
     }
@@ -109,7 +105,7 @@ protected:
     TTestFolder Folder;
     TSeenFolderMenu* Menu = new TSeenFolderMenu(Form.get());
     std::vector<AnsiString> Chosen;
-    TMenuScript Script;
+    TScript Script;
 };
 
 } // namespace
@@ -135,7 +131,7 @@ TEST_F(FolderMenuScreenTest, EachPopupReadsTheFolderAnew)
     Folder.AddFile("b.txt");
     Menu->SmallIcon = false;
     Menu->Places.clear();
-    Script.When(IsDrawn("b.txt"), Type({VK_ESCAPE}));
+    Script.When(IsDrawn("b.txt"), Keys({VK_ESCAPE}));
     Popup();
     EXPECT_TRUE(Script.IsDone());
     EXPECT_FALSE(Menu->Places.contains(Folder.Path() + "a.txt"));
@@ -197,12 +193,12 @@ TEST_F(FolderMenuScreenTest, ASubmenuIsFilledWhenItOpens)
     Folder.AddFolder("sub\\deeper");
     Folder.AddFile("sub\\deeper\\b.txt");
     Folder.AddFile("sub\\a.txt");
-    Script.When(IsDrawn("sub"), Type({VK_DOWN, VK_RIGHT}));
+    Script.When(IsDrawn("sub"), Keys({VK_DOWN, VK_RIGHT}));
     Script.When(IsDrawn("sub\\deeper"), [&] {
         EXPECT_THAT(NamesIn(ItemOf("sub"), Folder.Path() + "sub\\"), ElementsAre("deeper", "a.txt"));
         SendKey(VK_RIGHT);
     });
-    Script.When(IsDrawn("sub\\deeper\\b.txt"), Type({VK_RETURN}));
+    Script.When(IsDrawn("sub\\deeper\\b.txt"), Keys({VK_RETURN}));
     Popup();
     EXPECT_TRUE(Script.IsDone());
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
@@ -215,11 +211,18 @@ TEST_F(FolderMenuScreenTest, ThePointerOpensASubmenuAndAClickChoosesInIt)
     Folder.AddFolder("sub");
     Folder.AddFile("sub\\a&b.txt");
     Script.When(IsDrawn("sub"), PointTo("sub"));
-    Script.When(IsDrawn("sub\\a&b.txt"), PointTo("sub\\a&b.txt"));
-    Script.When(IsSelected("sub\\a&b.txt"), Click);
+    Script.When(IsDrawn("sub\\a&b.txt"), [] {});
+    // The screen may put the pointer back for a moment.
+    Script.When(
+        [&] {
+            PointTo("sub\\a&b.txt")();
+            if (IsSelected("sub\\a&b.txt")())
+                Click();
+            return AreOpen(0)();
+        },
+        [] {});
     Popup();
-    EXPECT_TRUE(Script.IsDone());
-    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty() && Script.IsDone(); }));
     EXPECT_THAT(Chosen, ElementsAre(Folder.Path() + "sub\\a&b.txt"));
 }
 
@@ -227,12 +230,12 @@ TEST_F(FolderMenuScreenTest, ASubmenuOpenedTwiceIsTheSame)
 {
     Folder.AddFolder("sub");
     Folder.AddFile("sub\\a.txt");
-    Script.When(IsDrawn("sub"), Type({VK_DOWN, VK_RIGHT}));
-    Script.When(AreOpen(2), Type({VK_LEFT}));
-    Script.When(AreOpen(1), Type({VK_RIGHT}));
+    Script.When(IsDrawn("sub"), Keys({VK_DOWN, VK_RIGHT}));
+    Script.When(AreOpen(2), Keys({VK_LEFT}));
+    Script.When(AreOpen(1), Keys({VK_RIGHT}));
     Script.When(AreOpen(2), [&] {
         EXPECT_THAT(NamesIn(ItemOf("sub"), Folder.Path() + "sub\\"), ElementsAre("a.txt"));
-        Type({VK_ESCAPE, VK_ESCAPE})();
+        Keys({VK_ESCAPE, VK_ESCAPE})();
     });
     Popup();
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
@@ -246,7 +249,7 @@ TEST_F(FolderMenuScreenTest, AClickOnAFolderWithASubmenuDoesNotChooseIt)
         PointTo("sub")();
         Click();
     });
-    Script.When(IsDrawn("sub\\a.txt"), Type({VK_ESCAPE, VK_ESCAPE}));
+    Script.When(IsDrawn("sub\\a.txt"), Keys({VK_ESCAPE, VK_ESCAPE}));
     Popup();
     PumpMessages();
     EXPECT_TRUE(Script.IsDone());
@@ -256,12 +259,12 @@ TEST_F(FolderMenuScreenTest, AClickOnAFolderWithASubmenuDoesNotChooseIt)
 TEST_F(FolderMenuScreenTest, EmptyFoldersAndThoseWithoutSubmenusAreChosen)
 {
     Folder.AddFolder("sub");
-    Script.When(IsDrawn("sub"), Type({VK_DOWN, VK_RETURN}));
+    Script.When(IsDrawn("sub"), Keys({VK_DOWN, VK_RETURN}));
     Popup();
     EXPECT_TRUE(PumpUntil([&] { return Chosen.size() == 1; }));
     Folder.AddFile("sub\\a.txt");
     Menu->NoSubFolder = true;
-    Script.When(AreOpen(1), Type({VK_DOWN, VK_RETURN}));
+    Script.When(AreOpen(1), Keys({VK_DOWN, VK_RETURN}));
     Popup();
     EXPECT_TRUE(PumpUntil([&] { return Chosen.size() == 2; }));
     EXPECT_THAT(Chosen, ElementsAre(Folder.Path() + "sub", Folder.Path() + "sub"));
@@ -273,10 +276,9 @@ TEST_F(FolderMenuScreenTest, AFolderThatGoesBeforeItOpensHasNothingToShow)
     Folder.AddFile("sub\\a.txt");
     Script.When(IsDrawn("sub"), [&] {
         Folder.Remove("sub");
-        Type({VK_DOWN, VK_RIGHT})();
+        Keys({VK_DOWN, VK_RIGHT})();
     });
-    Script.When([&] { return ItemOf("sub")->Count == 1 && !ItemOf("sub")->Items[0]->Visible; },
-                [&] { EndMenu(); });
+    Script.When([&] { return ItemOf("sub")->Count == 1 && !ItemOf("sub")->Items[0]->Visible; }, [&] { EndMenu(); });
     Popup();
     EXPECT_TRUE(Script.IsDone());
     EXPECT_EQ(Menu->Places.size(), 1u);
@@ -289,13 +291,13 @@ TEST_F(FolderMenuScreenTest, AFolderThatWasAwayIsReadWhenItOpensAgain)
     Folder.AddFile("sub\\a.txt");
     Script.When(IsDrawn("sub"), [&] {
         Folder.Remove("sub");
-        Type({VK_DOWN, VK_RIGHT})();
+        Keys({VK_DOWN, VK_RIGHT})();
     });
     Script.When([&] { return !ItemOf("sub")->Items[0]->Visible; },
                 [&] {
                     Folder.AddFolder("sub");
                     Folder.AddFile("sub\\b.txt");
-                    Type({VK_LEFT, VK_RIGHT})();
+                    Keys({VK_LEFT, VK_RIGHT})();
                 });
     Script.When(IsDrawn("sub\\b.txt"), [&] {
         EXPECT_THAT(NamesIn(ItemOf("sub"), Folder.Path() + "sub\\"), ElementsAre("b.txt"));
@@ -332,9 +334,9 @@ TEST_F(FolderMenuScreenTest, ALinkToItsOwnFolderOpensAsOftenAsTheUserLikes)
     if (!RunBelow(L"Z:\\bin\\ln", "ln -s . loop", Folder.Path()))
         RunBelow(L"C:\\windows\\system32\\cmd.exe", "cmd /c mklink /J loop .", Folder.Path());
     ASSERT_TRUE(PumpUntil([&] { return DirectoryExists(Folder.Path() + "loop"); }));
-    Script.When(IsDrawn("loop"), Type({VK_DOWN, VK_RIGHT}));
-    Script.When(IsDrawn("loop\\loop"), Type({VK_RIGHT}));
-    Script.When(IsDrawn("loop\\loop\\loop"), Type({VK_DOWN, VK_RETURN}));
+    Script.When(IsDrawn("loop"), Keys({VK_DOWN, VK_RIGHT}));
+    Script.When(IsDrawn("loop\\loop"), Keys({VK_RIGHT}));
+    Script.When(IsDrawn("loop\\loop\\loop"), Keys({VK_DOWN, VK_RETURN}));
     Popup();
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
@@ -350,8 +352,8 @@ TEST_F(FolderMenuScreenTest, AnAmpersandInANameMarksNoLetter)
 {
     Folder.AddFile("&x.txt");
     Folder.AddFile("xylophone.txt");
-    Script.When(IsDrawn("&x.txt"), Type({'X'}));
-    Script.When([] { return true; }, Type({VK_ESCAPE}));
+    Script.When(IsDrawn("&x.txt"), Keys({'X'}));
+    Script.When([] { return true; }, Keys({VK_ESCAPE}));
     Popup();
     EXPECT_TRUE(Script.IsDone());
     PumpMessages();
@@ -369,7 +371,7 @@ TEST_F(FolderMenuScreenTest, AHandlerMayDeleteTheMenu)
         delete Menu;
         Chosen.push_back(Path);
     };
-    Script.When(IsDrawn("a.txt"), Type({VK_DOWN, VK_RETURN}));
+    Script.When(IsDrawn("a.txt"), Keys({VK_DOWN, VK_RETURN}));
     Popup();
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
     EXPECT_THAT(Chosen, ElementsAre(Folder.Path() + "a.txt"));
@@ -386,8 +388,8 @@ TEST_F(FolderMenuScreenTest, AHandlerMayGoOnToAnotherFolder)
         if (Chosen.size() == 1)
             Menu->Popup(150, 150);
     };
-    Script.When(IsDrawn("sub"), Type({VK_DOWN, VK_RETURN}));
-    Script.When(IsDrawn("sub\\b.txt"), Type({VK_DOWN, VK_RETURN}));
+    Script.When(IsDrawn("sub"), Keys({VK_DOWN, VK_RETURN}));
+    Script.When(IsDrawn("sub\\b.txt"), Keys({VK_DOWN, VK_RETURN}));
     Popup();
     EXPECT_TRUE(PumpUntil([&] { return Chosen.size() == 2; }));
     EXPECT_TRUE(Script.IsDone());
@@ -398,7 +400,7 @@ TEST_F(FolderMenuScreenTest, TheMenuMayGoWhileItIsOpen)
 {
     Folder.AddFolder("sub");
     Folder.AddFile("sub\\a.txt");
-    Script.When(IsDrawn("sub"), Type({VK_DOWN, VK_RIGHT}));
+    Script.When(IsDrawn("sub"), Keys({VK_DOWN, VK_RIGHT}));
     Script.When(IsDrawn("sub\\a.txt"), [&] { delete std::exchange(Menu, nullptr); });
     Menu->Popup(150, 150);
     PumpMessages();
@@ -425,7 +427,7 @@ TEST_F(FolderMenuScreenTest, AMenuButtonDropsAFolder)
     auto* Button = Add<TkelMenuButton>("&Folder");
     Button->SetBounds(10, 10, 60, 22);
     Button->Menu = Menu;
-    Script.When(IsDrawn("a.txt"), Type({VK_DOWN, VK_RETURN}));
+    Script.When(IsDrawn("a.txt"), Keys({VK_DOWN, VK_RETURN}));
     MovePointerTo(Button, 10, 10);
     Click();
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));

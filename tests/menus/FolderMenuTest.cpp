@@ -1,6 +1,6 @@
 // What folder menus make of a folder.
-#include "tests/menus/FolderMenuFixture.h"
 #include "menus/Tsy_menus.h"
+#include "tests/menus/FolderMenuFixture.h"
 #include "tests/support/FormText.h"
 #include "vcl/system/ClassDescription.h"
 
