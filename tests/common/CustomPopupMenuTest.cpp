@@ -69,6 +69,27 @@ TEST_F(CustomPopupMenuTest, AnOwnerDrawnMenuAsksForEveryItem)
         EXPECT_EQ(Height, 20) << Caption;
 }
 
+TEST_F(CustomPopupMenuTest, EveryItemIsMeasuredWithANewCanvas)
+{
+    Menu->Style = msOwnerDraw;
+    const TFont Font;
+    int Count = 0;
+    Menu->OnMeasureItem = [&](TMenuItem*, int&, int&, TCanvas* Canvas) {
+        ++Count;
+        EXPECT_EQ(Canvas->Font->Size, Font.Size);
+        EXPECT_EQ(Canvas->Font->Color, clWindowText);
+        EXPECT_EQ(Canvas->Brush->Color, clWhite);
+        EXPECT_EQ(Canvas->Pen->Width, 1);
+        Canvas->Font->Size = 30;
+        Canvas->Font->Color = clRed;
+        Canvas->Brush->Color = clRed;
+        Canvas->Pen->Width = 3;
+        EXPECT_GT(Canvas->TextHeight("X"), 30);
+    };
+    PopupAndEscape();
+    EXPECT_GE(Count, 3);
+}
+
 TEST_F(CustomPopupMenuTest, WithoutHandlersTheItemsStayBlank)
 {
     Menu->Style = msOwnerDraw;
