@@ -56,7 +56,11 @@ TSharedPicture SampleSheet(const TSize& Size)
 
 } // namespace
 
-TDrawing::TDrawing(TPaintBox* Paper) : FPaper(Paper), FSheet(Paper->Width, Paper->Height), FPicture(SampleSheet(FSheet))
+TDrawing::TDrawing(TPaintBox* Paper, TDrawingTools& Tools)
+    : FPaper(Paper),
+      FTools(Tools),
+      FSheet(Paper->Width, Paper->Height),
+      FPicture(SampleSheet(FSheet))
 {
     Paper->ControlStyle = Paper->ControlStyle + TControlStyle{csOpaque};
     Paper->OnPaint = {this, &TDrawing::PaperPaint};
@@ -103,33 +107,33 @@ void TDrawing::FinishChange()
 
 void TDrawing::SetPens(TCanvas* Canvas, int Scale) const
 {
-    Canvas->Pen->Style = LineStyle;
-    Canvas->Pen->Width = std::max(1, LineWidth * Scale / 100);
-    Canvas->Pen->Color = LineColor;
+    Canvas->Pen->Style = FTools.LineStyle;
+    Canvas->Pen->Width = std::max(1, FTools.LineWidth * Scale / 100);
+    Canvas->Pen->Color = FTools.LineColor;
     // The style last: a colour makes a brush solid.
-    if (FillColor != clNone)
-        Canvas->Brush->Color = FillColor;
+    if (FTools.FillColor != clNone)
+        Canvas->Brush->Color = FTools.FillColor;
     else
         Canvas->Brush->Style = bsClear;
 }
 
 void TDrawing::ApplyTool(const TPoint& P)
 {
-    if (Tool == dtPickColor) {
-        LineColor = FPicture->Canvas->Pixels[P.x][P.y];
+    if (FTools.Tool == dtPickColor) {
+        FTools.LineColor = FPicture->Canvas->Pixels[P.x][P.y];
         OnPick(this);
         return;
     }
     TCanvas* Canvas = BeginChange();
-    if (Tool == dtFill) {
-        Canvas->Brush->Color = FillColor == clNone ? clWhite : FillColor;
+    if (FTools.Tool == dtFill) {
+        Canvas->Brush->Color = FTools.FillColor == clNone ? clWhite : FTools.FillColor;
         Canvas->FloodFill(P.x, P.y, Canvas->Pixels[P.x][P.y], fsSurface);
     } else {
         Canvas->Font->Name = "Tahoma";
         Canvas->Font->Height = -20;
-        Canvas->Font->Color = LineColor;
+        Canvas->Font->Color = FTools.LineColor;
         Canvas->Brush->Style = bsClear;
-        Canvas->TextOut(P.x, P.y, Text);
+        Canvas->TextOut(P.x, P.y, FTools.Text);
     }
     FinishChange();
 }
@@ -139,9 +143,9 @@ void TDrawing::DrawFreely(const TPoint& From, const TPoint& To)
     TCanvas* Canvas = FPicture->Canvas;
     SetPens(Canvas, 100);
     Canvas->Pen->Style = psSolid;
-    if (Tool == dtBrush)
-        Canvas->Pen->Width = LineWidth * 2 + 4;
-    if (Tool == dtEraser) {
+    if (FTools.Tool == dtBrush)
+        Canvas->Pen->Width = FTools.LineWidth * 2 + 4;
+    if (FTools.Tool == dtEraser) {
         Canvas->Pen->Width = EraserWidth;
         Canvas->Pen->Color = clWhite;
     }
@@ -160,7 +164,7 @@ void TDrawing::DrawShape(TCanvas* Canvas, int Scale) const
     const int X2 = Scaled(FLast.x);
     const int Y2 = Scaled(FLast.y);
     SetPens(Canvas, Scale);
-    switch (Tool) {
+    switch (FTools.Tool) {
     case dtRectangle: Canvas->Rectangle(X1, Y1, X2, Y2); break;
     case dtRoundRectangle: Canvas->RoundRect(X1, Y1, X2, Y2, Scaled(CornerSize), Scaled(CornerSize)); break;
     case dtEllipse: Canvas->Ellipse(X1, Y1, X2, Y2); break;
@@ -191,7 +195,7 @@ void TDrawing::PaperMouseDown(TObject*, TMouseButton Button, TShiftState, int X,
     if (Button != mbLeft)
         return;
     const TPoint P = OnSheet(X, Y);
-    if (Tool >= dtFill && Tool <= dtText) {
+    if (FTools.Tool >= dtFill && FTools.Tool <= dtPickColor) {
         ApplyTool(P);
         return;
     }

@@ -1,29 +1,24 @@
-// TDrawing: a sheet of paper to draw on with the mouse.
+// TDrawing: a sheet of paper to draw on with the mouse. The tools are those of the program: one box for all sheets.
 #pragma once
 
 #include "vcl/extctrls/PaintBox.h"
 #include "vcl/graphics/Bitmap.h"
 
+// In the order of their glyphs.
 enum TDrawingTool {
     dtPencil,
     dtBrush,
     dtEraser,
     dtFill,
-    dtPickColor,
     dtText,
+    dtPickColor,
     dtLine,
     dtRectangle,
     dtRoundRectangle,
     dtEllipse,
 };
 
-using TSharedPicture = std::shared_ptr<TBitmap>;
-
-class TDrawing : public TObject {
-public:
-    // Draws in Paper, which has the size of the sheet and must live as long as the drawing is used.
-    explicit TDrawing(TPaintBox* Paper);
-
+struct TDrawingTools {
     TDrawingTool Tool = dtPencil;
     TColor LineColor = clBlack;
     TColor FillColor = clSkyBlue; // clNone: shapes are not filled
@@ -31,6 +26,14 @@ public:
     int LineWidth = 1; // in pixels of the sheet
     // What the text tool writes.
     AnsiString Text;
+};
+
+using TSharedPicture = std::shared_ptr<TBitmap>;
+
+class TDrawing : public TObject {
+public:
+    // Draws in Paper, which has the size of the sheet. Both must live as long as the drawing is used.
+    TDrawing(TPaintBox* Paper, TDrawingTools& Tools);
 
     // The picture as it is now, at first a sample; it is not changed any more.
     const TSharedPicture& GetPicture() const { return FPicture; }
@@ -52,7 +55,7 @@ private:
     void PaperMouseMove(TObject* Sender, TShiftState Shift, int X, int Y);
     void PaperMouseUp(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
 
-    bool DrawsFreely() const { return Tool <= dtEraser; }
+    bool DrawsFreely() const { return FTools.Tool <= dtEraser; }
     TPoint OnSheet(int X, int Y) const;
     TCanvas* BeginChange();
     void FinishChange();
@@ -62,6 +65,7 @@ private:
     void SetPens(TCanvas* Canvas, int Scale) const;
 
     TPaintBox* FPaper;
+    TDrawingTools& FTools;
     TSize FSheet;
     TSharedPicture FPicture;
     TPoint FStart; // of the stroke, on the sheet

@@ -1,13 +1,16 @@
 #include "demo/Gallery.h"
 
-TGalleryFrame::TGalleryFrame(TComponent* AOwner) : TFrame(AOwner)
+TGalleryForm::TGalleryForm(TComponent* AOwner) : TChildForm(AOwner)
 {
     LoadForm(this);
+    Icon = Application->Icon;
+    SamplesMenu->Banner->Picture->Bitmap->LoadFromResourceName(nullptr, "GALLERY_BANNER");
     CellScroll->Max = CellButton->Glyphs->Cols - 1;
     CellScrollChange(CellScroll);
+    SwitchClick(nullptr);
 }
 
-void TGalleryFrame::Describe(TClassBuilder<TGalleryFrame>& Class)
+void TGalleryForm::Describe(TClassBuilder<TGalleryForm>& Class)
 {
     Class.Field<&Self::Magnifier>("Magnifier");
     Class.Field<&Self::CellLabel>("CellLabel");
@@ -24,26 +27,36 @@ void TGalleryFrame::Describe(TClassBuilder<TGalleryFrame>& Class)
     Class.Field<&Self::CaptionSwitch>("CaptionSwitch");
     Class.Field<&Self::AllUpSwitch>("AllUpSwitch");
     Class.Field<&Self::LayoutLeft>("LayoutLeft");
+    Class.Field<&Self::LayoutRight>("LayoutRight");
+    Class.Field<&Self::LayoutTop>("LayoutTop");
+    Class.Field<&Self::LayoutBottom>("LayoutBottom");
+    Class.Field<&Self::SamplesButton>("SamplesButton");
+    Class.Field<&Self::SamplesMenu>("SamplesMenu");
+    Class.Field<&Self::FlatItem>("FlatItem");
+    Class.Field<&Self::EnabledItem>("EnabledItem");
+    Class.Field<&Self::CaptionItem>("CaptionItem");
+    Class.Field<&Self::AllUpItem>("AllUpItem");
 
     Class.Method<&Self::CellScrollChange>("CellScrollChange");
     Class.Method<&Self::LayoutClick>("LayoutClick");
     Class.Method<&Self::SampleClick>("SampleClick");
     Class.Method<&Self::StepClick>("StepClick");
     Class.Method<&Self::SwitchClick>("SwitchClick");
+    Class.Method<&Self::SwitchItemClick>("SwitchItemClick");
 }
 
-void TGalleryFrame::SampleClick(TObject* Sender)
+void TGalleryForm::SampleClick(TObject* Sender)
 {
     auto* Button = As<TkelSpeedButton>(Sender);
     AnsiString Text = "Clicked: " + GetShortHint(Button->Hint);
     if (Button->GroupIndex != 0)
         Text += Button->Down ? ", now down" : ", now up";
-    OnMessage(Text);
+    Say(Text);
 }
 
 // ---- the glyph strip
 
-void TGalleryFrame::CellScrollChange(TObject*)
+void TGalleryForm::CellScrollChange(TObject*)
 {
     const int Cell = CellScroll->Position;
     CellLabel->Caption = Format("GlyphIndex %d", Cell);
@@ -52,14 +65,20 @@ void TGalleryFrame::CellScrollChange(TObject*)
         Button->GlyphIndex = Cell;
 }
 
-void TGalleryFrame::StepClick(TObject* Sender)
+void TGalleryForm::StepClick(TObject* Sender)
 {
     CellScroll->Position += Sender == NextButton ? 1 : -1;
 }
 
 // ---- samples to try
 
-void TGalleryFrame::SwitchClick(TObject*)
+std::array<TGalleryForm::TSwitch, 4> TGalleryForm::Switches() const
+{
+    return {
+        {{FlatSwitch, FlatItem}, {EnabledSwitch, EnabledItem}, {CaptionSwitch, CaptionItem}, {AllUpSwitch, AllUpItem}}};
+}
+
+void TGalleryForm::SwitchClick(TObject*)
 {
     for (TkelSpeedButton* Sample : {SampleLeft, SampleRight}) {
         Sample->Flat = FlatSwitch->Down;
@@ -67,12 +86,47 @@ void TGalleryFrame::SwitchClick(TObject*)
         Sample->Caption = CaptionSwitch->Down ? GetShortHint(Sample->Hint) : "";
         Sample->AllowAllUp = AllUpSwitch->Down;
     }
+    for (const TSwitch& Switch : Switches())
+        Switch.Item->Checked = Switch.Button->Down;
 }
 
-void TGalleryFrame::LayoutClick(TObject* Sender)
+void TGalleryForm::SwitchItemClick(TObject* Sender)
 {
-    // Each of the layout buttons has its layout as its Tag.
-    const auto Layout = static_cast<TButtonLayout>(As<TComponent>(Sender)->Tag);
+    for (const TSwitch& Switch : Switches())
+        if (Switch.Item == Sender)
+            Switch.Button->Down = !Switch.Button->Down;
+    SwitchClick(Sender);
+}
+
+// Each of the layout buttons has its layout as its Tag.
+void TGalleryForm::LayoutClick(TObject* Sender)
+{
+    auto* Button = As<TkelSpeedButton>(Sender);
+    const auto Layout = static_cast<TButtonLayout>(Button->Tag);
+    Button->Down = true;
     SampleLeft->Layout = Layout;
     SampleRight->Layout = Layout;
+    StateChanged();
+}
+
+void TGalleryForm::Execute(TToolbarGlyph Command)
+{
+    switch (Command) {
+    case tgLayoutLeft: LayoutClick(LayoutLeft); break;
+    case tgLayoutRight: LayoutClick(LayoutRight); break;
+    case tgLayoutTop: LayoutClick(LayoutTop); break;
+    case tgLayoutBottom: LayoutClick(LayoutBottom); break;
+    default: break;
+    }
+}
+
+TCommandState TGalleryForm::StateOf(TToolbarGlyph Command)
+{
+    switch (Command) {
+    case tgLayoutLeft: return {.Down = LayoutLeft->Down};
+    case tgLayoutRight: return {.Down = LayoutRight->Down};
+    case tgLayoutTop: return {.Down = LayoutTop->Down};
+    case tgLayoutBottom: return {.Down = LayoutBottom->Down};
+    default: return {.Enabled = false};
+    }
 }

@@ -1,10 +1,23 @@
-object GalleryFrame: TGalleryFrame
+object GalleryForm: TGalleryForm
   Left = 0
   Top = 0
-  Width = 752
-  Height = 510
   AutoScroll = True
-  TabOrder = 0
+  Caption = 'Gallery'
+  ClientHeight = 510
+  ClientWidth = 752
+  Color = clBtnFace
+  Font.Charset = DEFAULT_CHARSET
+  Font.Color = clWindowText
+  Font.Height = -11
+  Font.Name = 'Tahoma'
+  Font.Style = []
+  FormStyle = fsMDIChild
+  OldCreateOrder = False
+  Position = poDefault
+  ShowHint = True
+  Visible = True
+  PixelsPerInch = 96
+  TextHeight = 13
   object Label1: TLabel
     Left = 12
     Top = 8
@@ -1311,6 +1324,84 @@ object GalleryFrame: TGalleryFrame
       Glyphs = MainForm.LargeGlyphs
       Layout = blGlyphTop
       OnClick = SampleClick
+    end
+  end
+  object GalleryMenu: TkelMDIChildMenuBar
+    Left = 0
+    Top = 0
+    Width = 752
+    Height = 26
+    Caption = 'Gallery menu'
+    AutoSave = False
+    CloseButton = False
+    AllowResize = False
+    AutoMerge = True
+    object SamplesButton: TkelMenuButton
+      Left = 14
+      Top = 2
+      Width = 60
+      Height = 22
+      Caption = '&Samples'
+      Align = alLeft
+      Menu = SamplesMenu
+      MenuGroupIndex = 1
+    end
+  end
+  object SamplesMenu: TkelOfficePopupMenu
+    Banner.BackColor = 269404
+    Banner.Position = mbpRight
+    Glyphs = MainForm.ToolGlyphs
+    Left = 40
+    Top = 460
+    object LookTitle: TMenuItem
+      Caption = '-Look'
+    end
+    object FlatItem: TMenuItem
+      Caption = '&Flat'
+      OnClick = SwitchItemClick
+    end
+    object EnabledItem: TMenuItem
+      Caption = '&Enabled'
+      OnClick = SwitchItemClick
+    end
+    object CaptionItem: TMenuItem
+      Caption = '&Caption'
+      OnClick = SwitchItemClick
+    end
+    object AllUpItem: TMenuItem
+      Caption = '&All up'
+      OnClick = SwitchItemClick
+    end
+    object LayoutTitle: TMenuItem
+      Caption = '-Place of the glyph'
+    end
+    object LeftItem: TMenuItem
+      Tag = 81
+      Caption = '&Left'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object RightItem: TMenuItem
+      Tag = 82
+      Caption = '&Right'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object TopItem: TMenuItem
+      Tag = 83
+      Caption = '&Top'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object BottomItem: TMenuItem
+      Tag = 84
+      Caption = '&Bottom'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
     end
   end
 end

@@ -2,14 +2,15 @@
 #pragma once
 
 #include "common/Tsy_common.h"
-#include "toolbar/Tsy_toolbar.h"
+#include "demo/ChildForm.h"
+#include "menus/Tsy_menus.h"
 #include "vcl/vcl.h"
 
-class TGalleryFrame : public TFrame {
-    VCL_CLASS(TGalleryFrame, TFrame)
+class TGalleryForm : public TChildForm {
+    VCL_CLASS(TGalleryForm, TChildForm)
 public:
     // Its glyphs are those of the form named MainForm, which is there already.
-    explicit TGalleryFrame(TComponent* AOwner);
+    explicit TGalleryForm(TComponent* AOwner);
 
     // The magnifier of the glyph strip.
     TkelImage* Magnifier = nullptr;
@@ -29,16 +30,35 @@ public:
     TkelSpeedButton* CaptionSwitch = nullptr;
     TkelSpeedButton* AllUpSwitch = nullptr;
     TkelSpeedButton* LayoutLeft = nullptr;
+    TkelSpeedButton* LayoutRight = nullptr;
+    TkelSpeedButton* LayoutTop = nullptr;
+    TkelSpeedButton* LayoutBottom = nullptr;
 
-    // One of the buttons was clicked: what there is to say about it.
-    TEvent<void(const AnsiString& Text)> OnMessage;
+    // The menu has the switches once more.
+    TkelMenuButton* SamplesButton = nullptr;
+    TkelOfficePopupMenu* SamplesMenu = nullptr;
+    TMenuItem* FlatItem = nullptr;
+    TMenuItem* EnabledItem = nullptr;
+    TMenuItem* CaptionItem = nullptr;
+    TMenuItem* AllUpItem = nullptr;
+
+    // The layouts of the samples.
+    void Execute(TToolbarGlyph Command) override;
+    TCommandState StateOf(TToolbarGlyph Command) override;
 
 private:
-    friend class TClassBuilder<TGalleryFrame>;
+    friend class TClassBuilder<TGalleryForm>;
+
+    struct TSwitch {
+        TkelSpeedButton* Button;
+        TMenuItem* Item;
+    };
+    std::array<TSwitch, 4> Switches() const;
 
     void CellScrollChange(TObject* Sender);
     void LayoutClick(TObject* Sender);
     void SampleClick(TObject* Sender);
     void StepClick(TObject* Sender);
     void SwitchClick(TObject* Sender);
+    void SwitchItemClick(TObject* Sender);
 };

@@ -4,6 +4,7 @@
 #include "tests/support/WhileMenuOpen.h"
 #include "vcl/controls/Mouse.h"
 #include "vcl/forms/Application.h"
+#include "vcl/forms/Screen.h"
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/graphics/Canvas.h"
 #include "vcl/system/SysUtils.h"
@@ -83,7 +84,7 @@ void TGuide::Begin()
     Application->HintShortPause = NoHints;
     Application->HintHidePause = NoHints;
     FForm->Show();
-    WaitFor("the window to be active", [this] { return FForm->Active; });
+    WaitFor("the window to be active", [] { return Screen->ActiveForm != nullptr; });
     PointAway();
 }
 
@@ -91,6 +92,12 @@ void TGuide::WaitFor(std::string_view What, const std::function<bool()>& Conditi
 {
     if (!PumpUntil(Condition, Patience))
         GiveUp(What);
+}
+
+void TGuide::Expect(bool Condition, std::string_view What)
+{
+    if (!Condition)
+        throw Exception(Format("The tour is wrong about this: %s", What));
 }
 
 // ---- what a user does
@@ -170,7 +177,24 @@ void TGuide::ChooseFromMenuOf(TControl* Control, const TPoint& Place, int Index,
         GiveUp("a menu to close");
 }
 
+void TGuide::GoThroughMenus(std::string_view What, const TScript& Script, const std::function<void()>& Open)
+{
+    Open();
+    WaitFor(What, [&] { return Script.IsDone() && !TWhileMenuOpen::IsOpen(); });
+}
+
+void TGuide::PointAtItem(int Index)
+{
+    SendMove(OpenMenuItem(Index));
+}
+
 // ---- and sees
+
+void TGuide::TakePictureOfMenu(std::string_view Name)
+{
+    DrawInOrder();
+    SavePicture(Name);
+}
 
 void TGuide::TakePicture(std::string_view Name)
 {

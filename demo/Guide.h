@@ -3,6 +3,7 @@
 // Everything that does not come about in time raises an Exception "The tour waits in vain: %s".
 #pragma once
 
+#include "tests/support/Script.h"
 #include "vcl/forms/Form.h"
 
 #include <functional>
@@ -20,6 +21,8 @@ public:
     void Begin();
     // Handles messages until Condition holds. What names it.
     static void WaitFor(std::string_view What, const std::function<bool()>& Condition);
+    // Raises an Exception "The tour is wrong about this: %s" unless Condition holds.
+    static void Expect(bool Condition, std::string_view What);
 
     // ---- what a user does
 
@@ -35,10 +38,16 @@ public:
     void ClickAt(const TPoint& Place, std::string_view What, const std::function<bool()>& Condition);
     // Opens the control's popup menu with the right button, takes a picture and chooses the item at Index.
     void ChooseFromMenuOf(TControl* Control, const TPoint& Place, int Index, std::string_view Picture);
+    // Sends input that opens a menu, follows the script and waits until all menus are closed.
+    void GoThroughMenus(std::string_view What, const TScript& Script, const std::function<void()>& Open);
+    // To an item of the menu that is open. Does not wait.
+    static void PointAtItem(int Index);
 
     // ---- and sees
 
     void TakePicture(std::string_view Name);
+    // While a menu is open. What it shows must have been drawn.
+    void TakePictureOfMenu(std::string_view Name);
     // The next hint shows at once, or no hints any more.
     static void SetHints(bool Showing);
     static void WaitForHint();

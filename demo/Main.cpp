@@ -1,6 +1,24 @@
 #include "demo/Main.h"
 
-TMainForm::TMainForm(TComponent* AOwner) : TForm(AOwner)
+namespace {
+
+// The tools' glyphs are in the order of the tools.
+bool IsTool(TToolbarGlyph Command)
+{
+    return Command >= tgPencil && Command <= tgEllipse;
+}
+
+TDrawingTool ToolOf(TToolbarGlyph Command)
+{
+    return static_cast<TDrawingTool>(Command - tgPencil);
+}
+
+// In the order of the menu items.
+constexpr int LineWidths[] = {1, 2, 4, 8};
+
+} // namespace
+
+TMainForm::TMainForm(TComponent* AOwner) : TCommandForm(AOwner)
 {
     LoadForm(this);
 }
@@ -11,70 +29,58 @@ void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
     Class.Field<&Self::DockLeft>("DockLeft");
     Class.Field<&Self::DockRight>("DockRight");
     Class.Field<&Self::DockBottom>("DockBottom");
+    Class.Field<&Self::MenuBar>("MenuBar");
     Class.Field<&Self::FileBar>("FileBar");
     Class.Field<&Self::EditBar>("EditBar");
     Class.Field<&Self::FormatBar>("FormatBar");
     Class.Field<&Self::ViewBar>("ViewBar");
     Class.Field<&Self::ToolsBar>("ToolsBar");
     Class.Field<&Self::DrawingBar>("DrawingBar");
+    Class.Field<&Self::FileButton>("FileButton");
+    Class.Field<&Self::DrawButton>("DrawButton");
+    Class.Field<&Self::ViewButton>("ViewButton");
+    Class.Field<&Self::WindowButton>("WindowButton");
+    Class.Field<&Self::HelpButton>("HelpButton");
     Class.Field<&Self::CountButton>("CountButton");
     Class.Field<&Self::UndoButton>("UndoButton");
-    Class.Field<&Self::RedoButton>("RedoButton");
-    Class.Field<&Self::BoldButton>("BoldButton");
     Class.Field<&Self::ItalicButton>("ItalicButton");
-    Class.Field<&Self::UnderlineButton>("UnderlineButton");
-    Class.Field<&Self::StrikeoutButton>("StrikeoutButton");
     Class.Field<&Self::AlignLeftButton>("AlignLeftButton");
     Class.Field<&Self::AlignCenterButton>("AlignCenterButton");
     Class.Field<&Self::PencilTool>("PencilTool");
     Class.Field<&Self::EllipseTool>("EllipseTool");
     Class.Field<&Self::DocumentButton>("DocumentButton");
     Class.Field<&Self::GalleryButton>("GalleryButton");
-    Class.Field<&Self::BarsButton>("BarsButton");
     Class.Field<&Self::Separator1>("Separator1");
+    Class.Field<&Self::StyleCombo>("StyleCombo");
+    Class.Field<&Self::TextColorCombo>("TextColorCombo");
+    Class.Field<&Self::PaperColorCombo>("PaperColorCombo");
     Class.Field<&Self::LineColorCombo>("LineColorCombo");
-    Class.Field<&Self::DocumentPage>("DocumentPage");
-    Class.Field<&Self::Memo>("Memo");
-    Class.Field<&Self::Splitter>("Splitter");
-    Class.Field<&Self::DrawingPane>("DrawingPane");
-    Class.Field<&Self::Paper>("Paper");
+    Class.Field<&Self::FillColorCombo>("FillColorCombo");
     Class.Field<&Self::HintText>("HintText");
     Class.Field<&Self::MessageText>("MessageText");
     Class.Field<&Self::ToolGlyphs>("ToolGlyphs");
     Class.Field<&Self::LargeGlyphs>("LargeGlyphs");
-    Class.Field<&Self::BarsMenu>("BarsMenu");
-    Class.Field<&Self::ColorMenu>("ColorMenu");
+    Class.Field<&Self::FileMenu>("FileMenu");
+    Class.Field<&Self::DrawMenu>("DrawMenu");
+    Class.Field<&Self::ViewMenu>("ViewMenu");
+    Class.Field<&Self::WindowMenu>("WindowMenu");
+    Class.Field<&Self::FolderMenu>("FolderMenu");
+    Class.Field<&Self::FoldersTitle>("FoldersTitle");
+    Class.Field<&Self::BarsTitle>("BarsTitle");
+    Class.Field<&Self::WindowsTitle>("WindowsTitle");
 
-    Class.Method<&Self::AboutClick>("AboutClick");
-    Class.Method<&Self::AlignClick>("AlignClick");
-    Class.Method<&Self::BarsMenuPopup>("BarsMenuPopup");
-    Class.Method<&Self::ClearClick>("ClearClick");
     Class.Method<&Self::ColorApply>("ColorApply");
-    Class.Method<&Self::ColorListDown>("ColorListDown");
-    Class.Method<&Self::ColorMenuPopup>("ColorMenuPopup");
-    Class.Method<&Self::CountClick>("CountClick");
-    Class.Method<&Self::DateClick>("DateClick");
-    Class.Method<&Self::EditClick>("EditClick");
-    Class.Method<&Self::ExitClick>("ExitClick");
-    Class.Method<&Self::FindClick>("FindClick");
-    Class.Method<&Self::FontStyleClick>("FontStyleClick");
+    Class.Method<&Self::ColorItemClick>("ColorItemClick");
+    Class.Method<&Self::FolderMenuClickFolder>("FolderMenuClickFolder");
     Class.Method<&Self::FormCreate>("FormCreate");
-    Class.Method<&Self::HistoryClick>("HistoryClick");
+    Class.Method<&Self::FormDestroy>("FormDestroy");
     Class.Method<&Self::LineStyleItemClick>("LineStyleItemClick");
+    Class.Method<&Self::LineStyleOpen>("LineStyleOpen");
     Class.Method<&Self::LineWidthItemClick>("LineWidthItemClick");
-    Class.Method<&Self::MemoChange>("MemoChange");
-    Class.Method<&Self::NewClick>("NewClick");
-    Class.Method<&Self::OpenClick>("OpenClick");
-    Class.Method<&Self::PageClick>("PageClick");
-    Class.Method<&Self::PaneClick>("PaneClick");
-    Class.Method<&Self::PrintClick>("PrintClick");
-    Class.Method<&Self::ProtectClick>("ProtectClick");
-    Class.Method<&Self::SaveClick>("SaveClick");
-    Class.Method<&Self::SizeClick>("SizeClick");
+    Class.Method<&Self::LineWidthOpen>("LineWidthOpen");
     Class.Method<&Self::StyleClick>("StyleClick");
     Class.Method<&Self::StyleItemClick>("StyleItemClick");
-    Class.Method<&Self::ToolClick>("ToolClick");
-    Class.Method<&Self::ZoomClick>("ZoomClick");
+    Class.Method<&Self::StyleOpen>("StyleOpen");
 }
 
 // Before the bars go to their saved places, which they do when their turn to be loaded comes.
@@ -89,12 +95,21 @@ void TMainForm::FormCreate(TObject*)
 {
     ToolGlyphs->LoadBitmapRes(nullptr, "TOOLBAR16");
     ToolGlyphs->Width = 16;
+    FileMenu->Banner->Picture->Bitmap->LoadFromResourceName(nullptr, "BANNER");
+    MenuBar->ShowCaption = false;
+    AddBarItems();
+    FFolders.Load();
+    UpdateFolderItems();
 
-    FDrawing = std::make_unique<TDrawing>(Paper);
-    FDrawing->OnChange = {this, &TMainForm::DrawingChange};
-    FDrawing->OnPick = {this, &TMainForm::ColorPicked};
-    FHistory.Start({Memo->Text, FDrawing->Picture});
     Application->OnHint = {this, &TMainForm::ShowHint};
+    Screen->OnActiveFormChange = {this, &TMainForm::ActiveFormChange};
+    NewDocument()->WindowState = wsMaximized;
+}
+
+void TMainForm::FormDestroy(TObject*)
+{
+    Application->OnHint = nullptr;
+    Screen->OnActiveFormChange = nullptr;
 }
 
 // ---- the status line
@@ -109,67 +124,247 @@ void TMainForm::Say(const AnsiString& Message)
     MessageText->Caption = Message;
 }
 
-// ---- the bars
+// ---- commands
 
-// The items are made anew each time: what they say can have changed.
-void TMainForm::BarsMenuPopup(TObject*)
+void TMainForm::Execute(TToolbarGlyph Command)
 {
-    TMenuItem* Items = BarsMenu->Items;
-    Items->Clear();
-    for (TkelToolBar* Bar : FLayout.Bars()) {
-        Items->Add(
-            NewItem(Bar->Caption, scNone, Bar->Visible, true, {this, &TMainForm::BarItemClick}, 0, "", BarsMenu));
-        Items->Items[Items->Count - 1]->Tag = reinterpret_cast<intptr_t>(Bar);
+    switch (Command) {
+    case tgNew: NewDocument()->Clear(); break;
+    case tgOpen: OpenSaved(); break;
+    case tgStop: Close(); return;
+    case tgDocument: ShowDocument(); break;
+    case tgGallery: ShowGallery(); break;
+    case tgRefresh: ResetLayout(); break;
+    case tgCascade: Cascade(); break;
+    case tgTileWide: TileWindows(tbHorizontal); break;
+    case tgTileHigh: TileWindows(tbVertical); break;
+    case tgArrange: ArrangeIcons(); break;
+    case tgNextWindow: Next(); break;
+    case tgCloseWindow: ActiveMDIChild->Close(); break;
+    case tgAbout: ShowAbout(); break;
+    default:
+        if (IsTool(Command))
+            TakeTool(ToolOf(Command));
+        else if (TChildForm* Child = ActiveChild())
+            Child->Execute(Command);
     }
-    Items->Add(NewLine(BarsMenu));
-    Items->Add(NewItem("Reset layout", scNone, false, true, {this, &TMainForm::ResetItemClick}, 0, "", BarsMenu));
+    UpdateCommands();
 }
 
-void TMainForm::BarItemClick(TObject* Sender)
+TCommandState TMainForm::StateOf(TToolbarGlyph Command)
 {
-    auto* Bar = reinterpret_cast<TkelToolBar*>(As<TMenuItem>(Sender)->Tag);
-    if (Bar->Visible)
-        Bar->HidePanel();
+    TChildForm* Child = FActiveChild;
+    const bool IsDocument = As<TDocumentForm>(Child) != nullptr;
+    switch (Command) {
+    case tgNew:
+    case tgOpen:
+    case tgStop:
+    case tgRefresh:
+    case tgAbout: return {};
+    case tgDocument: return {.Down = IsDocument};
+    case tgGallery: return {.Down = Child && !IsDocument};
+    case tgCascade:
+    case tgTileWide:
+    case tgTileHigh:
+    case tgArrange:
+    case tgNextWindow:
+    case tgCloseWindow: return {.Enabled = Child != nullptr};
+    default: break;
+    }
+    if (IsTool(Command))
+        return {.Enabled = IsDocument, .Down = FTools.Tool == ToolOf(Command)};
+    return Child ? Child->StateOf(Command) : TCommandState{.Enabled = false};
+}
+
+void TMainForm::UpdateCommands()
+{
+    FActiveChild = ActiveChild();
+    for (const TkelToolBar* Bar : FLayout.Bars())
+        for (TControl* Item : Bar->Items())
+            if (auto* Button = As<TkelTBButton>(Item)) {
+                const TCommandState State = StateOf(static_cast<TToolbarGlyph>(Button->GlyphIndex));
+                Button->Enabled = State.Enabled;
+                Button->Down = State.Down;
+            }
+    for (TControl* Combo : {static_cast<TControl*>(StyleCombo), static_cast<TControl*>(TextColorCombo),
+                            static_cast<TControl*>(PaperColorCombo)})
+        Combo->Enabled = As<TDocumentForm>(FActiveChild) != nullptr;
+    UpdateMenus();
+    if (FActiveChild)
+        FActiveChild->UpdateMenus();
+    UpdateWindowItems();
+}
+
+void TMainForm::ActiveFormChange(TObject*)
+{
+    if (ActiveChild() != FActiveChild)
+        UpdateCommands();
+}
+
+void TMainForm::ChildStateChange(TObject* Sender)
+{
+    if (Sender == ActiveMDIChild)
+        UpdateCommands();
+}
+
+void TMainForm::ShowAbout()
+{
+    Application->MessageBox("The showcase of Tessary, a library of components for desktop programs.", "About",
+                            MB_ICONINFORMATION);
+}
+
+// ---- windows
+
+std::vector<TChildForm*> TMainForm::Children() const
+{
+    std::vector<TChildForm*> Found;
+    for (int I = 0; I < ComponentCount; ++I)
+        if (auto* Child = As<TChildForm>(Components[I]); Child && !Child->ComponentState.Contains(csDestroying))
+            Found.push_back(Child);
+    return Found;
+}
+
+template <class T>
+T* TMainForm::FindChild() const
+{
+    for (TChildForm* Child : Children())
+        if (auto* Found = As<T>(Child))
+            return Found;
+    return nullptr;
+}
+
+void TMainForm::OpenChild(TChildForm* Child, const AnsiString& Name)
+{
+    Child->Caption = Name;
+    Child->OnMessage = {this, &TMainForm::Say};
+    Child->OnStateChange = {this, &TMainForm::ChildStateChange};
+    UpdateCommands();
+}
+
+TDocumentForm* TMainForm::NewDocument()
+{
+    auto* Made = new TDocumentForm(this, FTools);
+    Made->OnPick = {this, &TMainForm::DrawingPick};
+    OpenChild(Made, Format("Document %d", ++FDocuments));
+    return Made;
+}
+
+void TMainForm::OpenSaved()
+{
+    if (!TDocumentForm::HasSaved())
+        Say("Nothing was saved yet");
     else
-        Bar->ShowPanel();
-    Say(Bar->Caption + (Bar->Visible ? " is shown" : " is hidden"));
+        NewDocument()->OpenSaved();
 }
 
-void TMainForm::ResetItemClick(TObject*)
+void TMainForm::OpenText(const AnsiString& File)
 {
-    ResetLayout();
-    Say("All bars are in their places");
+    TStringList Text;
+    Text.LoadFromFile(File);
+    TDocumentForm* Made = NewDocument();
+    Made->Clear();
+    Made->SetText(Text.Text);
+    Made->Caption = ExtractFileName(File);
 }
 
-// ---- pages and panes
-
-void TMainForm::PageClick(TObject* Sender)
+void TMainForm::ShowDocument()
 {
-    ShowGallery(Sender == GalleryButton);
+    if (auto* Found = FindChild<TDocumentForm>())
+        Found->Show();
+    else
+        NewDocument();
 }
 
-void TMainForm::ShowGallery(bool Value)
+// There is one; its strip is loaded for the first.
+void TMainForm::ShowGallery()
 {
-    if (Value && !FGallery) {
-        LargeGlyphs->LoadBitmapRes(nullptr, "TOOLBAR24");
-        LargeGlyphs->Width = 24;
-        FGallery = new TGalleryFrame(this);
-        FGallery->OnMessage = {this, &TMainForm::Say};
-        FGallery->Align = alClient;
-        FGallery->Parent = this;
+    if (auto* Found = FindChild<TGalleryForm>()) {
+        Found->Show();
+        return;
     }
-    if (FGallery)
-        FGallery->Visible = Value;
-    DocumentPage->Visible = !Value;
+    LargeGlyphs->LoadBitmapRes(nullptr, "TOOLBAR24");
+    LargeGlyphs->Width = 24;
+    OpenChild(new TGalleryForm(this), "Gallery");
 }
 
-void TMainForm::PaneClick(TObject* Sender)
+void TMainForm::TileWindows(TTileMode Mode)
 {
-    const bool Down = As<TkelSpeedButton>(Sender)->Down;
-    // The splitter finds its place beside the pane.
-    DocumentPage->DisableAlign();
-    DrawingPane->Visible = Down;
-    Splitter->Visible = Down;
-    Splitter->Left = DrawingPane->Left - Splitter->Width;
-    DocumentPage->EnableAlign();
+    TileMode = Mode;
+    Tile();
+}
+
+// ---- the text
+
+void TMainForm::StyleClick(TObject*)
+{
+    if (Document)
+        Document->Style = Document->Style;
+}
+
+void TMainForm::StyleOpen(TObject* Sender)
+{
+    if (Document)
+        CheckOnly(Sender, Document->Style);
+}
+
+void TMainForm::StyleItemClick(TObject* Sender)
+{
+    if (Document)
+        Document->Style = IndexOf(Sender);
+}
+
+// A colour was chosen, or its button clicked to use it once more.
+void TMainForm::ColorApply(TObject* Sender)
+{
+    const auto* Combo = As<TkelColorComboButton>(Sender);
+    switch (Combo->Tag) {
+    case cuLine: FTools.LineColor = Combo->CurrentColor; break;
+    case cuFill: FTools.FillColor = Combo->CurrentColor; break;
+    default:
+        if (Document)
+            Document->SetColor(static_cast<TColorUse>(Combo->Tag), Combo->CurrentColor);
+    }
+}
+
+// The menu of the combo button with the item's glyph opens where the item's own was.
+void TMainForm::ColorItemClick(TObject* Sender)
+{
+    const TPoint Place = DrawButton->DropPoint();
+    for (const TkelTBColorCombo* Combo : {LineColorCombo, FillColorCombo, PaperColorCombo})
+        if (Combo->GlyphIndex + 1 == As<TMenuItem>(Sender)->Tag)
+            Combo->ColorMenu->Popup(Place.X, Place.Y);
+}
+
+// ---- drawing
+
+void TMainForm::TakeTool(TDrawingTool Tool)
+{
+    FTools.Tool = Tool;
+    FTools.Text = Document && !Document->Memo->SelText.empty() ? Document->Memo->SelText : "Text";
+}
+
+void TMainForm::DrawingPick(TObject*)
+{
+    LineColorCombo->CurrentColor = FTools.LineColor;
+}
+
+void TMainForm::LineStyleOpen(TObject* Sender)
+{
+    CheckOnly(Sender, FTools.LineStyle);
+}
+
+void TMainForm::LineStyleItemClick(TObject* Sender)
+{
+    FTools.LineStyle = static_cast<TPenStyle>(IndexOf(Sender));
+}
+
+void TMainForm::LineWidthOpen(TObject* Sender)
+{
+    const auto* Place = std::ranges::find(LineWidths, FTools.LineWidth);
+    CheckOnly(Sender, static_cast<int>(Place - std::begin(LineWidths)));
+}
+
+void TMainForm::LineWidthItemClick(TObject* Sender)
+{
+    FTools.LineWidth = LineWidths[IndexOf(Sender)];
 }

@@ -2,33 +2,95 @@ object MainForm: TMainForm
   Left = 160
   Top = 90
   Caption = 'Tessary showcase'
-  ClientHeight = 644
+  ClientHeight = 670
   ClientWidth = 804
-  Color = clBtnFace
+  Color = clAppWorkSpace
   Font.Charset = DEFAULT_CHARSET
   Font.Color = clWindowText
   Font.Height = -11
   Font.Name = 'Tahoma'
   Font.Style = []
+  FormStyle = fsMDIForm
   OldCreateOrder = False
   ShowHint = True
   OnCreate = FormCreate
+  OnDestroy = FormDestroy
   PixelsPerInch = 96
   TextHeight = 13
   object DockTop: TkelDock
     Left = 0
     Top = 0
     Width = 804
-    Height = 78
+    Height = 104
     Align = alTop
-    PopupMenu = BarsMenu
-    object FileBar: TkelToolBar
+    PopupMenu = ViewMenu
+    object MenuBar: TkelMenuBar
       Left = 0
       Top = 0
+      Width = 804
+      Height = 26
+      Caption = 'Menu'
+      PopupMenu = ViewMenu
+      AutoSave = True
+      CloseButton = True
+      AllowResize = False
+      object FileButton: TkelMenuButton
+        Left = 14
+        Top = 2
+        Width = 36
+        Height = 22
+        Caption = '&File'
+        Align = alLeft
+        Menu = FileMenu
+      end
+      object DrawButton: TkelMenuButton
+        Left = 50
+        Top = 2
+        Width = 44
+        Height = 22
+        Caption = '&Draw'
+        Align = alLeft
+        Menu = DrawMenu
+        MenuGroupIndex = 4
+      end
+      object ViewButton: TkelMenuButton
+        Left = 94
+        Top = 2
+        Width = 42
+        Height = 22
+        Caption = '&View'
+        Align = alLeft
+        Menu = ViewMenu
+        MenuGroupIndex = 5
+      end
+      object WindowButton: TkelMenuButton
+        Left = 136
+        Top = 2
+        Width = 58
+        Height = 22
+        Caption = '&Window'
+        Align = alLeft
+        Menu = WindowMenu
+        MenuGroupIndex = 6
+      end
+      object HelpButton: TkelMenuButton
+        Left = 194
+        Top = 2
+        Width = 40
+        Height = 22
+        Caption = '&Help'
+        Align = alLeft
+        Menu = HelpMenu
+        MenuGroupIndex = 7
+      end
+    end
+    object FileBar: TkelToolBar
+      Left = 0
+      Top = 26
       Width = 216
       Height = 26
       Caption = 'File'
-      PopupMenu = BarsMenu
+      PopupMenu = ViewMenu
       AutoSave = True
       CloseButton = True
       AllowResize = False
@@ -41,7 +103,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 0
         Glyphs = ToolGlyphs
-        OnClick = NewClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object OpenButton: TkelTBButton
@@ -53,7 +115,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 1
         Glyphs = ToolGlyphs
-        OnClick = OpenClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object SaveButton: TkelTBButton
@@ -65,7 +127,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 2
         Glyphs = ToolGlyphs
-        OnClick = SaveClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator1: TkelTBSeparator
@@ -84,7 +146,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 3
         Glyphs = ToolGlyphs
-        OnClick = PrintClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator2: TkelTBSeparator
@@ -105,7 +167,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 47
         Glyphs = ToolGlyphs
-        OnClick = ProtectClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object CountButton: TkelTBButton
@@ -117,7 +179,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 37
         Glyphs = ToolGlyphs
-        OnClick = CountClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator3: TkelTBSeparator
@@ -136,7 +198,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 36
         Glyphs = ToolGlyphs
-        OnClick = AboutClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object ExitButton: TkelTBButton
@@ -148,17 +210,17 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 43
         Glyphs = ToolGlyphs
-        OnClick = ExitClick
+        OnClick = CommandClick
         Align = alLeft
       end
     end
     object EditBar: TkelToolBar
       Left = 0
-      Top = 26
+      Top = 52
       Width = 208
       Height = 26
       Caption = 'Edit'
-      PopupMenu = BarsMenu
+      PopupMenu = ViewMenu
       AutoSave = True
       CloseButton = True
       AllowResize = False
@@ -171,7 +233,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 6
         Glyphs = ToolGlyphs
-        OnClick = EditClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object CopyButton: TkelTBButton
@@ -179,12 +241,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Copy|Copies the selected text to the clipboard'
         Flat = True
         GlyphIndex = 7
         Glyphs = ToolGlyphs
-        OnClick = EditClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object PasteButton: TkelTBButton
@@ -192,12 +253,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 2
         Hint = 'Paste|Puts the text of the clipboard here'
         Flat = True
         GlyphIndex = 8
         Glyphs = ToolGlyphs
-        OnClick = EditClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object DeleteButton: TkelTBButton
@@ -205,12 +265,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 3
         Hint = 'Delete|Deletes the selected text'
         Flat = True
         GlyphIndex = 10
         Glyphs = ToolGlyphs
-        OnClick = EditClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator4: TkelTBSeparator
@@ -225,13 +284,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = -1
         Hint = 'Undo|Takes the last change of text or drawing back'
-        Enabled = False
         Flat = True
         GlyphIndex = 11
         Glyphs = ToolGlyphs
-        OnClick = HistoryClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object RedoButton: TkelTBButton
@@ -239,13 +296,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Redo|Makes the change again'
-        Enabled = False
         Flat = True
         GlyphIndex = 12
         Glyphs = ToolGlyphs
-        OnClick = HistoryClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator5: TkelTBSeparator
@@ -264,7 +319,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 13
         Glyphs = ToolGlyphs
-        OnClick = FindClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object DateButton: TkelTBButton
@@ -276,17 +331,17 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 45
         Glyphs = ToolGlyphs
-        OnClick = DateClick
+        OnClick = CommandClick
         Align = alLeft
       end
     end
     object FormatBar: TkelToolBar
       Left = 0
-      Top = 52
+      Top = 78
       Width = 345
       Height = 26
       Caption = 'Format'
-      PopupMenu = BarsMenu
+      PopupMenu = ViewMenu
       AutoSave = True
       CloseButton = True
       AllowResize = False
@@ -320,7 +375,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 15
         Glyphs = ToolGlyphs
-        OnClick = FontStyleClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object ItalicButton: TkelTBButton
@@ -328,14 +383,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Italic|Slanted letters'
         AllowAllUp = True
         GroupIndex = 2
         Flat = True
         GlyphIndex = 16
         Glyphs = ToolGlyphs
-        OnClick = FontStyleClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object UnderlineButton: TkelTBButton
@@ -343,14 +397,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 2
         Hint = 'Underline|A line below the letters'
         AllowAllUp = True
         GroupIndex = 3
         Flat = True
         GlyphIndex = 17
         Glyphs = ToolGlyphs
-        OnClick = FontStyleClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object StrikeoutButton: TkelTBButton
@@ -358,14 +411,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 3
         Hint = 'Strikeout|A line through the letters'
         AllowAllUp = True
         GroupIndex = 4
         Flat = True
         GlyphIndex = 18
         Glyphs = ToolGlyphs
-        OnClick = FontStyleClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator7: TkelTBSeparator
@@ -386,7 +438,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 21
         Glyphs = ToolGlyphs
-        OnClick = AlignClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object AlignCenterButton: TkelTBButton
@@ -394,13 +446,12 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 2
         Hint = 'Centred|Lines stand in the middle'
         GroupIndex = 5
         Flat = True
         GlyphIndex = 22
         Glyphs = ToolGlyphs
-        OnClick = AlignClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object AlignRightButton: TkelTBButton
@@ -408,13 +459,12 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Right|Lines end at the right'
         GroupIndex = 5
         Flat = True
         GlyphIndex = 23
         Glyphs = ToolGlyphs
-        OnClick = AlignClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator8: TkelTBSeparator
@@ -429,12 +479,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Larger|Larger letters'
         Flat = True
         GlyphIndex = 69
         Glyphs = ToolGlyphs
-        OnClick = SizeClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object SmallerButton: TkelTBButton
@@ -442,12 +491,11 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = -1
         Hint = 'Smaller|Smaller letters'
         Flat = True
         GlyphIndex = 70
         Glyphs = ToolGlyphs
-        OnClick = SizeClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator9: TkelTBSeparator
@@ -467,7 +515,6 @@ object MainForm: TMainForm
         Glyphs = ToolGlyphs
         CurrentColor = clNavy
         OnButtonClick = ColorApply
-        OnListDown = ColorListDown
         OnChange = ColorApply
         Align = alLeft
       end
@@ -482,7 +529,6 @@ object MainForm: TMainForm
         Glyphs = ToolGlyphs
         CurrentColor = clCream
         OnButtonClick = ColorApply
-        OnListDown = ColorListDown
         OnChange = ColorApply
         Align = alLeft
       end
@@ -490,18 +536,18 @@ object MainForm: TMainForm
   end
   object DockLeft: TkelDock
     Left = 0
-    Top = 78
+    Top = 104
     Width = 26
     Height = 512
     Align = alLeft
-    PopupMenu = BarsMenu
+    PopupMenu = ViewMenu
     object ToolsBar: TkelToolBar
       Left = 0
       Top = 0
       Width = 26
       Height = 156
       Caption = 'Tools'
-      PopupMenu = BarsMenu
+      PopupMenu = ViewMenu
       AutoSave = True
       CloseButton = True
       AllowResize = False
@@ -517,7 +563,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 50
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alTop
       end
       object BrushTool: TkelTBButton
@@ -525,14 +571,13 @@ object MainForm: TMainForm
         Top = 36
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Brush|Draws a broad line'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 51
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alTop
       end
       object EraserTool: TkelTBButton
@@ -540,14 +585,13 @@ object MainForm: TMainForm
         Top = 58
         Width = 22
         Height = 22
-        Tag = 2
         Hint = 'Eraser|Makes the paper white again'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 52
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alTop
       end
       object Separator13: TkelTBSeparator
@@ -562,14 +606,13 @@ object MainForm: TMainForm
         Top = 88
         Width = 22
         Height = 22
-        Tag = 3
         Hint = 'Fill|Fills an area with the fill colour'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 53
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alTop
       end
       object PickColorTool: TkelTBButton
@@ -577,14 +620,13 @@ object MainForm: TMainForm
         Top = 110
         Width = 22
         Height = 22
-        Tag = 4
         Hint = 'Pick a colour|Takes the line colour from the drawing'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 55
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alTop
       end
       object TextTool: TkelTBButton
@@ -592,32 +634,31 @@ object MainForm: TMainForm
         Top = 132
         Width = 22
         Height = 22
-        Tag = 5
         Hint = 'Text|Writes the selected text into the drawing'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 54
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alTop
       end
     end
   end
   object DockRight: TkelDock
     Left = 778
-    Top = 78
+    Top = 104
     Width = 26
     Height = 512
     Align = alRight
-    PopupMenu = BarsMenu
+    PopupMenu = ViewMenu
     object ViewBar: TkelToolBar
       Left = 0
       Top = 0
       Width = 26
       Height = 194
       Caption = 'View'
-      PopupMenu = BarsMenu
+      PopupMenu = ViewMenu
       AutoSave = True
       CloseButton = True
       AllowResize = False
@@ -630,7 +671,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 62
         Glyphs = ToolGlyphs
-        Menu = BarsMenu
+        Menu = ViewMenu
         Align = alTop
       end
       object Separator10: TkelTBSeparator
@@ -645,12 +686,11 @@ object MainForm: TMainForm
         Top = 44
         Width = 22
         Height = 22
-        Tag = 1
         Hint = 'Zoom in|Shows text and drawing larger'
         Flat = True
         GlyphIndex = 32
         Glyphs = ToolGlyphs
-        OnClick = ZoomClick
+        OnClick = CommandClick
         Align = alTop
       end
       object ZoomOutButton: TkelTBButton
@@ -658,12 +698,11 @@ object MainForm: TMainForm
         Top = 66
         Width = 22
         Height = 22
-        Tag = -1
         Hint = 'Zoom out|Shows text and drawing smaller'
         Flat = True
         GlyphIndex = 33
         Glyphs = ToolGlyphs
-        OnClick = ZoomClick
+        OnClick = CommandClick
         Align = alTop
       end
       object ZoomPageButton: TkelTBButton
@@ -675,7 +714,7 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 34
         Glyphs = ToolGlyphs
-        OnClick = ZoomClick
+        OnClick = CommandClick
         Align = alTop
       end
       object Separator11: TkelTBSeparator
@@ -691,12 +730,13 @@ object MainForm: TMainForm
         Width = 22
         Height = 22
         Hint = 'Document|Shows the text and the drawing'
+        AllowAllUp = True
         GroupIndex = 1
         Down = True
         Flat = True
         GlyphIndex = 63
         Glyphs = ToolGlyphs
-        OnClick = PageClick
+        OnClick = CommandClick
         Align = alTop
       end
       object GalleryButton: TkelTBButton
@@ -705,11 +745,12 @@ object MainForm: TMainForm
         Width = 22
         Height = 22
         Hint = 'Gallery|Shows panels, labels and buttons'
+        AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 65
         Glyphs = ToolGlyphs
-        OnClick = PageClick
+        OnClick = CommandClick
         Align = alTop
       end
       object Separator12: TkelTBSeparator
@@ -731,25 +772,25 @@ object MainForm: TMainForm
         Flat = True
         GlyphIndex = 64
         Glyphs = ToolGlyphs
-        OnClick = PaneClick
+        OnClick = CommandClick
         Align = alTop
       end
     end
   end
   object DockBottom: TkelDock
     Left = 0
-    Top = 590
+    Top = 616
     Width = 804
     Height = 26
     Align = alBottom
-    PopupMenu = BarsMenu
+    PopupMenu = ViewMenu
     object DrawingBar: TkelToolBar
       Left = 0
       Top = 0
       Width = 260
       Height = 26
       Caption = 'Drawing'
-      PopupMenu = BarsMenu
+      PopupMenu = ViewMenu
       AutoSave = True
       CloseButton = True
       AllowResize = False
@@ -758,14 +799,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 6
         Hint = 'Line|Draws a straight line'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 56
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object RectangleTool: TkelTBButton
@@ -773,14 +813,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 7
         Hint = 'Rectangle|Draws a rectangle'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 57
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object RoundRectangleTool: TkelTBButton
@@ -788,14 +827,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 8
         Hint = 'Rounded rectangle|Draws a rectangle with round corners'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 58
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object EllipseTool: TkelTBButton
@@ -803,14 +841,13 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Tag = 9
         Hint = 'Ellipse|Draws an ellipse'
         AllowAllUp = True
         GroupIndex = 1
         Flat = True
         GlyphIndex = 59
         Glyphs = ToolGlyphs
-        OnClick = ToolClick
+        OnClick = CommandClick
         Align = alLeft
       end
       object Separator14: TkelTBSeparator
@@ -831,7 +868,6 @@ object MainForm: TMainForm
         Glyphs = ToolGlyphs
         CurrentColor = clBlack
         OnButtonClick = ColorApply
-        OnListDown = ColorListDown
         OnChange = ColorApply
         Align = alLeft
       end
@@ -846,7 +882,6 @@ object MainForm: TMainForm
         Glyphs = ToolGlyphs
         CurrentColor = clSkyBlue
         OnButtonClick = ColorApply
-        OnListDown = ColorListDown
         OnChange = ColorApply
         Align = alLeft
       end
@@ -862,7 +897,7 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Hint = 'Line style|Whole, dashed or dotted lines'
+        Hint = 'Line style|Unbroken, dashed or dotted lines'
         Flat = True
         GlyphIndex = 60
         Glyphs = ToolGlyphs
@@ -895,92 +930,16 @@ object MainForm: TMainForm
         Height = 22
         Hint = 'Clear|Starts the drawing anew'
         Flat = True
-        GlyphIndex = 10
+        GlyphIndex = 79
         Glyphs = ToolGlyphs
-        OnClick = ClearClick
+        OnClick = CommandClick
         Align = alLeft
-      end
-    end
-  end
-  object DocumentPage: TkelPanel
-    Left = 26
-    Top = 78
-    Width = 752
-    Height = 512
-    BorderSides = []
-    Transparent = False
-    ShowCaption = False
-    Align = alClient
-    BevelOuter = bvNone
-    TabOrder = 4
-    object Splitter: TSplitter
-      Left = 420
-      Top = 0
-      Width = 4
-      Height = 512
-      Align = alRight
-      ResizeStyle = rsUpdate
-    end
-    object Memo: TMemo
-      Left = 0
-      Top = 0
-      Width = 420
-      Height = 512
-      Align = alClient
-      Font.Charset = DEFAULT_CHARSET
-      Font.Color = clWindowText
-      Font.Height = -16
-      Font.Name = 'Tahoma'
-      Font.Style = []
-      HideSelection = False
-      Lines.Strings = (
-        
-          'This text is here to be worked on. The bars along the edges of t' +
-          'he window act on it, and on the drawing beside it.'
-        ''
-        
-          'Bars are dragged by their grip, by a separator or by whatever of' +
-          ' them is not a button. Along an edge they lie in rows; at the le' +
-          'ft and at the right they stand upright. Off the edges they float' +
-          ' in a frame of their own, and in the frame they are dragged by i' +
-          'ts caption.'
-        ''
-        
-          'A right click on a bar, or on the room beside it, lists all bars' +
-          '. So does the first button of the bar "View". What is hidden com' +
-          'es back there, and the last item puts everything back to where i' +
-          't was at first.'
-        ''
-        
-          'Leave the program and start it again: bars and window are where ' +
-          'they were.')
-      ParentFont = False
-      ScrollBars = ssVertical
-      TabOrder = 0
-      OnChange = MemoChange
-    end
-    object DrawingPane: TScrollBox
-      Left = 424
-      Top = 0
-      Width = 328
-      Height = 512
-      HorzScrollBar.Tracking = True
-      VertScrollBar.Tracking = True
-      Align = alRight
-      Color = clAppWorkSpace
-      ParentColor = False
-      TabOrder = 1
-      object Paper: TPaintBox
-        Left = 8
-        Top = 8
-        Width = 300
-        Height = 400
       end
     end
   end
   object StatusBar: TkelPanel
     Left = 0
-    Top = 616
+    Top = 642
     Width = 804
     Height = 28
     BevelSides = [sdTop]
@@ -989,7 +948,7 @@ object MainForm: TMainForm
     ShowCaption = False
     Align = alBottom
     BorderWidth = 3
-    TabOrder = 5
+    TabOrder = 4
     object HintText: TkelPanel
       Left = 4
       Top = 4
@@ -1023,100 +982,392 @@ object MainForm: TMainForm
   end
   object ToolGlyphs: TkelGlyphs
     Left = 40
-    Top = 504
+    Top = 512
   end
   object LargeGlyphs: TkelGlyphs
     Left = 80
-    Top = 504
+    Top = 512
   end
   object SavePos: TkelSavePos
     Left = 120
-    Top = 504
+    Top = 512
   end
-  object BarsMenu: TPopupMenu
-    OnPopup = BarsMenuPopup
+  object FileMenu: TkelOfficePopupMenu
+    Banner.BackColor = 3741710
+    Banner.PicturePosition = ppBottom
+    Glyphs = ToolGlyphs
     Left = 40
     Top = 552
+    object NewItem: TMenuItem
+      Tag = 1
+      Caption = '&New'
+      ShortCut = 16462
+      OnClick = CommandClick
+    end
+    object OpenItem: TMenuItem
+      Tag = 2
+      Caption = '&Open what was saved'
+      ShortCut = 16463
+      OnClick = CommandClick
+    end
+    object SaveItem: TMenuItem
+      Tag = 3
+      Caption = '&Save'
+      ShortCut = 16467
+      OnClick = CommandClick
+    end
+    object PrintItem: TMenuItem
+      Tag = 4
+      Caption = '&Print'
+      ShortCut = 16464
+      OnClick = CommandClick
+    end
+    object FoldersTitle: TMenuItem
+      Caption = '-Recent folders'
+    end
+    object FileLine: TMenuItem
+      Caption = '-'
+    end
+    object ExitItem: TMenuItem
+      Tag = 44
+      Caption = 'E&xit'
+      ShortCut = 32883
+      OnClick = CommandClick
+    end
   end
-  object ColorMenu: TPopupMenu
-    OnPopup = ColorMenuPopup
+  object DrawMenu: TkelOfficePopupMenu
+    Glyphs = ToolGlyphs
     Left = 80
+    Top = 552
+    object ToolsTitle: TMenuItem
+      Caption = '-Tools'
+    end
+    object PencilItem: TMenuItem
+      Tag = 51
+      Caption = '&Pencil'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object BrushItem: TMenuItem
+      Tag = 52
+      Caption = '&Brush'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object EraserItem: TMenuItem
+      Tag = 53
+      Caption = '&Eraser'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object FillItem: TMenuItem
+      Tag = 54
+      Caption = 'Fi&ll'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object TextItem: TMenuItem
+      Tag = 55
+      Caption = '&Text'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object PickColorItem: TMenuItem
+      Tag = 56
+      Caption = 'Pick a &colour'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object ShapesTitle: TMenuItem
+      Caption = '-Shapes'
+      GroupIndex = 1
+    end
+    object LineItem: TMenuItem
+      Tag = 57
+      Caption = 'L&ine'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object RectangleItem: TMenuItem
+      Tag = 58
+      Caption = '&Rectangle'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object RoundRectangleItem: TMenuItem
+      Tag = 59
+      Caption = 'R&ounded rectangle'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object EllipseItem: TMenuItem
+      Tag = 60
+      Caption = 'Ellip&se'
+      GroupIndex = 1
+      RadioItem = True
+      OnClick = CommandClick
+    end
+    object LinesTitle: TMenuItem
+      Caption = '-Lines and colours'
+      GroupIndex = 1
+    end
+    object WidthItem: TMenuItem
+      Tag = 62
+      Caption = '&Width'
+      GroupIndex = 1
+      OnClick = LineWidthOpen
+      object WidthItem1: TMenuItem
+        Caption = '&1 pixel'
+        OnClick = LineWidthItemClick
+      end
+      object WidthItem2: TMenuItem
+        Caption = '&2 pixels'
+        OnClick = LineWidthItemClick
+      end
+      object WidthItem3: TMenuItem
+        Caption = '&4 pixels'
+        OnClick = LineWidthItemClick
+      end
+      object WidthItem4: TMenuItem
+        Caption = '&8 pixels'
+        OnClick = LineWidthItemClick
+      end
+    end
+    object StyleItem: TMenuItem
+      Tag = 61
+      Caption = 'St&yle'
+      GroupIndex = 1
+      OnClick = LineStyleOpen
+      object DashItem1: TMenuItem
+        Caption = '&Unbroken'
+        OnClick = LineStyleItemClick
+      end
+      object DashItem2: TMenuItem
+        Caption = 'Das&hed'
+        OnClick = LineStyleItemClick
+      end
+      object DashItem3: TMenuItem
+        Caption = '&Dotted'
+        OnClick = LineStyleItemClick
+      end
+    end
+    object LineColorItem: TMenuItem
+      Tag = 51
+      Caption = 'Li&ne colour'
+      GroupIndex = 1
+      OnClick = ColorItemClick
+    end
+    object FillColorItem: TMenuItem
+      Tag = 54
+      Caption = '&Fill colour'
+      GroupIndex = 1
+      OnClick = ColorItemClick
+    end
+    object PaperColorItem: TMenuItem
+      Tag = 68
+      Caption = 'P&aper colour'
+      GroupIndex = 1
+      OnClick = ColorItemClick
+    end
+    object DrawLine: TMenuItem
+      Caption = '-'
+      GroupIndex = 1
+    end
+    object ClearItem: TMenuItem
+      Tag = 80
+      Caption = 'E&mpty the sheet'
+      GroupIndex = 1
+      OnClick = CommandClick
+    end
+  end
+  object ViewMenu: TkelOfficePopupMenu
+    Glyphs = ToolGlyphs
+    Left = 120
+    Top = 552
+    object BarsTitle: TMenuItem
+      Caption = '-Toolbars'
+    end
+    object ViewLine: TMenuItem
+      Caption = '-'
+    end
+    object ResetItem: TMenuItem
+      Tag = 39
+      Caption = '&Reset layout'
+      OnClick = CommandClick
+    end
+    object ZoomTitle: TMenuItem
+      Caption = '-Document'
+    end
+    object ZoomInItem: TMenuItem
+      Tag = 33
+      Caption = 'Zoom &in'
+      OnClick = CommandClick
+    end
+    object ZoomOutItem: TMenuItem
+      Tag = 34
+      Caption = 'Zoom &out'
+      OnClick = CommandClick
+    end
+    object ZoomPageItem: TMenuItem
+      Tag = 35
+      Caption = '&Actual size'
+      OnClick = CommandClick
+    end
+    object DrawingItem: TMenuItem
+      Tag = 65
+      Caption = '&Drawing'
+      RadioItem = True
+      OnClick = CommandClick
+    end
+  end
+  object WindowMenu: TkelOfficePopupMenu
+    Glyphs = ToolGlyphs
+    Left = 160
+    Top = 552
+    object CascadeItem: TMenuItem
+      Tag = 74
+      Caption = '&Cascade'
+      OnClick = CommandClick
+    end
+    object TileWideItem: TMenuItem
+      Tag = 75
+      Caption = '&Tile'
+      OnClick = CommandClick
+    end
+    object TileHighItem: TMenuItem
+      Tag = 76
+      Caption = 'Tile &side by side'
+      OnClick = CommandClick
+    end
+    object ArrangeItem: TMenuItem
+      Tag = 77
+      Caption = '&Arrange icons'
+      OnClick = CommandClick
+    end
+    object WindowLine: TMenuItem
+      Caption = '-'
+    end
+    object NextWindowItem: TMenuItem
+      Tag = 78
+      Caption = '&Next'
+      ShortCut = 16501
+      OnClick = CommandClick
+    end
+    object CloseWindowItem: TMenuItem
+      Tag = 79
+      Caption = 'C&lose'
+      ShortCut = 16499
+      OnClick = CommandClick
+    end
+    object WindowsTitle: TMenuItem
+      Caption = '-Windows'
+    end
+  end
+  object HelpMenu: TkelOfficePopupMenu
+    Glyphs = ToolGlyphs
+    Left = 200
+    Top = 552
+    object DocumentItem: TMenuItem
+      Tag = 64
+      Caption = '&Document'
+      OnClick = CommandClick
+    end
+    object GalleryItem: TMenuItem
+      Tag = 66
+      Caption = '&Gallery'
+      OnClick = CommandClick
+    end
+    object HelpLine: TMenuItem
+      Caption = '-'
+    end
+    object AboutItem: TMenuItem
+      Tag = 37
+      Caption = '&About'
+      ShortCut = 112
+      OnClick = CommandClick
+    end
+  end
+  object FolderMenu: TkelFolderMenu
+    ShowFiles = True
+    SmallIcon = True
+    OnClickFolder = FolderMenuClickFolder
+    Left = 240
     Top = 552
   end
   object StyleMenu: TPopupMenu
-    Left = 120
+    OnPopup = StyleOpen
+    Left = 280
     Top = 552
     object StyleItem1: TMenuItem
       Caption = 'Normal'
-      Checked = True
       RadioItem = True
       OnClick = StyleItemClick
     end
     object StyleItem2: TMenuItem
-      Tag = 1
       Caption = 'Heading'
       RadioItem = True
       OnClick = StyleItemClick
     end
     object StyleItem3: TMenuItem
-      Tag = 2
       Caption = 'Quotation'
       RadioItem = True
       OnClick = StyleItemClick
     end
     object StyleItem4: TMenuItem
-      Tag = 3
       Caption = 'Program'
       RadioItem = True
       OnClick = StyleItemClick
     end
   end
   object LineStyleMenu: TPopupMenu
-    Left = 160
+    OnPopup = LineStyleOpen
+    Left = 320
     Top = 552
     object LineStyleItem1: TMenuItem
-      Caption = 'Whole'
-      Checked = True
+      Caption = 'Unbroken'
       RadioItem = True
       OnClick = LineStyleItemClick
     end
     object LineStyleItem2: TMenuItem
-      Tag = 1
       Caption = 'Dashed'
       RadioItem = True
       OnClick = LineStyleItemClick
     end
     object LineStyleItem3: TMenuItem
-      Tag = 2
       Caption = 'Dotted'
       RadioItem = True
       OnClick = LineStyleItemClick
     end
   end
   object LineWidthMenu: TPopupMenu
-    Left = 200
+    OnPopup = LineWidthOpen
+    Left = 360
     Top = 552
     object LineWidthItem1: TMenuItem
-      Tag = 1
       Caption = '1 pixel'
-      Checked = True
       RadioItem = True
       OnClick = LineWidthItemClick
     end
     object LineWidthItem2: TMenuItem
-      Tag = 2
       Caption = '2 pixels'
       RadioItem = True
       OnClick = LineWidthItemClick
     end
     object LineWidthItem3: TMenuItem
-      Tag = 4
       Caption = '4 pixels'
       RadioItem = True
       OnClick = LineWidthItemClick
     end
     object LineWidthItem4: TMenuItem
-      Tag = 8
       Caption = '8 pixels'
       RadioItem = True
       OnClick = LineWidthItemClick

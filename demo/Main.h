@@ -1,17 +1,18 @@
-// The showcase's window: a small program for texts and drawings, with tool bars that can be dragged anywhere. Main.dfm
-// describes it.
+// The showcase's main window: tool bars that can be dragged anywhere and a menu bar around documents and a gallery.
+// Main.dfm describes it.
+//
+// The bars act on the active window; what they do is described in CommandForm.h.
 #pragma once
 
 #include "common/SavePos.h"
 #include "demo/BarLayout.h"
-#include "demo/Drawing.h"
+#include "demo/Document.h"
 #include "demo/Gallery.h"
-#include "demo/History.h"
-#include "menus/Tsy_menus.h"
-#include "vcl/vcl.h"
+#include "demo/RecentFolders.h"
+#include "toolbar/Tsy_toolbar.h"
 
-class TMainForm : public TForm {
-    VCL_CLASS(TMainForm, TForm)
+class TMainForm : public TCommandForm {
+    VCL_CLASS(TMainForm, TCommandForm)
 public:
     explicit TMainForm(TComponent* AOwner);
 
@@ -20,6 +21,7 @@ public:
     TkelDock* DockLeft = nullptr;
     TkelDock* DockRight = nullptr;
     TkelDock* DockBottom = nullptr;
+    TkelMenuBar* MenuBar = nullptr;
     TkelToolBar* FileBar = nullptr;
     TkelToolBar* EditBar = nullptr;
     TkelToolBar* FormatBar = nullptr;
@@ -28,29 +30,26 @@ public:
     TkelToolBar* DrawingBar = nullptr;
 
     // Items of the bars.
+    TkelMenuButton* FileButton = nullptr;
+    TkelMenuButton* DrawButton = nullptr;
+    TkelMenuButton* ViewButton = nullptr;
+    TkelMenuButton* WindowButton = nullptr;
+    TkelMenuButton* HelpButton = nullptr;
     TkelTBButton* CountButton = nullptr;
     TkelTBButton* UndoButton = nullptr;
-    TkelTBButton* RedoButton = nullptr;
-    TkelTBButton* BoldButton = nullptr;
     TkelTBButton* ItalicButton = nullptr;
-    TkelTBButton* UnderlineButton = nullptr;
-    TkelTBButton* StrikeoutButton = nullptr;
     TkelTBButton* AlignLeftButton = nullptr;
     TkelTBButton* AlignCenterButton = nullptr;
     TkelTBButton* PencilTool = nullptr;
     TkelTBButton* EllipseTool = nullptr;
     TkelTBButton* DocumentButton = nullptr;
     TkelTBButton* GalleryButton = nullptr;
-    TkelTBPopup* BarsButton = nullptr;
     TkelTBSeparator* Separator1 = nullptr;
+    TkelTBComboPopup* StyleCombo = nullptr;
+    TkelTBColorCombo* TextColorCombo = nullptr;
+    TkelTBColorCombo* PaperColorCombo = nullptr;
     TkelTBColorCombo* LineColorCombo = nullptr;
-
-    // What the commands act on.
-    TkelPanel* DocumentPage = nullptr;
-    TMemo* Memo = nullptr;
-    TSplitter* Splitter = nullptr;
-    TScrollBox* DrawingPane = nullptr;
-    TPaintBox* Paper = nullptr;
+    TkelTBColorCombo* FillColorCombo = nullptr;
 
     // The hint of what the pointer is on, and what was done last.
     TkelPanel* HintText = nullptr;
@@ -58,15 +57,25 @@ public:
 
     TkelGlyphs* ToolGlyphs = nullptr;
     TkelGlyphs* LargeGlyphs = nullptr;
-    TPopupMenu* BarsMenu = nullptr;
-    TPopupMenu* ColorMenu = nullptr;
+    TkelOfficePopupMenu* FileMenu = nullptr;
+    TkelOfficePopupMenu* DrawMenu = nullptr;
+    TkelOfficePopupMenu* ViewMenu = nullptr;
+    TkelOfficePopupMenu* WindowMenu = nullptr;
+    TkelFolderMenu* FolderMenu = nullptr;
+    TMenuItem* FoldersTitle = nullptr;
+    TMenuItem* BarsTitle = nullptr;
+    TMenuItem* WindowsTitle = nullptr;
 
-    // Shows the gallery in place of the document; it is made when it is shown for the first time.
-    void ShowGallery(bool Value);
-    TGalleryFrame* GetGallery() const { return FGallery; }
-    PROPERTY_READ(TGalleryFrame*, Gallery);
+    void Execute(TToolbarGlyph Command) override;
+    TCommandState StateOf(TToolbarGlyph Command) override;
+
+    // The active window, as what it is; else nullptr.
+    TDocumentForm* GetDocument() const { return As<TDocumentForm>(ActiveMDIChild); }
+    PROPERTY_READ(TDocumentForm*, Document);
+    TGalleryForm* GetGallery() const { return As<TGalleryForm>(ActiveMDIChild); }
+    PROPERTY_READ(TGalleryForm*, Gallery);
     // All bars where they are in the form file.
-    void ResetLayout() { FLayout.Reset(); }
+    void ResetLayout();
 
 protected:
     void Loaded() override;
@@ -74,58 +83,60 @@ protected:
 private:
     friend class TClassBuilder<TMainForm>;
 
-    void AboutClick(TObject* Sender);
-    void AlignClick(TObject* Sender);
-    void BarsMenuPopup(TObject* Sender);
-    void ClearClick(TObject* Sender);
     void ColorApply(TObject* Sender);
-    void ColorListDown(TObject* Sender);
-    void ColorMenuPopup(TObject* Sender);
-    void CountClick(TObject* Sender);
-    void DateClick(TObject* Sender);
-    void EditClick(TObject* Sender);
-    void ExitClick(TObject* Sender);
-    void FindClick(TObject* Sender);
-    void FontStyleClick(TObject* Sender);
+    void ColorItemClick(TObject* Sender);
     void FormCreate(TObject* Sender);
-    void HistoryClick(TObject* Sender);
+    void FormDestroy(TObject* Sender);
+    void LineStyleOpen(TObject* Sender);
+    void LineWidthOpen(TObject* Sender);
     void LineStyleItemClick(TObject* Sender);
     void LineWidthItemClick(TObject* Sender);
-    void MemoChange(TObject* Sender);
-    void NewClick(TObject* Sender);
-    void OpenClick(TObject* Sender);
-    void PageClick(TObject* Sender);
-    void PaneClick(TObject* Sender);
-    void PrintClick(TObject* Sender);
-    void ProtectClick(TObject* Sender);
-    void SaveClick(TObject* Sender);
-    void SizeClick(TObject* Sender);
     void StyleClick(TObject* Sender);
     void StyleItemClick(TObject* Sender);
-    void ToolClick(TObject* Sender);
-    void ZoomClick(TObject* Sender);
+    void StyleOpen(TObject* Sender);
 
+    // Items that the program adds to the menus.
     void BarItemClick(TObject* Sender);
-    void ColorItemClick(TObject* Sender);
-    void ColorPicked(TObject* Sender);
-    void DrawingChange(TObject* Sender);
-    void ResetItemClick(TObject* Sender);
+    void FolderItemClick(TObject* Sender);
+    void FolderMenuClickFolder(TObject* Sender, AnsiString Path);
+    void WindowItemClick(TObject* Sender);
+    void BarShown(TObject* Sender);
+    void BarHidden(TObject* Sender);
+    std::vector<TkelToolBar*> ToolBars() const;
+    void AddBarItems();
+    void CheckBarItem(TObject* Bar, bool Value);
+    void UpdateFolderItems();
+    void UpdateWindowItems();
+
+    void ActiveFormChange(TObject* Sender);
+    void ChildStateChange(TObject* Sender);
+    void DrawingPick(TObject* Sender);
     void ShowHint(TObject* Sender);
 
+    TChildForm* ActiveChild() const { return As<TChildForm>(ActiveMDIChild); }
+    // In the order in which they were opened.
+    std::vector<TChildForm*> Children() const;
+    template <class T>
+    T* FindChild() const;
+    void OpenChild(TChildForm* Child, const AnsiString& Name);
+    TDocumentForm* NewDocument();
+    void OpenSaved();
+    void OpenText(const AnsiString& File);
+    void ShowDocument();
+    void ShowGallery();
+    void TileWindows(TTileMode Mode);
+    void TakeTool(TDrawingTool Tool);
+    void ShowAbout();
+
     void Say(const AnsiString& Message);
-    // The document changed, or went to another state.
-    void Record();
-    void UpdateHistoryButtons();
-    void Replace(const TDocumentState& State);
-    void ApplyStyle(int Index);
-    void ApplyZoom();
+    // What buttons and menus show: after everything that may have changed it.
+    void UpdateCommands();
 
     TBarLayout FLayout;
-    std::unique_ptr<TDrawing> FDrawing;
-    THistory FHistory;
-    TGalleryFrame* FGallery = nullptr;
-    int FStyle = 0;
-    int FTextHeight = 16; // in pixels, before zooming
-    int FZoom = 100;      // in per cent
-    bool FReplacing = false;
+    TDrawingTools FTools;
+    TRecentFolders FFolders;
+    // The active window as UpdateCommands last found it: asking the system each time would take long. It may be gone
+    // since.
+    TChildForm* FActiveChild = nullptr;
+    int FDocuments = 0; // opened so far
 };

@@ -1,11 +1,16 @@
 // The showcase: a program with what the library has, and a tour of it.
 //
 //     demo                     shows the window
+//
 //     demo --tour FOLDER       leads the pointer over it and saves pictures NN-name.bmp; starts itself for the last
-//     ones demo --restored FOLDER N the second half of the tour, after N pictures demo --startup           prints how
-//     long it took from the start of the process to the first painted window, in
-//                              microseconds
+//     ones
+//
+//     demo --restored FOLDER N is the second half of the tour, after N pictures
+//
+//     demo --startup           prints how many microseconds it took from the start of the process to the first painted
+//                              window
 #include "demo/Main.h"
+#include "demo/MenuTour.h"
 #include "demo/Tour.h"
 #include "vcl/registry/RegIniFile.h"
 
@@ -68,6 +73,7 @@ void Leave(TMainForm* Form)
 void RunTour(const AnsiString& Folder)
 {
     TRegIniFile("Software\\Halvent").EraseSection(TourTitle);
+    TMenuTour::MakeFolder();
     TMainForm* Form = nullptr;
     Application->CreateForm(&Form);
     const int Taken = TTour(Form, Folder, 0).FirstRun();

@@ -1,6 +1,7 @@
 #include "demo/Tour.h"
 
 #include "demo/Main.h"
+#include "demo/MenuTour.h"
 #include "glyphs/toolbar16.h"
 #include "toolbar/Flpfrm97.h"
 
@@ -8,12 +9,6 @@ namespace {
 
 constexpr int RowHeight = 26;     // of a bar
 constexpr int CaptionMiddle = 10; // above the inside of a floating frame
-
-void Expect(bool Condition, std::string_view What)
-{
-    if (!Condition)
-        throw Exception(Format("The tour is wrong about this: %s", What));
-}
 
 // A place on the screen that lies X and Y from the control's upper left corner.
 TPoint PlaceIn(const TControl* Control, int X, int Y)
@@ -64,9 +59,9 @@ void TTour::ShowButtons()
 
     FGuide.Click(FForm->ItalicButton);
     FGuide.WaitFor("a latched button", [this] { return FForm->ItalicButton->Down; });
-    Expect(FForm->Memo->Font->Style.Contains(fsItalic), "the text is italic");
+    TGuide::Expect(FForm->Document->Memo->Font->Style.Contains(fsItalic), "the text is italic");
     FGuide.Click(FForm->AlignCenterButton);
-    FGuide.WaitFor("the other button of the group", [this] { return FForm->Memo->Alignment == taCenter; });
+    FGuide.WaitFor("the other button of the group", [this] { return FForm->Document->Memo->Alignment == taCenter; });
     FGuide.TakePicture("latched");
     FGuide.Click(FForm->ItalicButton);
     FGuide.Click(FForm->AlignLeftButton);
@@ -76,20 +71,20 @@ void TTour::ShowDrawing()
 {
     FGuide.Click(FForm->EllipseTool);
     FGuide.WaitFor("the tool of the other bar to come up", [this] { return !FForm->PencilTool->Down; });
-    FGuide.PointAt(FForm->Paper);
+    FGuide.PointAt(FForm->Document->Paper);
     FGuide.Press();
-    FGuide.DragTo(PlaceIn(FForm->Paper, 250, 350), "the pointer", [] { return true; });
+    FGuide.DragTo(PlaceIn(FForm->Document->Paper, 250, 350), "the pointer", [] { return true; });
     FGuide.TakePicture("drawing");
-    Expect(!FForm->UndoButton->Enabled, "a stroke counts when it is done");
+    TGuide::Expect(!FForm->UndoButton->Enabled, "a stroke counts when it is done");
     FGuide.Release();
-    Expect(FForm->UndoButton->Enabled, "a stroke can be undone");
+    TGuide::Expect(FForm->UndoButton->Enabled, "a stroke can be undone");
 }
 
 void TTour::ShowGallery()
 {
     FGuide.Click(FForm->GalleryButton);
     FGuide.WaitFor("the gallery", [this] { return FForm->Gallery && FForm->Gallery->Showing; });
-    TGalleryFrame* Gallery = FForm->Gallery;
+    TGalleryForm* Gallery = FForm->Gallery;
     const int Cell = tgSpelling;
     for (int Step = 0; Step < Cell; ++Step)
         FGuide.Click(Gallery->NextButton);
@@ -107,7 +102,7 @@ void TTour::ShowGallery()
     FGuide.WaitFor("disabled samples", [&] { return !Gallery->SampleLeft->Enabled; });
     FGuide.TakePicture("disabled-samples");
     FGuide.Click(FForm->DocumentButton);
-    FGuide.WaitFor("the document", [this] { return FForm->Memo->Showing; });
+    FGuide.WaitFor("the document", [this] { return FForm->Document != nullptr; });
 }
 
 // A bar goes into the row of another, slides along it, and changes places with the other.
@@ -120,12 +115,12 @@ void TTour::ShowRows()
     };
     FGuide.PointAt(Edit->DragBox);
     FGuide.Press();
-    DragTo(300, RowHeight + 10, "a bar to slide", [&] { return Edit->Left > 250; });
-    DragTo(300, 10, "a bar to join the row above", [&] { return Edit->Top == 0; });
-    Expect(FForm->DockTop->Height == 2 * RowHeight, "a row that is empty is gone");
-    DragTo(400, 10, "a bar to slide in its new row", [&] { return Edit->Left > 350; });
+    DragTo(300, 2 * RowHeight + 10, "a bar to slide", [&] { return Edit->Left > 250; });
+    DragTo(300, RowHeight + 10, "a bar to join the row above", [&] { return Edit->Top == RowHeight; });
+    TGuide::Expect(FForm->DockTop->Height == 3 * RowHeight, "a row that is empty is gone");
+    DragTo(400, RowHeight + 10, "a bar to slide in its new row", [&] { return Edit->Left > 350; });
     FGuide.TakePicture("sliding");
-    DragTo(8, 20, "bars to change places", [&] { return File->Left >= Edit->Left + Edit->Width; });
+    DragTo(8, RowHeight + 20, "bars to change places", [&] { return File->Left >= Edit->Left + Edit->Width; });
     FGuide.TakePicture("trading-places");
     FGuide.Release();
 }
@@ -136,7 +131,7 @@ void TTour::ShowTurning()
     FGuide.PointAt(Edit->DragBox);
     FGuide.Press();
     FGuide.DragTo(PlaceIn(FForm->DockLeft, 12, 200), "a bar to turn", [&] { return Edit->Parent == FForm->DockLeft; });
-    Expect(Edit->Height > Edit->Width, "a bar at the left stands upright");
+    TGuide::Expect(Edit->Height > Edit->Width, "a bar at the left stands upright");
     FGuide.TakePicture("vertical");
     FGuide.Release();
 }
@@ -147,8 +142,8 @@ void TTour::ShowFloating()
     FGuide.PointAt(Drawing->DragBox);
     FGuide.Press();
     FGuide.DragTo(PlaceIn(FForm->DockBottom, 140, 13), "a bar to slide", [&] { return Drawing->Left > 100; });
-    FGuide.DragTo(PlaceIn(FForm->Memo, 100, 340), "a bar to float", [&] { return Drawing->Floating; });
-    Expect(FForm->DockBottom->Height == 0, "a dock without bars takes no room");
+    FGuide.DragTo(PlaceIn(FForm->Document->Memo, 100, 340), "a bar to float", [&] { return Drawing->Floating; });
+    TGuide::Expect(FForm->DockBottom->Height == 0, "a dock without bars takes no room");
     FGuide.TakePicture("floating");
     FGuide.Release();
 }
@@ -161,11 +156,11 @@ void TTour::ShowHiding()
     const TPoint CloseBox(Frame->Left + Frame->Width - CaptionMiddle - 2, Frame->Top + CaptionMiddle + 2);
     FGuide.ClickAt(CloseBox, "a bar to be hidden by its close box", [&] { return !Drawing->Visible; });
     const TPoint OnSeparator(FForm->Separator1->Width / 2, FForm->Separator1->Height / 2);
-    FGuide.ChooseFromMenuOf(FForm->Separator1, OnSeparator, 5, "hidden");
+    FGuide.ChooseFromMenuOf(FForm->Separator1, OnSeparator, 6, "hidden");
     FGuide.WaitFor("a bar to be shown", [&] { return Drawing->Visible; });
-    Expect(Drawing->Floating, "a bar comes back where it was");
+    TGuide::Expect(Drawing->Floating, "a bar comes back where it was");
 
-    FGuide.ChooseFromMenuOf(FForm->DockTop, {600, RowHeight / 2}, 0, "menu");
+    FGuide.ChooseFromMenuOf(FForm->DockTop, {600, 3 * RowHeight / 2}, 1, "menu");
     FGuide.WaitFor("a bar to be hidden", [this] { return !FForm->FileBar->Visible; });
 }
 
@@ -176,23 +171,26 @@ void TTour::DockByCaption(TkelToolBar* Bar, TkelDock* Dock)
     FGuide.Press();
     FGuide.DragTo(PlaceIn(Dock, 100, -2 * CaptionMiddle), "a bar to be docked", [&] { return !Bar->Floating; });
     FGuide.Release();
-    Expect(LiesIn(Bar, Dock, 0) && Dock->Height == RowHeight, "a dock has room for its bar");
+    TGuide::Expect(LiesIn(Bar, Dock, 0) && Dock->Height == RowHeight, "a dock has room for its bar");
 }
 
 void TTour::SecondRun()
 {
     FGuide.Begin();
     FGuide.TakePicture("restored");
-    Expect(!FForm->FileBar->Visible, "a hidden bar stays hidden");
-    Expect(FForm->EditBar->Parent == FForm->DockLeft, "a bar comes back to the dock it was in");
-    Expect(FForm->DrawingBar->Floating, "a floating bar floats again");
+    TGuide::Expect(!FForm->FileBar->Visible, "a hidden bar stays hidden");
+    TGuide::Expect(FForm->EditBar->Parent == FForm->DockLeft, "a bar comes back to the dock it was in");
+    TGuide::Expect(FForm->DrawingBar->Floating, "a floating bar floats again");
     DockByCaption(FForm->DrawingBar, FForm->DockBottom);
 
     FForm->ResetLayout();
     FGuide.TakePicture("reset");
-    Expect(LiesIn(FForm->FileBar, FForm->DockTop, 0), "the first row is that of the form file");
-    Expect(LiesIn(FForm->EditBar, FForm->DockTop, RowHeight), "so is the second");
-    Expect(LiesIn(FForm->FormatBar, FForm->DockTop, 2 * RowHeight), "and the third");
-    Expect(LiesIn(FForm->DrawingBar, FForm->DockBottom, 0), "a bar that floated is back in its dock");
-    Expect(FForm->DockTop->Height == 3 * RowHeight && FForm->DockLeft->Width == RowHeight, "docks fit their rows");
+    TGuide::Expect(LiesIn(FForm->MenuBar, FForm->DockTop, 0), "the first row is that of the form file");
+    TGuide::Expect(LiesIn(FForm->FileBar, FForm->DockTop, RowHeight), "so is the second");
+    TGuide::Expect(LiesIn(FForm->EditBar, FForm->DockTop, 2 * RowHeight), "and the third");
+    TGuide::Expect(LiesIn(FForm->FormatBar, FForm->DockTop, 3 * RowHeight), "and the fourth");
+    TGuide::Expect(LiesIn(FForm->DrawingBar, FForm->DockBottom, 0), "a bar that floated is back in its dock");
+    TGuide::Expect(FForm->DockTop->Height == 4 * RowHeight && FForm->DockLeft->Width == RowHeight,
+                   "docks fit their rows");
+    TMenuTour(FForm, FGuide).Run();
 }
