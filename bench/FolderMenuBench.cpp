@@ -1,53 +1,22 @@
 // folder_menu: from the popup of a folder menu with 1,000 files until the items that fit on the screen are drawn,
 // against going through the folder and asking the shell for the icons of those items.
-#include "bench/Bench.h"
+#include "bench/MenuTimer.h"
 #include "menus/FolderMenu.h"
 #include "tests/support/TestFolder.h"
-#include "vcl/menus/PopupList.h"
 
 namespace {
 
-// Closes itself when it is drawn.
-class TTimedMenu : public TkelFolderMenu {
-public:
-    TTimedMenu() : TkelFolderMenu(nullptr) { PopupList->AddListener({this, &TTimedMenu::Listen}); }
-    ~TTimedMenu() override { PopupList->RemoveListener({this, &TTimedMenu::Listen}); }
+// The entries that have been drawn.
+std::vector<AnsiString> Visible(TkelFolderMenu& Menu)
+{
+    std::vector<AnsiString> Paths;
+    for (int I = 0; I < Menu.Items->Count; ++I)
+        if (Menu.Items->Items[I]->Tag != 0 || I == 0)
+            Paths.push_back(Menu.Items->Items[I]->Caption);
+    return Paths;
+}
 
-    double Time()
-    {
-        FTime = 0;
-        FWatch = TStopwatch();
-        Popup(10, 10);
-        if (FTime == 0)
-            throw Exception("folder_menu: the menu does not open");
-        return FTime;
-    }
-    // That have been drawn.
-    std::vector<AnsiString> Visible() const
-    {
-        std::vector<AnsiString> Paths;
-        for (int I = 0; I < Items->Count; ++I)
-            if (Items->Items[I]->Tag != 0 || I == 0)
-                Paths.push_back(Items->Items[I]->Caption);
-        return Paths;
-    }
-
-private:
-    bool Listen(TMessage& Message)
-    {
-        // The menu has nothing left to do.
-        if (Message.Msg != WM_ENTERIDLE || FTime != 0)
-            return false;
-        FTime = FWatch.Microseconds();
-        EndMenu();
-        return true;
-    }
-
-    TStopwatch FWatch;
-    double FTime = 0;
-};
-
-double Ask(const AnsiString& Folder, const std::vector<AnsiString>& Visible)
+double Ask(const AnsiString& Folder, const std::vector<AnsiString>& Paths)
 {
     TStopwatch Watch;
     WIN32_FIND_DATAW Data;
@@ -55,7 +24,7 @@ double Ask(const AnsiString& Folder, const std::vector<AnsiString>& Visible)
     while (FindNextFileW(Search, &Data)) {
     }
     FindClose(Search);
-    for (const AnsiString& Path : Visible) {
+    for (const AnsiString& Path : Paths) {
         SHFILEINFOW Info{};
         SHGetFileInfoW(TWideText(Path).c_str(), 0, &Info, sizeof Info, SHGFI_ICON);
         DestroyIcon(Info.hIcon);
@@ -70,10 +39,12 @@ void FolderMenuBench()
     const TTestFolder Folder;
     for (int I = 0; I < 1000; ++I)
         Folder.AddFile(Format("Report %.4d%s", I, I % 2 ? ".txt" : ".bmp"));
-    TTimedMenu Menu;
+    TkelFolderMenu Menu(nullptr);
     Menu.Folder = Folder.Path();
-    Menu.Time();
-    const std::vector<AnsiString> Visible = Menu.Visible();
-    const TMeasure Measure = Compare([&] { return Menu.Time(); }, [&] { return Ask(Folder.Path(), Visible); }, 15);
+    TMenuTimer Timer;
+    const auto Open = [&] { return Timer.Time([&] { Menu.Popup(10, 10); }); };
+    Open();
+    const std::vector<AnsiString> Drawn = Visible(Menu);
+    const TMeasure Measure = Compare(Open, [&] { return Ask(Folder.Path(), Drawn); }, 15);
     PrintFigure("folder_menu", Measure.Value / 1000, "ms", Measure.Baseline / 1000);
 }

@@ -65,6 +65,8 @@ int TFolderIcons::Add(TIcon* Icon)
 
 int TFolderIcons::AddFile(const AnsiString& Path)
 {
+    if (!FComUse)
+        FComUse.emplace();
     if (IsShortcut(Path))
         return Add(std::unique_ptr<TIcon>(FileIcon(Path, Size() == Small)).get());
     SHFILEINFOW Info{};

@@ -4,6 +4,7 @@
 #include "vcl/graphics/ImageList.h"
 
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -30,7 +31,7 @@ public:
     static TIcon* FileIcon(const AnsiString& Path, bool IsSmall);
 
 private:
-    // The extensions of the shell need it. Kept, as it is slow to come.
+    // The extensions of the shell need it.
     class TComUse {
     public:
         TComUse() : FHasCom(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
@@ -50,7 +51,7 @@ private:
     // bitmaps.
     static constexpr int StripLength = 32;
 
-    TComUse FComUse;
+    std::optional<TComUse> FComUse;           // from the first file on, as it is slow to come
     std::unique_ptr<TImageList> FList;        // the cells
     std::vector<TMaskedImage> FStrips;        // the cells as they are drawn, one below the other
     std::vector<int> FCells;                  // of the icons: files of one kind share theirs
