@@ -63,8 +63,8 @@ void TMenuTour::MakeFolder()
     for (const char* Name : {"To a friend.txt", LetterName, "To the landlord.txt"})
         Text.SaveToFile(Folder + FolderName + "\\" + Name);
     TRecentFolders Recent;
-    Recent.Load();
-    Recent.Add(Folder);
+    for (const AnsiString& Known : {AnsiString("C:\\"), Folder})
+        Recent.Add(Known);
 }
 
 void TMenuTour::Run()
@@ -185,9 +185,12 @@ void TMenuTour::ShowWindows()
 {
     SendKey('N', {ssCtrl});
     FGuide.WaitFor("a third document", [this] { return FForm->MDIChildCount == 3; });
+    OpenByLetter('W', FForm->WindowButton, '1');
+    FGuide.WaitFor("the first document", [this] { return FForm->Document->Caption == "Document 1"; });
     OpenByLetter('W', FForm->WindowButton, 'C');
     FGuide.WaitFor("no maximized document", [this] { return FForm->ActiveMDIChild->WindowState == wsNormal; });
     FGuide.WaitFor("no icon", [this] { return !FForm->MenuBar->IconPanel()->Visible; });
+    FGuide.PointAway();
     FGuide.TakePicture("cascaded");
 
     const TForm* Before = FForm->ActiveMDIChild;
