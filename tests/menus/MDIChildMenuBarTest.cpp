@@ -9,6 +9,7 @@
 #include "vcl/system/Format.h"
 
 #include <gmock/gmock.h>
+#include <random>
 
 using testing::ElementsAre;
 
@@ -483,4 +484,80 @@ TEST_F(MDIChildMenuBarTest, AChildMayGoWhileItsMenuIsOpen)
     ClickToOpen(Child->Edit());
     EXPECT_TRUE(Script.IsDone());
     EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&View", "&Help"));
+}
+
+// ---- all of it, at random
+
+// A hand that knows no rules: keys, the pointer on buttons and in menus, children that come and go.
+TEST_F(MDIChildMenuBarTest, ARandomSessionEndsIdle)
+{
+    constexpr int Actions = 300;
+    std::mt19937 Random(4);
+    const auto Below = [&](size_t Count) { return static_cast<size_t>(Random() % Count); };
+    int Chosen = 0;
+    const auto Choose = [&](TObject*) {
+        if (++Chosen % 3 == 0 && Main->MDIChildCount < 4)
+            new TMdiChild(Main, {.EditGroup = static_cast<int>(Below(7)), .TextGroup = static_cast<int>(Below(7))});
+        else if (Chosen % 4 == 0 && Main->ActiveMDIChild)
+            Main->ActiveMDIChild->Close();
+    };
+    const auto SetHandlers = [&](TForm* Form) {
+        for (int I = 0; I < Form->ComponentCount; ++I)
+            if (auto* Item = As<TMenuItem>(Form->Components[I]))
+                Item->OnClick = Choose;
+    };
+    const auto RandomButton = [&]() -> TkelMenuButton* {
+        std::vector<TkelMenuButton*> Buttons;
+        for (TControl* Item : Bar->Items())
+            if (auto* Button = As<TkelMenuButton>(Item))
+                Buttons.push_back(Button);
+        return Buttons[Below(Buttons.size())];
+    };
+    const std::vector<std::function<void()>> Kinds = {
+        [&] {
+            constexpr uint16_t Keys[] = {VK_MENU, VK_F10, VK_LEFT,   VK_RIGHT, VK_DOWN, VK_UP,
+                                         'O',     'Z',    VK_ESCAPE, 'C',      'B',     VK_RETURN};
+            SendKey(Keys[Below(std::size(Keys))]);
+        },
+        [&] {
+            constexpr uint16_t Keys[] = {'F', 'V', 'H', 'E', 'T'};
+            SendKey(Keys[Below(std::size(Keys))], {ssAlt});
+        },
+        [&] {
+            constexpr uint16_t Keys[] = {VK_F6, 'O', 'K'};
+            SendKey(Keys[Below(std::size(Keys))], {ssCtrl});
+        },
+        [&] { PointTo(RandomButton())(); },
+        [&] {
+            PointTo(RandomButton())();
+            SendButton(mbLeft, true);
+            SendButton(mbLeft, false);
+        },
+        [&] {
+            SendMove(RandomButton()->ClientToScreen({20, 35}));
+            SendButton(mbLeft, true);
+            SendButton(mbLeft, false);
+        },
+    };
+    NewChild();
+    NewChild();
+    for (int I = 0; I < Actions; ++I)
+        Script.When([] { return true; },
+                    [&] {
+                        SetHandlers(Main);
+                        for (int J = 0; J < Main->MDIChildCount; ++J)
+                            SetHandlers(Main->MDIChildren[J]);
+                        Kinds[Below(Kinds.size())]();
+                    });
+    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone(); }, 60000)) << Script.StepsDone();
+    for (int I = 0; I < 3; ++I)
+        TypeKey(VK_ESCAPE);
+    EXPECT_TRUE(PumpUntil([&] { return !TMenuTracking::Get().IsTracking() && !TMenuTracking::Get().Current(); }));
+    for (const TControl* Item : Bar->Items())
+        if (const auto* Button = As<TkelMenuButton>(Item)) {
+            EXPECT_FALSE(Button->Hot) << Button->Caption;
+            EXPECT_FALSE(Button->Down) << Button->Caption;
+        }
+    EXPECT_GT(Chosen, 10);
+    EXPECT_EQ(Main->ActiveMDIChild != nullptr, Main->MDIChildCount > 0);
 }
