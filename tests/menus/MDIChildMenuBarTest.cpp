@@ -549,9 +549,9 @@ TEST_F(MDIChildMenuBarTest, ARandomSessionEndsIdle)
                             SetHandlers(Main->MDIChildren[J]);
                         Kinds[Below(Kinds.size())]();
                     });
-    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone(); }, 60000)) << Script.StepsDone();
     for (int I = 0; I < 3; ++I)
-        TypeKey(VK_ESCAPE);
+        Script.When([] { return true; }, Type(VK_ESCAPE));
+    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone(); }, 60000)) << Script.StepsDone();
     EXPECT_TRUE(PumpUntil([&] { return !TMenuTracking::Get().IsTracking() && !TMenuTracking::Get().Current(); }));
     for (const TControl* Item : Bar->Items())
         if (const auto* Button = As<TkelMenuButton>(Item)) {
