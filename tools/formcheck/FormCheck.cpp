@@ -88,17 +88,25 @@ std::string FirstChange(const std::string& Before, const std::string& After)
     return Line(0, Index) + " becomes " + Line(1, Index);
 }
 
+std::string LoadAndWriteBack(const std::string& Binary, const TMakeRoot& Make, TFormReport& Report)
+{
+    // An MDI child needs a main form to lie in; a new one, as the place that it gets depends on those before.
+    TForm* Main = nullptr;
+    Application->CreateForm(&Main);
+    const std::unique_ptr<TForm> OwnMain(Main);
+    Main->FormStyle = fsMDIForm;
+    const std::unique_ptr<TComponent> Root(Make());
+    Load(Binary, Root.get(), Report);
+    return WrittenBack(Root.get());
+}
+
 TFormReport CheckAs(const std::string& Binary, const TMakeRoot& Make)
 {
     TFormReport Report;
     try {
-        std::unique_ptr<TComponent> Root(Make());
-        Load(Binary, Root.get(), Report);
-        std::string First = WrittenBack(Root.get());
-        Root.reset(Make());
+        const std::string First = LoadAndWriteBack(Binary, Make, Report);
         TFormReport Ignored;
-        Load(First, Root.get(), Ignored);
-        Report.Change = FirstChange(First, WrittenBack(Root.get()));
+        Report.Change = FirstChange(First, LoadAndWriteBack(First, Make, Ignored));
     } catch (const std::exception& Error) {
         Report.Error = Error.what();
     }

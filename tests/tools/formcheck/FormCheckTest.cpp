@@ -1,6 +1,7 @@
 #include "tools/formcheck/FormCheck.h"
 
 #include "tools/formcheck/Summary.h"
+#include "vcl/forms/Application.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -39,6 +40,18 @@ TEST_F(FormCheckTest, TheComponentLibraryIsKnown)
                                    "    object Align: TAlignSpeedButton\n      Align = alLeft\n    end\n  end\nend\n");
     EXPECT_EQ(Report.Error, "");
     EXPECT_TRUE(Report.Complete());
+}
+
+TEST_F(FormCheckTest, AnMdiChildIsAForm)
+{
+    TFormReport Report = CheckForm("object Child: TChild\n  Caption = 'Child'\n  FormStyle = fsMDIChild\n"
+                                   "  Position = poDefault\n  Visible = True\n  object Memo: TMemo\n"
+                                   "    Align = alClient\n  end\nend\n");
+    EXPECT_EQ(Report.Error, "");
+    EXPECT_TRUE(Report.Complete());
+    EXPECT_EQ(Report.Change, "");
+    EXPECT_EQ(Report.Components, 2);
+    EXPECT_EQ(Application->MainForm, nullptr);
 }
 
 TEST_F(FormCheckTest, TheBoundsThatDesignersNoteBesideTheAlignmentAreKept)
