@@ -301,6 +301,18 @@ TEST_F(MdiChildren, CtrlF6GoesToTheNextChild)
     ExpectActive(Notes[1]);
 }
 
+TEST_F(MdiChildren, TheOnlyChildIsItsOwnNext)
+{
+    Open(1);
+    Notes[0]->WindowState = wsMaximized;
+    TypeKey(VK_F6, {ssCtrl});
+    EXPECT_EQ(Notes[0]->WindowState, wsMaximized);
+    Main->Next();
+    Main->Previous();
+    EXPECT_EQ(Notes[0]->WindowState, wsMaximized);
+    ExpectActive(Notes[0]);
+}
+
 TEST_F(MdiChildren, CtrlF4ClosesTheActiveChild)
 {
     Open(2);

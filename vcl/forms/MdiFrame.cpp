@@ -30,13 +30,17 @@ TMdiFrame::~TMdiFrame()
     DestroyWindow(FClient);
 }
 
-LRESULT CALLBACK TMdiFrame::ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam, UINT_PTR, DWORD_PTR Frame)
+LRESULT CALLBACK TMdiFrame::ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam, UINT_PTR, DWORD_PTR Data)
 {
+    const auto* Frame = reinterpret_cast<TMdiFrame*>(Data);
+    // From the only child Wine goes on to none, and for that makes it its normal size without drawing it.
+    if (Msg == WM_MDINEXT && Frame->Children().size() < 2)
+        return 0;
     if (Msg != WM_ERASEBKGND)
         return DefSubclassProc(Window, Msg, WParam, LParam);
     TRect Area;
     ::GetClientRect(Window, &Area);
-    FillRect(reinterpret_cast<HDC>(WParam), &Area, reinterpret_cast<TMdiFrame*>(Frame)->FForm.Brush->Handle);
+    FillRect(reinterpret_cast<HDC>(WParam), &Area, Frame->FForm.Brush->Handle);
     return 1;
 }
 

@@ -58,7 +58,7 @@ public:
 
 private:
     static LRESULT CALLBACK ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam, UINT_PTR Id,
-                                       DWORD_PTR Frame);
+                                       DWORD_PTR Data);
     bool LacksButtons(HMENU Bar) const;
     void SetMenus(HMENU Bar) const;
 
