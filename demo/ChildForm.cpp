@@ -7,6 +7,7 @@
 void TChildForm::Describe(TClassBuilder<TChildForm>& Class)
 {
     Class.Message<&Self::WMMDIActivate>(WM_MDIACTIVATE);
+    Class.Message<&Self::WMSize>(WM_SIZE);
 }
 
 void TChildForm::DoClose(TCloseAction& Action)
@@ -25,4 +26,11 @@ void TChildForm::WMMDIActivate(TMessage& Message)
         if (const auto* Button = As<TkelMenuButton>(Components[I]))
             if (auto* Bar = As<TkelMDIChildMenuBar>(Button->Parent))
                 Bar->Merge();
+}
+
+// Some commands are for maximized windows.
+void TChildForm::WMSize(TWMSize& Message)
+{
+    Inherited(Message);
+    StateChanged();
 }

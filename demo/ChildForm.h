@@ -23,4 +23,5 @@ private:
     friend class TClassBuilder<TChildForm>;
 
     void WMMDIActivate(TMessage& Message);
+    void WMSize(TWMSize& Message);
 };

@@ -68,6 +68,7 @@ void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
     Class.Field<&Self::FoldersTitle>("FoldersTitle");
     Class.Field<&Self::BarsTitle>("BarsTitle");
     Class.Field<&Self::WindowsTitle>("WindowsTitle");
+    Class.Field<&Self::SystemMenuItem>("SystemMenuItem");
 
     Class.Method<&Self::ColorApply>("ColorApply");
     Class.Method<&Self::ColorItemClick>("ColorItemClick");
@@ -81,6 +82,7 @@ void TMainForm::Describe(TClassBuilder<TMainForm>& Class)
     Class.Method<&Self::StyleClick>("StyleClick");
     Class.Method<&Self::StyleItemClick>("StyleItemClick");
     Class.Method<&Self::StyleOpen>("StyleOpen");
+    Class.Method<&Self::SystemMenuItemClick>("SystemMenuItemClick");
 }
 
 // Before the bars go to their saved places, which they do when their turn to be loaded comes.

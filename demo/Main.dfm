@@ -1268,6 +1268,11 @@ object MainForm: TMainForm
       ShortCut = 16499
       OnClick = CommandClick
     end
+    object SystemMenuItem: TMenuItem
+      Caption = 'S&ystem menu'
+      ShortCut = 32957
+      OnClick = SystemMenuItemClick
+    end
     object WindowsTitle: TMenuItem
       Caption = '-Windows'
     end

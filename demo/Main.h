@@ -65,6 +65,7 @@ public:
     TMenuItem* FoldersTitle = nullptr;
     TMenuItem* BarsTitle = nullptr;
     TMenuItem* WindowsTitle = nullptr;
+    TMenuItem* SystemMenuItem = nullptr;
 
     void Execute(TToolbarGlyph Command) override;
     TCommandState StateOf(TToolbarGlyph Command) override;
@@ -94,6 +95,7 @@ private:
     void StyleClick(TObject* Sender);
     void StyleItemClick(TObject* Sender);
     void StyleOpen(TObject* Sender);
+    void SystemMenuItemClick(TObject* Sender);
 
     // Items that the program adds to the menus.
     void BarItemClick(TObject* Sender);

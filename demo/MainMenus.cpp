@@ -131,6 +131,7 @@ void TMainForm::FolderMenuClickFolder(TObject*, AnsiString Path)
 
 void TMainForm::UpdateWindowItems()
 {
+    SystemMenuItem->Enabled = FActiveChild && FActiveChild->WindowState == wsMaximized;
     const std::vector<TChildForm*> Windows = Children();
     const std::vector<TMenuItem*> Items =
         ItemsBehind(WindowsTitle, Windows.size(), {this, &TMainForm::WindowItemClick});
@@ -140,6 +141,12 @@ void TMainForm::UpdateWindowItems()
         Items[I]->RadioItem = true;
         Items[I]->Checked = Windows[I] == FActiveChild;
     }
+}
+
+// Of the maximized window; it can be reached by the mouse only otherwise.
+void TMainForm::SystemMenuItemClick(TObject* Sender)
+{
+    MenuBar->DoSysMenu(Sender);
 }
 
 void TMainForm::WindowItemClick(TObject* Sender)

@@ -219,7 +219,14 @@ void TMenuTour::ShowSystemMenu()
         SendButton(mbLeft, true);
         SendButton(mbLeft, false);
     });
-    FGuide.WaitFor("a restored document", [this] { return FForm->ActiveMDIChild->WindowState == wsNormal; });
+    const auto IsRestored = [this] { return FForm->ActiveMDIChild->WindowState == wsNormal; };
+    FGuide.WaitFor("a restored document", IsRestored);
+
+    FForm->ActiveMDIChild->WindowState = wsMaximized;
+    TScript ByKey;
+    ByKey.When(IsOpen(Bar->SystemMenu()), [] { SendKey('R'); });
+    FGuide.GoThroughMenus("the system menu by its key", ByKey, [] { SendKey(VK_OEM_MINUS, {ssAlt}); });
+    FGuide.WaitFor("a document that is restored by keys", IsRestored);
 }
 
 void TMenuTour::ShowGallery()
