@@ -63,6 +63,8 @@ void TkelMDIChildMenuBar::Loaded()
         return;
     if (TkelDock* InDock = Dock)
         InDock->Visible = false;
+    else if (Floating)
+        HidePanel();
     else
         Visible = false;
 }
@@ -111,7 +113,7 @@ void TkelMDIChildMenuBar::Merge()
     if (!Bar)
         return;
     const std::vector<TkelMenuButton*> Buttons = MenuButtons(*this);
-    FOrder.assign(Buttons.begin(), Buttons.end());
+    RememberOrder(*Bar);
     Bar->DisableAlign();
     for (TkelMenuButton* Button : Buttons) {
         const std::vector<TkelMenuButton*> Others = MenuButtons(*Bar);
@@ -126,6 +128,17 @@ void TkelMDIChildMenuBar::Merge()
     }
     Bar->EnableAlign();
     SortBoth(*Bar);
+}
+
+// Some may have been merged before; they come first.
+void TkelMDIChildMenuBar::RememberOrder(const TkelMenuBar& Bar)
+{
+    const auto IsOurs = [this](const TkelMenuButton* Button) { return Button->Owner == Owner; };
+    if (std::ranges::none_of(MenuButtons(Bar), IsOurs))
+        FOrder.clear();
+    for (const TkelMenuButton* Button : MenuButtons(*this))
+        if (std::ranges::find(FOrder, Button) == FOrder.end())
+            FOrder.push_back(Button);
 }
 
 void TkelMDIChildMenuBar::UnMerge()

@@ -19,8 +19,9 @@ public:
     // go to the form's bar and back in any case.
     bool AutoMerge = true;
 
-    // Moves the buttons to the form's bar, each behind those there whose MenuGroupIndex is not greater. The first one
-    // that thereby comes before another button is also the last one that moves; the others stay, and do not show.
+    // Moves the buttons to the form's bar, each before the first one there whose MenuGroupIndex is greater, or to the
+    // end. The first one that comes before another is also the last one that moves; the rest stay, and do not show,
+    // until Merge is called again.
     void Merge();
     // Takes them back.
     void UnMerge();
@@ -34,8 +35,9 @@ private:
     void ChildActivated(HWND Before);
     TCustomForm* ParentForm() const;
     TkelMenuBar* ParentBar() const;
+    void RememberOrder(const TkelMenuBar& Bar);
     void SortBoth(TkelMenuBar& Bar);
 
     TWindowProcHook FHook;
-    std::vector<const TControl*> FOrder; // of the menu buttons when they were merged; only compared
+    std::vector<const TControl*> FOrder; // of the menu buttons before they were merged; only compared
 };

@@ -59,7 +59,7 @@ private:
     bool ToggleKeyboardMode();
     bool Step(int Direction);
     bool Accelerator(uint16_t Char);
-    bool Shortcut(uint16_t VirtualKey, intptr_t KeyData);
+    bool ChooseShortcut(uint16_t VirtualKey, intptr_t KeyData);
     bool LetterElsewhere(uint16_t Char, intptr_t KeyData);
     void OpenByLetter(uint16_t Char, intptr_t KeyData);
 

@@ -87,9 +87,11 @@ bool TMenuTracking::Key(uint16_t VirtualKey, intptr_t KeyData)
     }
     if (KeyData & Released)
         return ReleaseAlt();
-    // With AltGr the system presses Ctrl, too.
-    if (!(KeyData & WasDown))
+    if (!(KeyData & WasDown)) {
+        // With AltGr the system presses Ctrl, too.
         FAltAlone = !IsHeld(VK_CONTROL) && !IsHeld(VK_SHIFT);
+        FAltUsed = false;
+    }
     return FCurrent != nullptr;
 }
 
@@ -115,7 +117,11 @@ bool TMenuTracking::ToggleKeyboardMode()
 
 bool TMenuTracking::PressKey(uint16_t VirtualKey, intptr_t KeyData)
 {
+    if (!FTracking && ChooseShortcut(VirtualKey, KeyData))
+        return true;
     switch (VirtualKey) {
+    case VK_SHIFT:
+    case VK_CONTROL: return false;
     case VK_F10: return !IsHeld(VK_SHIFT) && !IsHeld(VK_CONTROL) && ToggleKeyboardMode();
     case VK_ESCAPE:
         if (!FCurrent)
@@ -132,9 +138,12 @@ bool TMenuTracking::PressKey(uint16_t VirtualKey, intptr_t KeyData)
         return true;
     default: break;
     }
+    if (IsHeld(VK_CONTROL))
+        return false;
+    const uint16_t Char = CharOf(VirtualKey);
     if (FCurrent)
-        return Accelerator(CharOf(VirtualKey));
-    return Shortcut(VirtualKey, KeyData);
+        return Accelerator(Char);
+    return (KeyData & AltHeld) && LetterElsewhere(Char, KeyData);
 }
 
 // Into a submenu and out of it the arrows belong to the menu.
@@ -182,17 +191,16 @@ bool TMenuTracking::Accelerator(uint16_t Char)
     return false;
 }
 
-bool TMenuTracking::Shortcut(uint16_t VirtualKey, intptr_t KeyData)
+bool TMenuTracking::ChooseShortcut(uint16_t VirtualKey, intptr_t KeyData)
 {
     const TShortCut Wanted = KeyMessageToShortCut({WM_KEYDOWN, VirtualKey, KeyData});
-    if (Wanted == scNone)
+    const TMenuItem* Item = Wanted == scNone ? nullptr : FindShortCut(Wanted);
+    if (!Item)
         return false;
-    if (const TMenuItem* Item = FindShortCut(Wanted)) {
-        EndMenu();
-        PostMessageW(PopupList->Window, WM_COMMAND, Item->Command, 0);
-        return true;
-    }
-    return (KeyData & AltHeld) && !IsHeld(VK_CONTROL) && LetterElsewhere(CharOf(VirtualKey), KeyData);
+    Leave();
+    EndMenu();
+    PostMessageW(PopupList->Window, WM_COMMAND, Item->Command, 0);
+    return true;
 }
 
 // Alt and the letter of a button. Those that lie in the active form itself hear of it as other controls do.

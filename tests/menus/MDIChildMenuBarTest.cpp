@@ -1,8 +1,11 @@
 // The menu bars of MDI children: where their buttons go when a child becomes active, and how they work there.
 #include "menus/MDIChildMenuBar.h"
 
+#include "common/Settings.h"
 #include "tests/menus/MenuScript.h"
 #include "tests/support/FormText.h"
+#include "tests/support/RegistryProbe.h"
+#include "toolbar/Flpfrm97.h"
 #include "toolbar/Tsy_toolbar.h"
 #include "vcl/stdctrls/Memo.h"
 #include "vcl/system/ClassBuilder.h"
@@ -273,6 +276,13 @@ TEST_F(MDIChildMenuBarTest, NoButtonMovesAfterTheFirstThatComesBeforeAnother)
     EXPECT_EQ(Child->Edit()->Parent, Bar);
     EXPECT_EQ(Child->Text()->Parent, Child->Bar());
     EXPECT_THAT(Shown(Child->Bar()), ElementsAre("&Text"));
+    for (int I = 0; I < 2; ++I) {
+        Child->Bar()->Merge();
+        EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&Edit", "&Text", "&View", "&Help")) << "the next goes on";
+        Child->Bar()->UnMerge();
+        EXPECT_THAT(InOrder(Child->Bar()), ElementsAre("&Edit", "&Text")) << "in the old order";
+        Child->Bar()->Merge();
+    }
 }
 
 TEST_F(MDIChildMenuBarTest, WithNoGreaterGroupButtonsComeLast)
@@ -328,6 +338,16 @@ TEST_F(MDIChildMenuBarTest, TheChildNeverShowsTheBarNorItsDock)
         EXPECT_FALSE(IsWindowVisible(Each->Bar()->Handle));
         EXPECT_EQ(Each->Find<TMemo>("Memo")->Top, 0);
     }
+}
+
+TEST_F(MDIChildMenuBarTest, ABarThatFloatedWhenItWasLeftDoesNotShowEither)
+{
+    const TRegistryProbe Store(std::string("Software\\Halvent\\") + MenuTestsTitle);
+    WriteBool("ToolBar\\Floated", "isFloat", true);
+    const TMdiChild* Child = NewChild({.BarText = "AutoSave = True\n      Caption = 'Floated'"});
+    EXPECT_TRUE(Child->Bar()->Floating);
+    EXPECT_FALSE(Child->Bar()->Frame->Visible);
+    EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&Edit", "&View", "&Help"));
 }
 
 TEST_F(MDIChildMenuBarTest, WithoutAutoMergeTheBarStaysAndTheButtonsGo)

@@ -208,6 +208,37 @@ TEST_F(MenuButtonTest, ShortcutsOfClosedMenusWork)
     EXPECT_EQ(Chosen.size(), 1u);
 }
 
+TEST_F(MenuButtonTest, AShortcutWorksInKeyboardModeAndEndsIt)
+{
+    File->Menu->Items->Items[1]->ShortCut = ShortCut('E', {ssCtrl}); // E is the letter of a button, too
+    TypeKey(VK_F10);
+    ASSERT_TRUE(File->Hot);
+    TypeKey('E', {ssCtrl});
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_THAT(Chosen, ElementsAre("&Save"));
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, WithCtrlALetterIsNone)
+{
+    Script.When(IsOpen(File), Type('S', {ssCtrl}));
+    Script.When(IsOpen(File), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    PumpMessages();
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_THAT(Chosen, ElementsAre());
+}
+
+TEST_F(MenuButtonTest, WithShiftALetterIsTheSame)
+{
+    Script.When(IsOpen(Edit), Type('C', {ssShift}));
+    TypeKey(VK_F10);
+    TypeKey('E', {ssShift});
+    EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    EXPECT_THAT(Chosen, ElementsAre("&Copy"));
+    ExpectIdle();
+}
+
 TEST_F(MenuButtonTest, ACyrillicLetterChoosesAnItem)
 {
     File->Menu->Items->Items[1]->Caption = "&Сохранить";

@@ -8,10 +8,14 @@
 #include "tests/support/PaintToBitmap.h"
 #include "tests/support/Script.h"
 
+// What bars keep lies under this title.
+inline constexpr const char* MenuTestsTitle = "Tessary menu tests";
+
 // To be there before tests count what they leave behind.
 inline void MakeWhatMenusShare()
 {
     MakeWhatFormsShare();
+    Application->Title = MenuTestsTitle;
     TMenuTracking::Get();
     TkelOfficePopupMenu Menu(nullptr);
     // For captions on end.
