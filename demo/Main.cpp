@@ -98,7 +98,6 @@ void TMainForm::FormCreate(TObject*)
     ToolGlyphs->LoadBitmapRes(nullptr, "TOOLBAR16");
     ToolGlyphs->Width = 16;
     FileMenu->Banner->Picture->Bitmap->LoadFromResourceName(nullptr, "BANNER");
-    MenuBar->ShowCaption = false;
     AddBarItems();
     FFolders.Load();
     UpdateFolderItems();

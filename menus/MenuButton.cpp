@@ -113,7 +113,7 @@ void TkelMenuButton::Paint()
     TSolidFill Fill(Canvas->BareHandle());
     if (Down || FState == bsDown)
         Fill.Frame(R, clBtnShadow, clBtnHighlight);
-    else if (FHot || FMouseInControl)
+    else if (FHot || (FMouseInControl && !TMenuTracking::Get().IsTracking()))
         Fill.Frame(R, clBtnHighlight, clBtnShadow);
 }
 

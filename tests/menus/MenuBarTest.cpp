@@ -311,4 +311,5 @@ TEST_F(MenuBarTest, ANewBarIsCalledByItsClass)
 {
     auto* Another = new TkelMenuBar(Main);
     EXPECT_EQ(Another->Caption, "TkelMenuBar" + std::to_string(Main->ComponentCount));
+    EXPECT_FALSE(Another->ShowCaption) << "it is for the frame when the bar floats";
 }

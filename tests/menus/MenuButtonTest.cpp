@@ -117,6 +117,31 @@ TEST_F(MenuButtonTest, ThePointerGoesOnToTheNextMenu)
     ExpectIdle();
 }
 
+TEST_F(MenuButtonTest, TheButtonThatThePointerHasLeftIsFlatAtOnce)
+{
+    // With a menu open nobody is told that the pointer leaves.
+    const auto Corner = [&] {
+        HDC Context = GetDC(Bar->Handle);
+        const TColor Color = static_cast<TColor>(GetPixel(Context, File->Left, File->Top));
+        ReleaseDC(Bar->Handle, Context);
+        return Color;
+    };
+    TColor OnIt = clNone;
+    TColor Left = clNone;
+    Script.When(IsOpen(File), [&] {
+        OnIt = Corner();
+        PointTo(Edit)();
+    });
+    Script.When(IsOpen(Edit), [&] {
+        Left = Corner();
+        SendKey(VK_ESCAPE);
+    });
+    ClickToOpen(File);
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_EQ(OnIt, static_cast<TColor>(ColorToRGB(clBtnShadow)));
+    EXPECT_EQ(Left, static_cast<TColor>(ColorToRGB(clBtnFace)));
+}
+
 TEST_F(MenuButtonTest, AClickOnTheButtonOfTheOpenMenuClosesIt)
 {
     Script.When(IsOpen(File), [] {
