@@ -587,19 +587,21 @@ TEST_F(MenuButtonTest, AMenuOfAnotherKindOpensToo)
 
 // ---- what may go
 
-TEST(MenuHooks, AreThereFromTheFirstButtonToTheLast)
+class MenuHooks : public testing::Test {
+protected:
+    static void SetUpTestSuite() { MakeWhatMenusShare(); }
+};
+
+TEST_F(MenuHooks, AreThereFromTheFirstButtonToTheLast)
 {
-    TMenuTracking::Get();
-    {
-        TkelMenuButton Warm(nullptr);
-    }
     const int64_t Before = LiveHandleCount();
-    {
-        TkelMenuButton First(nullptr);
-        EXPECT_EQ(LiveHandleCount(), Before + 2);
-        TkelMenuButton Second(nullptr);
-        EXPECT_EQ(LiveHandleCount(), Before + 2);
-    }
+    auto First = std::make_unique<TkelMenuButton>(nullptr);
+    EXPECT_EQ(LiveHandleCount(), Before + 2);
+    auto Second = std::make_unique<TkelMenuButton>(nullptr);
+    EXPECT_EQ(LiveHandleCount(), Before + 2);
+    First.reset();
+    EXPECT_EQ(LiveHandleCount(), Before + 2);
+    Second.reset();
     EXPECT_EQ(LiveHandleCount(), Before);
 }
 
