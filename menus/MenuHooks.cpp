@@ -1,6 +1,7 @@
 #include "menus/MenuHooks.h"
 
 #include "menus/MenuTracking.h"
+#include "toolbar/ScopedValue.h"
 #include "vcl/graphics/Handle.h"
 
 namespace {
@@ -56,13 +57,13 @@ LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
 void MenuButtonsSeeMouse(WPARAM Message, LPARAM Data)
 {
     static bool IsLooking = false; // what follows may bring the next one
-    if (std::exchange(IsLooking, true))
+    if (IsLooking)
         return;
+    const TScopedValue Looking(IsLooking, true, false);
     if (Message == WM_MOUSEMOVE)
         TMenuTracking::Get().PointerMoved(reinterpret_cast<const MOUSEHOOKSTRUCT*>(Data)->pt);
     else if (IsPress(Message))
         TMenuTracking::Get().ButtonPressed();
-    IsLooking = false;
 }
 
 void InstallMenuHooks()
