@@ -2,6 +2,7 @@
 
 #include "menus/MenuTracking.h"
 #include "menus/TurnedPicture.h"
+#include "toolbar/ButtonContent.h"
 #include "toolbar/RandomGroup.h"
 #include "toolbar/SolidFill.h"
 #include "vcl/controls/WinControl.h"
@@ -109,7 +110,7 @@ void TkelMenuButton::Paint()
     if (StandsOnEnd())
         DrawStandingCaption(Context);
     else
-        DrawCaption(Canvas, R, {1, 1});
+        DrawButtonCaption(Canvas, Font, Caption, R, !Enabled);
     TSolidFill Fill(Canvas->BareHandle());
     if (Down || FState == bsDown)
         Fill.Frame(R, clBtnShadow, clBtnHighlight);
@@ -123,22 +124,6 @@ bool TkelMenuButton::StandsOnEnd() const
     return (Align == alTop || Align == alBottom) && Height > Width;
 }
 
-// The highlight of a disabled caption lies at Light from its shadow.
-void TkelMenuButton::DrawCaption(TCanvas* Target, TRect R, const TPoint& Light)
-{
-    constexpr unsigned Flags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-    Target->Font = Font;
-    Target->Brush->Style = bsClear;
-    if (!Enabled) {
-        OffsetRect(R, Light.X, Light.Y);
-        Target->Font->Color = clBtnHighlight;
-        DrawText(Target->Handle, Caption, R, Flags);
-        OffsetRect(R, -Light.X, -Light.Y);
-        Target->Font->Color = clBtnShadow;
-    }
-    DrawText(Target->Handle, Caption, R, Flags);
-}
-
 void TkelMenuButton::DrawStandingCaption(HDC Context)
 {
     // One for all: it is used up at once. Never destroyed, as it outlives what drawing needs.
@@ -146,7 +131,9 @@ void TkelMenuButton::DrawStandingCaption(HDC Context)
     const TRect Lying(0, 0, Height, Width);
     Picture.SetSize(Width, Height);
     TSolidFill(Picture.Canvas->BareHandle()).Fill(Lying, clBtnFace);
-    DrawCaption(Picture.Canvas, Lying, {1, -1});
+    // To the lower right when it stands.
+    constexpr TPoint Highlight(1, -1);
+    DrawButtonCaption(Picture.Canvas, Font, Caption, Lying, !Enabled, Highlight);
     Picture.Show(Context, 0, 0);
 }
 

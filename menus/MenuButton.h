@@ -43,7 +43,6 @@ protected:
 private:
     void CMDialogChar(TCMDialogChar& Message);
     bool StandsOnEnd() const;
-    void DrawCaption(TCanvas* Target, TRect R, const TPoint& Light);
     void DrawStandingCaption(HDC Context);
 
     TPopupMenu* FMenu = nullptr;

@@ -3,6 +3,7 @@
 #include "toolbar/DitherBrush.h"
 #include "toolbar/ImageCells.h"
 #include "toolbar/SolidFill.h"
+#include "vcl/graphics/DisabledText.h"
 #include "vcl/menus/ShortCut.h"
 
 namespace {
@@ -157,11 +158,8 @@ void TOfficeItemPainter::DrawCaption()
         return;
     }
     FCanvas->Brush->Style = bsClear;
-    OffsetRect(R, 1, 1);
-    DrawText(FItem->Caption, R, clBtnHighlight, DT_VCENTER);
-    OffsetRect(R, -1, -1);
+    DrawDisabledText(FCanvas->Handle, FItem->Caption, R, DT_VCENTER);
     FTextColor = clBtnShadow;
-    DrawText(FItem->Caption, R, FTextColor, DT_VCENTER);
 }
 
 void TOfficeItemPainter::DrawShortCut()

@@ -43,7 +43,8 @@ TSize MeasureCaption(TCanvas* Canvas, TFont* Font, std::string_view Text)
     return {R.Width(), R.Height()};
 }
 
-void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRect R, bool Disabled)
+void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRect R, bool Disabled,
+                       const TPoint& Highlight)
 {
     constexpr unsigned Flags = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
     if (Text.empty())
@@ -51,7 +52,7 @@ void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRec
     Canvas->Font = Font;
     Canvas->Brush->Style = bsClear;
     if (Disabled) {
-        DrawDisabledText(Canvas->Handle, Text, R, Flags);
+        DrawDisabledText(Canvas->Handle, Text, R, Flags, Highlight);
         return;
     }
     DrawText(Canvas->Handle, Text, R, Flags);

@@ -22,5 +22,6 @@ TButtonContent PlaceContent(const TRect& R, const TSize& Glyph, const TSize& Cap
 // it stays as it is and the size is 0.
 TSize MeasureCaption(TCanvas* Canvas, TFont* Font, std::string_view Text);
 // Draws a caption in the middle of R, in one line, over what is there already. Disabled: embossed in the system's
-// colours. The canvas takes on the font and a clear brush.
-void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRect R, bool Disabled);
+// colours, with the highlight at Highlight from the shadow. The canvas takes on the font and a clear brush.
+void DrawButtonCaption(TCanvas* Canvas, TFont* Font, std::string_view Text, TRect R, bool Disabled,
+                       const TPoint& Highlight = {1, 1});

@@ -25,6 +25,7 @@ inline void MakeWhatMenusShare()
     Window.DisableAlign();
     Button->Align = alTop;
     Button->SetBounds(0, 0, 22, 60);
+    Button->Caption = "A";
     PaintToBitmap(Button);
 }
 
