@@ -26,12 +26,6 @@ std::vector<TkelMenuButton*> MenuButtons(const TkelToolBar& Bar)
     return Found;
 }
 
-TDockAxis AxisOf(const TkelToolBar& Bar)
-{
-    const TkelDock* Dock = Bar.Dock;
-    return Dock && Dock->TakesBars() ? Dock->Axis() : TDockAxis(alTop);
-}
-
 } // namespace
 
 void TkelMDIChildMenuBar::Describe(TClassBuilder<TkelMDIChildMenuBar>& Class)
@@ -121,8 +115,8 @@ void TkelMDIChildMenuBar::Merge()
             Others, [=](const TkelMenuButton* Other) { return Other->MenuGroupIndex > Button->MenuGroupIndex; });
         Button->Parent = Bar;
         Bar->CorrectAlign();
-        const TDockAxis Axis = AxisOf(*Bar);
-        Axis.SetStart(*Button, Behind == Others.end() ? Axis.Length(*Bar) : Axis.Start(**Behind) - 1);
+        const TDockAxis Along = Bar->Axis();
+        Along.SetStart(*Button, Behind == Others.end() ? Along.Length(*Bar) : Along.Start(**Behind) - 1);
         if (Behind != Others.end())
             break;
     }
@@ -157,7 +151,7 @@ void TkelMDIChildMenuBar::UnMerge()
     std::ranges::sort(Buttons, {}, PlaceOf);
     int Place = 0;
     for (TkelMenuButton* Button : Buttons)
-        AxisOf(*this).SetStart(*Button, Place += AxisOf(*this).Length(*Button));
+        Axis().SetStart(*Button, Place += Axis().Length(*Button));
     EnableAlign();
     SortBoth(*Bar);
 }

@@ -208,9 +208,8 @@ void TkelMenuBar::DoSysMenu(TObject*)
 {
     if (!FSystemMenu)
         return;
-    const bool Vertical = Dock && Dock->TakesBars() && Dock->Axis().IsVertical();
-    const TPoint Place =
-        ClientToScreen(Vertical ? TPoint(Width + MenuGap, DragBox->Height) : TPoint(DragBox->Width, Height + MenuGap));
+    const TPoint Place = ClientToScreen(Axis().IsVertical() ? TPoint(Width + MenuGap, DragBox->Height)
+                                                            : TPoint(DragBox->Width, Height + MenuGap));
     FSystemMenu->Popup(Place.X, Place.Y);
 }
 

@@ -74,7 +74,7 @@ void TkelToolBar::Loaded()
     SortControls();
     if (FAutoSave && !IsDesigning())
         RestoreToolBarPosition(this);
-    FRowThickness = LiesHorizontally() ? Height : Width;
+    FRowThickness = Axis().Thickness(*this);
 }
 
 TkelDock* TkelToolBar::GetDock() const
@@ -82,11 +82,10 @@ TkelDock* TkelToolBar::GetDock() const
     return As<TkelDock>(Parent);
 }
 
-// A bar that does not lie in a vertical dock is horizontal.
-bool TkelToolBar::LiesHorizontally() const
+TDockAxis TkelToolBar::Axis() const
 {
     const TkelDock* InDock = Dock;
-    return !InDock || !InDock->Axis().IsVertical();
+    return InDock ? InDock->Axis() : TDockAxis(alNone);
 }
 
 int TkelToolBar::AccessibleRole() const

@@ -82,6 +82,8 @@ public:
     // The dock the bar lies in (hidden or not), nullptr while it floats or lies elsewhere.
     TkelDock* GetDock() const;
     PROPERTY_READ(TkelDock*, Dock);
+    // Of the dock; a bar that lies in none is horizontal.
+    TDockAxis Axis() const;
 
     // ---- items
 
@@ -134,7 +136,6 @@ private:
     void CMControlListChange(TMessage& Message);
 
     void SaveQuietly();
-    bool LiesHorizontally() const;
     bool LeadsRow() const;
     void SetDockedLook(bool Docked);
     void TurnTo(bool Vertical);

@@ -114,7 +114,7 @@ void TkelToolBar::DragFree(const TPoint& Pointer, const TPoint& P)
 // was taken, or by its caption.
 void TkelToolBar::TearOff(const TPoint& P)
 {
-    const bool WasVertical = !LiesHorizontally();
+    const bool WasVertical = Axis().IsVertical();
     const TPoint Began = FAnchor;
     FReach = {};
     const auto Along = [](int Now, int Before, int Length) { return Now >= 0 && Now < Length ? Now : Before; };

@@ -48,7 +48,7 @@ void TkelToolBar::SortControls()
     FItems.clear();
     for (int I = 0; I < ControlCount; ++I)
         FItems.push_back(Controls[I]);
-    const bool Vertical = !LiesHorizontally();
+    const bool Vertical = Axis().IsVertical();
     for (bool Swapped = true; std::exchange(Swapped, false);)
         for (size_t I = 1; I < FItems.size(); ++I)
             if (AreSwapped(*FItems[I - 1], *FItems[I], Vertical)) {
@@ -86,7 +86,7 @@ void TkelToolBar::TurnTo(bool Vertical)
 
 void TkelToolBar::PlaceDragBox()
 {
-    const bool Horizontal = Dock && Dock->TakesBars() && LiesHorizontally();
+    const bool Horizontal = Dock && Dock->TakesBars() && !Axis().IsVertical();
     Turn(*FDragBox, !Horizontal);
     FDragBox->SetBounds(0, 0, FDragBox->Width, FDragBox->Height);
 }
