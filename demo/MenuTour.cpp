@@ -1,9 +1,7 @@
 #include "demo/MenuTour.h"
 
 #include "demo/Main.h"
-#include "menus/MenuTracking.h"
-#include "tests/support/SystemInput.h"
-#include "tests/support/WhileMenuOpen.h"
+#include "tests/support/MenuSteps.h"
 
 namespace {
 
@@ -17,22 +15,6 @@ constexpr char LetterName[] = "To the editor.txt";
 auto IsOpen(const TPopupMenu* Menu)
 {
     return [Menu] { return TkelCustomPopupMenu::Current() == Menu && TWhileMenuOpen::IsOpen(); };
-}
-
-TPoint MiddleOf(const TControl* Control)
-{
-    return Control->ClientToScreen({Control->Width / 2, Control->Height / 2});
-}
-
-// The system's desktop may report a place that the pointer has left already, so the pointer is moved again and again.
-auto PointingOpens(const TkelMenuButton* Button)
-{
-    return [=] {
-        if (IsOpen(Button->Menu)())
-            return true;
-        SendMove(MiddleOf(Button));
-        return false;
-    };
 }
 
 auto ItemIsDrawn(int Item)

@@ -421,8 +421,8 @@ TEST_F(MDIChildMenuBarTest, ThePointerGoesFromTheFormsMenusToTheChildsAndBack)
 {
     TMdiChild* Child = NewChild();
     Script.When(IsOpen(Button("FileButton")), PointTo(Child->Edit()));
-    Script.When(IsOpen(Child->Edit()), PointTo(Button("ViewButton")));
-    Script.When(IsOpen(Button("ViewButton")), Type(VK_ESCAPE));
+    Script.When(PointingOpens(Child->Edit()), PointTo(Button("ViewButton")));
+    Script.When(PointingOpens(Button("ViewButton")), Type(VK_ESCAPE));
     ClickToOpen(Button("FileButton"));
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
 }

@@ -109,9 +109,9 @@ TEST_F(MenuButtonTest, APressOpensTheMenuBelowTheButtonWhichStaysDown)
 TEST_F(MenuButtonTest, ThePointerGoesOnToTheNextMenu)
 {
     Script.When(IsOpen(File), PointTo(Edit));
-    Script.When(IsOpen(Edit), PointTo(Help));
-    Script.When(IsOpen(Help), PointTo(File));
-    Script.When(IsOpen(File), Type(VK_ESCAPE));
+    Script.When(PointingOpens(Edit), PointTo(Help));
+    Script.When(PointingOpens(Help), PointTo(File));
+    Script.When(PointingOpens(File), Type(VK_ESCAPE));
     ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone());
     ExpectIdle();
@@ -132,7 +132,7 @@ TEST_F(MenuButtonTest, TheButtonThatThePointerHasLeftIsFlatAtOnce)
         OnIt = Corner();
         PointTo(Edit)();
     });
-    Script.When(IsOpen(Edit), [&] {
+    Script.When(PointingOpens(Edit), [&] {
         Left = Corner();
         SendKey(VK_ESCAPE);
     });
@@ -482,7 +482,7 @@ TEST_F(MenuButtonTest, ButtonsThatCannotBeUsedArePassedOver)
     TypeKey(VK_ESCAPE);
     Script.When(IsOpen(File), PointTo(Edit));
     Script.When([&] { return IsOpen(File)() && PointerIsOn(Edit); }, PointTo(Help));
-    Script.When(IsOpen(Help), Type(VK_ESCAPE));
+    Script.When(PointingOpens(Help), Type(VK_ESCAPE));
     ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
 }
@@ -522,7 +522,7 @@ TEST_F(MenuButtonTest, InAVerticalBarTheMenuOpensBesideTheButton)
         SendKey(VK_RIGHT);
     });
     Script.When(IsOpen(Help), PointTo(File));
-    Script.When(IsOpen(File), Type(VK_ESCAPE));
+    Script.When(PointingOpens(File), Type(VK_ESCAPE));
     ClickToOpen(Edit);
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();
     const TPoint Corner = Edit->ClientToScreen({Edit->Width, 0});
@@ -556,7 +556,7 @@ TEST_F(MenuButtonTest, OnClickComesBeforeEveryOpening)
     for (TkelMenuButton* Button : {File, Edit, Help})
         Button->OnClick = [&](TObject* Sender) { Opened.push_back(As<TkelMenuButton>(Sender)->Caption); };
     Script.When(IsOpen(File), PointTo(Edit));
-    Script.When(IsOpen(Edit), Type(VK_RIGHT));
+    Script.When(PointingOpens(Edit), Type(VK_RIGHT));
     Script.When(IsOpen(Help), Type(VK_ESCAPE));
     ClickToOpen(File);
     EXPECT_TRUE(Script.IsDone()) << Script.StepsDone();

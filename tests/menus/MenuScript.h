@@ -1,10 +1,8 @@
 // Menus under a real mouse and keyboard: what a user does while menus are open.
 #pragma once
 
-#include "menus/MenuButton.h"
-#include "menus/MenuTracking.h"
-#include "menus/OfficePopupMenu.h"
 #include "tests/support/FormTest.h"
+#include "tests/support/MenuSteps.h"
 #include "tests/support/PaintToBitmap.h"
 #include "tests/support/Script.h"
 
@@ -29,21 +27,10 @@ inline void MakeWhatMenusShare()
     PaintToBitmap(Button);
 }
 
-// Conditions and actions of a script.
-inline auto IsOpen(const TkelMenuButton* Button)
-{
-    return [Button] {
-        return TkelCustomPopupMenu::Current() == Button->Menu && TMenuTracking::Get().Current() == Button &&
-               FindWindowW(L"#32768", nullptr);
-    };
-}
+// An action of a script.
 inline auto Type(uint16_t Key, TShiftState Shift = {})
 {
     return [=] { SendKey(Key, Shift); };
-}
-inline auto PointTo(TControl* Control)
-{
-    return [Control] { SendMove(Control->ClientToScreen({Control->Width / 2, Control->Height / 2})); };
 }
 
 // Presses and lets go on a button that opens a menu; returns when no menu is open any more.
