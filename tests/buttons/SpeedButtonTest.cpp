@@ -2,6 +2,7 @@
 
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
+#include "tests/support/SystemObjects.h"
 #include "vcl/buttons/ButtonFace.h"
 
 #include <gmock/gmock.h>
@@ -387,13 +388,7 @@ TEST_F(SpeedButtonTest, RepaintingMakesNoSystemObjects)
                 Paint();
             }
     };
-    States();
-    DWORD Before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    int64_t Counted = LiveHandleCount();
-    for (int I = 0; I < 20; ++I)
-        States();
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Before);
-    EXPECT_EQ(LiveHandleCount(), Counted);
+    ExpectNoNewSystemObjects(States, 20);
 }
 
 TEST(ButtonFaceTest, DrawsAPushButtonAndTellsWhatIsInside)

@@ -4,7 +4,7 @@
 #include "tests/menus/PaletteColor.h"
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
-#include "vcl/system/LiveCount.h"
+#include "tests/support/SystemObjects.h"
 
 #include <gmock/gmock.h>
 
@@ -366,16 +366,9 @@ TEST_F(ColorMenuPaintTest, CellsWithoutRoomForTheColourStayEmpty)
 TEST_F(ColorMenuPaintTest, DrawingAgainMakesNoSystemObjects)
 {
     TPixelImage Image = Blank();
-    const auto DrawAll = [&] {
+    ExpectNoNewSystemObjects([&] {
         for (unsigned State : {0u, unsigned{ODS_SELECTED}, unsigned{ODS_CHECKED}})
             for (int I = 0; I < 16; ++I)
                 DrawOn(Image, Item(I), State, {Left, Top, Left + Width, Top + Height});
-    };
-    DrawAll();
-    const DWORD Before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    const int64_t Handles = LiveHandleCount();
-    for (int I = 0; I < 10; ++I)
-        DrawAll();
-    EXPECT_EQ(LiveHandleCount(), Handles);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Before);
+    });
 }

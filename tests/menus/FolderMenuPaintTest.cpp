@@ -1,8 +1,8 @@
 // Every step of drawing an item of a folder menu, pixel by pixel.
 #include "tests/menus/FolderMenuFixture.h"
 #include "tests/support/PixelImage.h"
+#include "tests/support/SystemObjects.h"
 #include "vcl/graphics/Bitmap.h"
-#include "vcl/system/LiveCount.h"
 
 namespace {
 
@@ -261,14 +261,11 @@ TEST_F(FolderMenuPaintTest, DrawingAgainMakesNothing)
 {
     TMenuItem* Item = AddItem(Folder.AddFile("a.txt"));
     TPixelImage Image(Width, Size);
-    DrawOn(Image, Item);
-    DrawOn(Image, Item, ODS_SELECTED);
-    const int64_t Handles = LiveHandleCount();
-    const DWORD System = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    for (int Time = 0; Time < 50; ++Time)
-        DrawOn(Image, Item, Time % 2 ? ODS_SELECTED : 0);
-    EXPECT_EQ(LiveHandleCount(), Handles);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), System);
+    const auto DrawBoth = [&] {
+        DrawOn(Image, Item);
+        DrawOn(Image, Item, ODS_SELECTED);
+    };
+    ExpectNoNewSystemObjects(DrawBoth, 25);
 }
 
 TEST_F(FolderMenuPaintTest, AClearCornerLeavesTheIconWhole)

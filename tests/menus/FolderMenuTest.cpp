@@ -1,6 +1,7 @@
 // What folder menus make of a folder.
 #include "menus/Tsy_menus.h"
 #include "tests/menus/FolderMenuFixture.h"
+#include "tests/menus/MeasureItem.h"
 #include "tests/support/FormText.h"
 #include "vcl/system/ClassDescription.h"
 
@@ -28,18 +29,7 @@ protected:
         const auto Found = std::ranges::find(Names, Name);
         return Found == Names.end() ? nullptr : Menu->Items->Items[static_cast<int>(Found - Names.begin())];
     }
-    TSize Measure(TMenuItem* Item)
-    {
-        TBitmap Scratch;
-        int Width = 0, Height = 0;
-        Menu->DoMeasureItem(Item, Width, Height, Scratch.Canvas);
-        return {Width, Height};
-    }
-    static int TextWidth(const AnsiString& Text)
-    {
-        TBitmap Scratch;
-        return Scratch.Canvas->TextWidth(Text);
-    }
+    TSize Measure(TMenuItem* Item) { return MeasureItem(*Menu, Item); }
     // Goes through what a popup does, without a menu on the screen.
     void PopupNothing()
     {

@@ -1,4 +1,5 @@
 // Images of menu items, and menus that the program draws: as they stand on the screen, and item by item.
+#include "tests/menus/TopWindow.h"
 #include "tests/support/SystemInput.h"
 #include "tests/support/WhileMenuOpen.h"
 #include "vcl/graphics/Bitmap.h"
@@ -58,10 +59,7 @@ protected:
 
     void SetUp() override
     {
-        FTop = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 100, 100, 300, 200, nullptr, nullptr, nullptr,
-                               nullptr);
-        SetForegroundWindow(FTop);
-        SetFocus(FTop);
+        FTop = NewTopWindow();
         FMenu = std::make_unique<TPopupMenu>(nullptr);
         FMenu->AutoHotkeys = maManual;
         for (const char* Caption : {"&First", "&Отмена", "O&ther"})

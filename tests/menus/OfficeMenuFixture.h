@@ -2,6 +2,7 @@
 #pragma once
 
 #include "menus/Tsy_menus.h"
+#include "tests/menus/MeasureItem.h"
 #include "tests/support/PixelImage.h"
 #include "vcl/graphics/Bitmap.h"
 
@@ -70,18 +71,7 @@ protected:
         Menu->Banner->BackColor = clNavy;
     }
 
-    TSize Measure(TMenuItem* Item)
-    {
-        TBitmap Scratch;
-        int W = 0, H = 0;
-        Menu->DoMeasureItem(Item, W, H, Scratch.Canvas);
-        return {W, H};
-    }
-    static int TextWidth(const AnsiString& Text)
-    {
-        TBitmap Scratch;
-        return Scratch.Canvas->TextWidth(Text);
-    }
+    TSize Measure(TMenuItem* Item) { return MeasureItem(*Menu, Item); }
     // The item at Top of a picture of the menu.
     TPixelImage Draw(TMenuItem* Item, unsigned State = 0, int Height = G + 1, int Top = 0)
     {

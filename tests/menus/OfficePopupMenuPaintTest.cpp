@@ -1,7 +1,6 @@
 // Every step of drawing an item of an Office menu, in every state, pixel by pixel.
 #include "tests/menus/OfficeMenuFixture.h"
-
-#include "vcl/system/LiveCount.h"
+#include "tests/support/SystemObjects.h"
 
 namespace {
 
@@ -321,16 +320,9 @@ TEST_F(OfficePopupMenuPaintTest, DrawingAgainMakesNoSystemObjects)
     Item->ShortCut = ShortCut('O', {ssCtrl});
     TMenuItem* Line = AddItem("-Title");
     TPixelImage Image(Width, 2 * G);
-    const auto DrawAll = [&] {
+    ExpectNoNewSystemObjects([&] {
         for (unsigned State = 0; State < 16; ++State)
             for (TMenuItem* Each : {Item, Line})
                 DrawOn(Image, Each, State, 0);
-    };
-    DrawAll();
-    const DWORD Before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    const int64_t Handles = LiveHandleCount();
-    for (int I = 0; I < 10; ++I)
-        DrawAll();
-    EXPECT_EQ(LiveHandleCount(), Handles);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), Before);
+    });
 }

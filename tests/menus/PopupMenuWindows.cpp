@@ -3,6 +3,7 @@
 #include "vcl/menus/PopupList.h"
 #include "vcl/menus/UtilityWindow.h"
 
+#include "tests/menus/TopWindow.h"
 #include "tests/support/SystemInput.h"
 #include "vcl/system/LiveCount.h"
 
@@ -22,10 +23,7 @@ class PopupMenus : public testing::Test {
 protected:
     void SetUp() override
     {
-        FTop = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 100, 100, 300, 200, nullptr, nullptr, nullptr,
-                               nullptr);
-        SetForegroundWindow(FTop);
-        SetFocus(FTop);
+        FTop = NewTopWindow();
         FMenu = std::make_unique<TPopupMenu>(nullptr);
         for (const char* Caption : {"&First", "&Second", "&Third"})
             FMenu->Items->Add(
