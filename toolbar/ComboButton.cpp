@@ -1,7 +1,7 @@
 #include "toolbar/ComboButton.h"
 
 #include "toolbar/RandomGroup.h"
-#include "toolbar/StillThere.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/Mouse.h"
 #include "vcl/system/ClassBuilder.h"
 

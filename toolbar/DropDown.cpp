@@ -1,7 +1,7 @@
 #include "toolbar/DropDown.h"
 
 #include "toolbar/SpeedButton.h"
-#include "toolbar/StillThere.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/menus/PopupMenu.h"
 

@@ -4,7 +4,7 @@
 #include "toolbar/DitherBrush.h"
 #include "toolbar/ImageCells.h"
 #include "toolbar/SolidFill.h"
-#include "toolbar/StillThere.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/system/ClassBuilder.h"
 

@@ -1,9 +1,9 @@
 #include "vcl/menus/Menu.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/graphics/ImageList.h"
 #include "vcl/system/ClassBuilder.h"
 
-#include <memory>
 #include <vector>
 
 void TMenu::Describe(TClassBuilder<TMenu>& Class)
@@ -72,9 +72,9 @@ bool TMenu::DispatchPopup(HMENU Handle)
     TMenuItem* Item = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle);
     if (!Item)
         return false;
-    const std::weak_ptr<bool> Alive = FLife;
+    const TStillThere IsHere(this);
     Item->Click();
-    if (Alive.expired())
+    if (!IsHere)
         return true;
     // The handler may have deleted the item.
     if (TMenuItem* Still = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle))
@@ -92,19 +92,19 @@ bool TMenu::IsShortCut(TShortCut ShortCut)
 }
 
 // Opens the submenus that Item lies in, as far as their handlers are concerned. False when Item cannot be chosen.
-bool TMenu::OpenPathTo(TMenuItem* Item) const
+bool TMenu::OpenPathTo(TMenuItem* Item)
 {
     std::vector<TMenuItem*> Path;
     for (TMenuItem* Above = Item->Parent; Above && Above->Parent; Above = Above->Parent)
         Path.push_back(Above);
     const uint16_t Command = Item->Command;
-    const std::weak_ptr<bool> Alive = FLife;
+    const TStillThere IsHere(this);
     for (size_t I = Path.size(); I-- > 0;) {
         if (!Path[I]->CanBeChosen())
             return false;
         Path[I]->Click();
         // The handler may have rebuilt the submenu, or deleted the menu.
-        if (Alive.expired() || FindItem(Command, fkCommand) != Item)
+        if (!IsHere || FindItem(Command, fkCommand) != Item)
             return false;
     }
     return Item->CanBeChosen();

@@ -81,13 +81,11 @@ protected:
     void MarkStale() { FItems->FStale = true; }
 
     HWND FWindowHandle = nullptr;
-    // Handlers may delete the menu: who has called one asks a weak copy of this whether the menu is still there.
-    const std::shared_ptr<bool> FLife = std::make_shared<bool>(true);
 
 private:
     HMENU CreateNativeMenu() const;
 
-    bool OpenPathTo(TMenuItem* Item) const;
+    bool OpenPathTo(TMenuItem* Item);
 
     TMenuItem* FItems;
     TCustomImageList* FImages = nullptr;

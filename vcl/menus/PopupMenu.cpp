@@ -1,5 +1,6 @@
 #include "vcl/menus/PopupMenu.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/menus/PopupList.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -51,10 +52,11 @@ void TPopupMenu::CloseMenu()
 
 bool TPopupMenu::IsShortCut(TShortCut ShortCut)
 {
-    const std::weak_ptr<bool> Alive = FLife;
-    if (FindItem(ShortCut, fkShortCut))
-        DoPopup(this);
-    return !Alive.expired() && TMenu::IsShortCut(ShortCut);
+    if (!FindItem(ShortCut, fkShortCut))
+        return false;
+    const TStillThere IsHere(this);
+    DoPopup(this);
+    return IsHere && TMenu::IsShortCut(ShortCut);
 }
 
 unsigned TPopupMenu::TrackFlags() const

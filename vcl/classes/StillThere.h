@@ -1,4 +1,4 @@
-// TStillThere: whether a component still is, after handlers that may delete it: those that run while a menu is open.
+// TStillThere: whether a component still is, after handlers that may delete it.
 #pragma once
 
 #include "vcl/classes/Component.h"
