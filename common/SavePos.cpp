@@ -1,6 +1,7 @@
 #include "common/SavePos.h"
 
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
 
 void TkelSavePos::Describe(TClassBuilder<TkelSavePos>&)
 {}
@@ -19,11 +20,8 @@ TkelSavePos::~TkelSavePos()
     DeallocateHWnd(FWindow);
     if (IsDesigning())
         return;
-    try {
-        SaveFormPosition(FPosition);
-    } catch (...) {
-        ReportException(nullptr); // nothing may leave a destructor
-    }
+    // Nothing may leave a destructor.
+    Guarded(nullptr, [this] { SaveFormPosition(FPosition); });
 }
 
 // A form whose destructors run is no TForm any more, and is left alone.

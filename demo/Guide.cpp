@@ -1,7 +1,7 @@
 #include "demo/Guide.h"
 
-#include "tests/support/SystemInput.h"
-#include "tests/support/WhileMenuOpen.h"
+#include "robot/SystemInput.h"
+#include "robot/WhileMenuOpen.h"
 #include "vcl/controls/Mouse.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Screen.h"

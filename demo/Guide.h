@@ -3,7 +3,7 @@
 // Everything that does not come about in time raises an Exception "The tour waits in vain: %s".
 #pragma once
 
-#include "tests/support/Script.h"
+#include "robot/Script.h"
 #include "vcl/forms/Form.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 #include "demo/MenuTour.h"
 
 #include "demo/Main.h"
-#include "tests/support/MenuSteps.h"
+#include "robot/MenuSteps.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "menus/MenuHooks.h"
 
 #include "menus/MenuTracking.h"
-#include "toolbar/ScopedValue.h"
 #include "vcl/graphics/Handle.h"
+#include "vcl/system/Scope.h"
 
 namespace {
 

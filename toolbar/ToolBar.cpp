@@ -1,11 +1,11 @@
 #include "toolbar/ToolBar.h"
 
 #include "toolbar/Flpfrm97.h"
-#include "toolbar/ScopedValue.h"
 #include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBarPosition.h"
 #include "vcl/registry/Registry.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 namespace {
 

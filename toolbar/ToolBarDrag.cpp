@@ -1,7 +1,7 @@
 // Dragging a bar, and floating.
 #include "toolbar/Flpfrm97.h"
-#include "toolbar/ScopedValue.h"
 #include "toolbar/ToolBar.h"
+#include "vcl/system/Scope.h"
 
 #include <algorithm>
 

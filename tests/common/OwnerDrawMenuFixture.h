@@ -3,8 +3,8 @@
 
 #include "common/Menu.h"
 #include "common/PopupMenu.h"
+#include "robot/WhileMenuOpen.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/WhileMenuOpen.h"
 #include "vcl/menus/PopupList.h"
 
 #include <gmock/gmock.h>

@@ -3,6 +3,7 @@
 
 #include "tests/controls/TestWindow.h"
 #include "tests/support/Input.h"
+#include "tests/support/Reports.h"
 #include "vcl/controls/DragObject.h"
 #include "vcl/menus/UtilityWindow.h"
 #include "vcl/system/Format.h"
@@ -51,7 +52,6 @@ protected:
     {
         // The class of hidden windows is registered once.
         DeallocateHWnd(AllocateHWnd([](TMessage&) {}));
-        SystemReport = ReportException;
     }
     void SetUp() override
     {
@@ -64,21 +64,12 @@ protected:
         Window.Caption = "window";
         Watch(Target, true);
         Window.Open();
-        ReportException = [](TObject*) {
-            try {
-                throw;
-            } catch (const std::exception& E) {
-                Reported.push_back(E.what());
-            }
-        };
-        Reported.clear();
         MovePointerTo(Source, 10, 10);
     }
     void TearDown() override
     {
         ReleaseButton();
         MovePointerAway();
-        ReportException = SystemReport;
         if (!WindowIsGone)
             ControlsTest::TearDown();
         EXPECT_EQ(GetCapture(), nullptr);
@@ -128,7 +119,5 @@ protected:
     TPiece* Target = NewPiece("target", 120);
     TLog Log;
     bool WindowIsGone = false;
-
-    static inline TLog Reported;
-    static inline TExceptionReport SystemReport;
+    TReports Reports;
 };

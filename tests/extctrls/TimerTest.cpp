@@ -2,9 +2,12 @@
 
 #include "tests/support/FormText.h"
 #include "tests/support/Input.h"
+#include "tests/support/Reports.h"
 #include "vcl/menus/UtilityWindow.h"
 
 #include <gmock/gmock.h>
+
+using testing::ElementsAre;
 
 TEST(TimerTest, PublishesItsPropertiesInOrder)
 {
@@ -53,28 +56,15 @@ TEST(TimerTest, MayBeDeletedByItsHandler)
     EXPECT_TRUE(PumpUntil([&] { return Raised; }));
 }
 
-namespace {
-AnsiString Reported;
-}
-
 TEST(TimerTest, AnExceptionOfTheHandlerIsReported)
 {
-    TExceptionReport Before = ReportException;
-    ReportException = [](TObject* Sender) {
-        try {
-            throw;
-        } catch (const Exception& E) {
-            Reported = AnsiString(Sender->ClassName()) + ": " + E.Message;
-        }
-    };
-    Reported.clear();
+    const TReports Reports;
     auto Timer = std::make_unique<TTimer>(nullptr);
     Timer->Interval = 10;
     Timer->OnTimer = [&](TObject*) {
         Timer->Enabled = false;
         throw Exception("late");
     };
-    EXPECT_TRUE(PumpUntil([&] { return !Reported.empty(); }));
-    EXPECT_EQ(Reported, "TTimer: late");
-    ReportException = Before;
+    EXPECT_TRUE(PumpUntil([&] { return !Reports.Texts().empty(); }));
+    EXPECT_THAT(Reports.Texts(), ElementsAre("TTimer: late"));
 }

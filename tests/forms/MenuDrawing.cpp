@@ -3,7 +3,7 @@
 #include "vcl/graphics/ImageList.h"
 #include "vcl/menus/MainMenu.h"
 
-#include "tests/support/WhileMenuOpen.h"
+#include "robot/WhileMenuOpen.h"
 
 namespace {
 

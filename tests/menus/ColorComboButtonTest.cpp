@@ -1,10 +1,10 @@
 #include "menus/ColorComboButton.h"
 
+#include "robot/WhileMenuOpen.h"
 #include "tests/menus/MenuScript.h"
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
 #include "tests/support/Strips.h"
-#include "tests/support/WhileMenuOpen.h"
 #include "toolbar/ToolBar.h"
 #include "vcl/system/LiveCount.h"
 

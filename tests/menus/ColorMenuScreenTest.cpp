@@ -1,10 +1,10 @@
 // Colour menus on the screen, under a real mouse and keyboard.
 #include "menus/ColorMenu.h"
 
+#include "robot/WhileMenuOpen.h"
 #include "tests/menus/MenuScript.h"
 #include "tests/menus/PaletteColor.h"
 #include "tests/support/PixelImage.h"
-#include "tests/support/WhileMenuOpen.h"
 
 #include <gmock/gmock.h>
 #include <set>

@@ -1,7 +1,7 @@
 // Images of menu items, and menus that the program draws: as they stand on the screen, and item by item.
+#include "robot/SystemInput.h"
+#include "robot/WhileMenuOpen.h"
 #include "tests/menus/TopWindow.h"
-#include "tests/support/SystemInput.h"
-#include "tests/support/WhileMenuOpen.h"
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/graphics/ImageList.h"
 #include "vcl/menus/PopupList.h"

@@ -1,10 +1,10 @@
 // Menus under a real mouse and keyboard: what a user does while menus are open.
 #pragma once
 
+#include "robot/MenuSteps.h"
+#include "robot/Script.h"
 #include "tests/support/FormTest.h"
-#include "tests/support/MenuSteps.h"
 #include "tests/support/PaintToBitmap.h"
-#include "tests/support/Script.h"
 
 // What bars keep lies under this title.
 inline constexpr const char* MenuTestsTitle = "Tessary menu tests";

@@ -1,8 +1,8 @@
 // Office menus as components and on the screen.
+#include "robot/WhileMenuOpen.h"
 #include "tests/menus/OfficeMenuFixture.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/FormText.h"
-#include "tests/support/WhileMenuOpen.h"
 #include "vcl/system/ClassDescription.h"
 
 using testing::ElementsAre;

@@ -1,10 +1,11 @@
 // Popup menus on the screen, with real input.
-#include "tests/support/WhileMenuOpen.h"
+#include "robot/WhileMenuOpen.h"
+#include "tests/support/Reports.h"
 #include "vcl/menus/PopupList.h"
 #include "vcl/menus/UtilityWindow.h"
 
+#include "robot/SystemInput.h"
 #include "tests/menus/TopWindow.h"
-#include "tests/support/SystemInput.h"
 #include "vcl/system/LiveCount.h"
 
 #include <functional>
@@ -236,15 +237,7 @@ TEST(UtilityWindow, MayGoInItsOwnMethod)
 
 TEST(UtilityWindow, ExceptionsGoToTheReport)
 {
-    static std::vector<AnsiString> Reports;
-    const TExceptionReport Before = ReportException;
-    ReportException = [](TObject*) {
-        try {
-            throw;
-        } catch (const Exception& E) {
-            Reports.push_back(E.Message);
-        }
-    };
+    const TReports Reports;
     HWND Window = AllocateHWnd([](TMessage& Message) {
         if (Message.Msg == WM_APP)
             throw EInvalidOperation("from a handler");
@@ -252,6 +245,5 @@ TEST(UtilityWindow, ExceptionsGoToTheReport)
     SendMessageW(Window, WM_APP, 0, 0);
     EXPECT_TRUE(IsWindow(Window));
     DeallocateHWnd(Window);
-    ReportException = Before;
-    EXPECT_THAT(Reports, ElementsAre("from a handler"));
+    EXPECT_THAT(Reports.Texts(), ElementsAre("from a handler"));
 }

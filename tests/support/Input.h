@@ -1,7 +1,7 @@
 // Real mouse and keyboard input for tests, with the messages that follow handled.
 #pragma once
 
-#include "tests/support/SystemInput.h"
+#include "robot/SystemInput.h"
 
 // Moves the pointer to a point of the screen, or of a control; returns when the system has it there and the messages
 // that follow are handled. It is a failure of the test when the pointer does not get there.

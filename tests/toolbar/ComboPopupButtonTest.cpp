@@ -1,10 +1,10 @@
 #include "toolbar/ComboPopupButton.h"
 
+#include "robot/SystemInput.h"
+#include "robot/WhileMenuOpen.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
-#include "tests/support/SystemInput.h"
-#include "tests/support/WhileMenuOpen.h"
 #include "tests/toolbar/ButtonParts.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 #include "toolbar/PopupButton.h"
 
+#include "robot/SystemInput.h"
+#include "robot/WhileMenuOpen.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/FormText.h"
-#include "tests/support/SystemInput.h"
-#include "tests/support/WhileMenuOpen.h"
 #include "tests/toolbar/ButtonParts.h"
 #include "tests/toolbar/SpeedButtonFixture.h"
 #include "toolbar/RandomGroup.h"

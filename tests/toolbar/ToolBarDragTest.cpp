@@ -1,5 +1,5 @@
 // Bars under a real mouse: sliding, trading places, tearing off, floating, docking.
-#include "tests/support/SystemInput.h"
+#include "robot/SystemInput.h"
 #include "tests/toolbar/DockFixture.h"
 #include "toolbar/Flpfrm97.h"
 

@@ -44,8 +44,7 @@ void TComponent::BeforeDestruction()
 {
     SetState(csDestroying, true);
     DestroyComponents();
-    if (!FFreeNotifies)
-        return;
+    ClearLinks();
     // Each leaves the list before it is told, so that telling may change the list.
     while (FFreeNotifies && !FFreeNotifies->empty()) {
         TComponent* Listener = FFreeNotifies->back();

@@ -11,6 +11,7 @@
 #include <vector>
 
 class TComponent;
+class TComponentLink;
 class TNameTable;
 class TReader;
 class TWriter;
@@ -122,9 +123,11 @@ protected:
     bool IsDestroying() const { return FState.Contains(csDestroying); }
 
 private:
+    friend class TComponentLink;
     friend class TReader;
     friend class TWriter;
 
+    void ClearLinks();
     void Insert(TComponent* Component);
     void Remove(TComponent* Component);
     void ReadLeft(TReader* Reader);
@@ -137,6 +140,7 @@ private:
     std::unique_ptr<std::vector<TComponent*>> FComponents;
     std::unique_ptr<TNameTable> FNames;
     std::unique_ptr<std::vector<TComponent*>> FFreeNotifies;
+    TComponentLink* FLinks = nullptr; // the references to this component (TComponentRef)
     TComponentState FState;
     TComponentStyle FStyle{csInheritable};
     bool FTracked = false; // a reader at work holds pointers to it

@@ -1,29 +1,14 @@
 // TStillThere: whether a component still is, after handlers that may delete it.
 #pragma once
 
-#include "vcl/classes/Component.h"
+#include "vcl/classes/ComponentRef.h"
 
-class TStillThere : private TComponent {
+class TStillThere {
 public:
-    explicit TStillThere(TComponent* Component) : TComponent(nullptr), FComponent(Component)
-    {
-        Component->FreeNotification(this);
-    }
-    ~TStillThere() override
-    {
-        if (FComponent)
-            FComponent->RemoveFreeNotification(this);
-    }
-    TStillThere(const TStillThere&) = delete;
+    explicit TStillThere(TComponent* Component) : FComponent(Component) {}
 
     explicit operator bool() const { return FComponent != nullptr; }
 
 private:
-    void Notification(TComponent* Component, TOperation Operation) override
-    {
-        if (Operation == opRemove && Component == FComponent)
-            FComponent = nullptr;
-    }
-
-    TComponent* FComponent;
+    TComponentRef<TComponent> FComponent;
 };

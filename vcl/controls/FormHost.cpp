@@ -1,8 +1,5 @@
 #include "vcl/controls/FormHost.h"
 
-#include "vcl/system/Exceptions.h"
-#include "vcl/system/Utf.h"
-
 namespace {
 
 TFormHost DefaultHost;
@@ -40,16 +37,6 @@ TFormHost* TFormHost::Install(TFormHost* Host)
     TFormHost* Before = Current;
     Current = Host ? Host : &DefaultHost;
     return Before;
-}
-
-void TFormHost::HandleException(TObject*)
-{
-    try {
-        throw;
-    } catch (const EAbort&) {
-    } catch (const std::exception& E) {
-        MessageBoxW(nullptr, TWideText(E.what()).c_str(), nullptr, MB_OK | MB_ICONERROR | MB_TASKMODAL);
-    }
 }
 
 HCURSOR TFormHost::CursorHandle(TCursor Cursor)

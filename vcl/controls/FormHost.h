@@ -9,8 +9,6 @@ class TFormHost {
 public:
     virtual ~TFormHost() = default;
 
-    // Called inside a catch block: reports the exception that is being handled. Default: a message box.
-    virtual void HandleException(TObject* Sender);
     // The cursor of a slot; nullptr for crNone. Default: the system cursors.
     virtual HCURSOR CursorHandle(TCursor Cursor);
     // The pointer left Old or entered New (either may be nullptr); for hints.

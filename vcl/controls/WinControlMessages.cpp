@@ -8,6 +8,7 @@
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/graphics/Brush.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
 
 void TWinControl::Describe(TClassBuilder<TWinControl>& Class)
 {
@@ -76,13 +77,15 @@ void TWinControl::Describe(TClassBuilder<TWinControl>& Class)
 
 void TWinControl::MainWndProc(TMessage& Message)
 {
+    const HWND Window = FHandle;
     try {
         if (TWndMethod& Hook = FWindowProc)
             Hook(Message);
         else
             WndProc(Message);
     } catch (...) {
-        TFormHost::Get().HandleException(this);
+        // The handler that throws may have deleted the control.
+        ReportException(FindControl(Window) == this ? this : nullptr);
     }
     TControlCanvas::FreeHandles();
 }

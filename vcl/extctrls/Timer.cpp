@@ -3,6 +3,7 @@
 #include "vcl/graphics/GraphicErrors.h"
 #include "vcl/menus/UtilityWindow.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
 
 #include <unordered_set>
 

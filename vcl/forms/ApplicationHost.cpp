@@ -3,11 +3,9 @@
 #include "vcl/forms/Application.h"
 #include "vcl/forms/HintController.h"
 #include "vcl/forms/Screen.h"
-#include "vcl/menus/UtilityWindow.h"
+#include "vcl/system/Guard.h"
 
 namespace {
-
-TExceptionReport DefaultReport = nullptr;
 
 void ReportToApplication(TObject* Sender)
 {
@@ -20,8 +18,7 @@ TApplicationHost::TApplicationHost(TApplication& Application)
     : FApplication(Application),
       FBefore(TFormHost::Install(this))
 {
-    DefaultReport = ReportException;
-    ReportException = &ReportToApplication;
+    SetExceptionSink(&ReportToApplication);
     // Static objects are not made in order: PopupList may not be set yet.
     TPopupList::Get().OnHint = [this](const AnsiString& Hint) { FApplication.Hint = Hint; };
 }
@@ -29,13 +26,8 @@ TApplicationHost::TApplicationHost(TApplication& Application)
 TApplicationHost::~TApplicationHost()
 {
     TPopupList::Get().OnHint = nullptr;
-    ReportException = DefaultReport;
+    SetExceptionSink(nullptr);
     TFormHost::Install(FBefore);
-}
-
-void TApplicationHost::HandleException(TObject* Sender)
-{
-    FApplication.HandleException(Sender);
 }
 
 HCURSOR TApplicationHost::CursorHandle(TCursor Cursor)

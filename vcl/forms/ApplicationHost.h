@@ -11,7 +11,6 @@ public:
     explicit TApplicationHost(TApplication& Application);
     ~TApplicationHost() override;
 
-    void HandleException(TObject* Sender) override;
     HCURSOR CursorHandle(TCursor Cursor) override;
     void HotControlChanged(TControl* Old, TControl* New) override;
     void CancelHint() override;

@@ -1,8 +1,8 @@
 #include "vcl/menus/UtilityWindow.h"
 
 #include "vcl/graphics/GraphicErrors.h"
+#include "vcl/system/Guard.h"
 #include "vcl/system/LiveCount.h"
-#include "vcl/system/Utf.h"
 
 #include <memory>
 
@@ -18,11 +18,7 @@ LRESULT CALLBACK UtilityProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam
     const TWndMethod Method = *Held; // the method may end the window
 
     TMessage Message{.Msg = Msg, .WParam = WParam, .LParam = LParam};
-    try {
-        Method(Message);
-    } catch (...) {
-        ReportException(Method.Data());
-    }
+    Guarded(Method.Data(), [&] { Method(Message); });
     return Message.Result;
 }
 
@@ -38,22 +34,7 @@ void RegisterUtilityClass()
     (void)Registered;
 }
 
-void ShowExceptionBox(TObject*)
-{
-    try {
-        throw;
-    } catch (const EAbort&) {
-        // Silent by its meaning.
-    } catch (const std::exception& E) {
-        MessageBoxW(nullptr, TWideText(E.what()).c_str(), nullptr, MB_OK | MB_ICONERROR | MB_TASKMODAL);
-    } catch (...) {
-        MessageBoxW(nullptr, L"Unknown exception", nullptr, MB_OK | MB_ICONERROR | MB_TASKMODAL);
-    }
-}
-
 } // namespace
-
-TExceptionReport ReportException = &ShowExceptionBox;
 
 HWND AllocateHWnd(const TWndMethod& Method)
 {

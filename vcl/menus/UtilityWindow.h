@@ -1,4 +1,4 @@
-// Hidden windows for timers, notifications and menu commands, and where exceptions in window procedures go.
+// Hidden windows for timers, notifications and menu commands.
 #pragma once
 
 #include "vcl/classes/InputTypes.h"
@@ -12,8 +12,3 @@ void DeallocateHWnd(HWND Window);
 
 // Message's ordinary treatment by the system.
 void DefaultWindowProc(HWND Window, TMessage& Message);
-
-// Called inside a catch block: reports the exception that is being handled. No exception leaves a window procedure;
-// it comes here. Default: a message box with the exception's text. The application puts its own function here.
-using TExceptionReport = void (*)(TObject* Sender);
-extern TExceptionReport ReportException;

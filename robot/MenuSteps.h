@@ -4,8 +4,8 @@
 #include "menus/MenuButton.h"
 #include "menus/MenuTracking.h"
 #include "menus/OfficePopupMenu.h"
-#include "tests/support/SystemInput.h"
-#include "tests/support/WhileMenuOpen.h"
+#include "robot/SystemInput.h"
+#include "robot/WhileMenuOpen.h"
 
 inline auto IsOpen(const TkelMenuButton* Button)
 {

@@ -1,4 +1,4 @@
-#include "tests/support/SystemInput.h"
+#include "robot/SystemInput.h"
 
 namespace {
 
