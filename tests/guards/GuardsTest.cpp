@@ -14,6 +14,6 @@ TEST(Guards, HandleFreedTwice)
 
 TEST(Guards, EndlessLoop)
 {
-    for (volatile int I = 0;; I = I + 1) {
+    for (volatile unsigned I = 0;; I = I + 1) {
     }
 }
