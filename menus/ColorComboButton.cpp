@@ -1,8 +1,8 @@
 #include "menus/ColorComboButton.h"
 
 #include "toolbar/DropDown.h"
-#include "toolbar/SolidFill.h"
 #include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "menus/ColorMenu.h"
 
-#include "toolbar/DitherBrush.h"
-#include "toolbar/SolidFill.h"
+#include "vcl/graphics/DitherBrush.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "menus/FolderMenu.h"
 
 #include "common/PopupTracking.h"
-#include "toolbar/SolidFill.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/SysUtils.h"
 

@@ -4,9 +4,9 @@
 #include "menus/TurnedPicture.h"
 #include "toolbar/ButtonContent.h"
 #include "toolbar/RandomGroup.h"
-#include "toolbar/SolidFill.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/graphics/Canvas.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 
 namespace {

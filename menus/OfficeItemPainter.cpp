@@ -1,9 +1,9 @@
 #include "menus/OfficeItemPainter.h"
 
-#include "toolbar/DitherBrush.h"
 #include "toolbar/ImageCells.h"
-#include "toolbar/SolidFill.h"
 #include "vcl/graphics/DisabledText.h"
+#include "vcl/graphics/DitherBrush.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/menus/ShortCut.h"
 
 namespace {

@@ -1,11 +1,11 @@
 #include "toolbar/SpeedButton.h"
 
 #include "toolbar/ButtonContent.h"
-#include "toolbar/DitherBrush.h"
 #include "toolbar/ImageCells.h"
-#include "toolbar/SolidFill.h"
 #include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/graphics/DitherBrush.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 
 namespace {

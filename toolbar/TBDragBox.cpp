@@ -1,6 +1,6 @@
 #include "toolbar/TBDragBox.h"
 
-#include "toolbar/SolidFill.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "toolbar/TBSeparator.h"
 
-#include "toolbar/SolidFill.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TkelTBSeparator::Describe(TClassBuilder<TkelTBSeparator>& Class)

@@ -3,7 +3,6 @@
 
 #include "toolbar/ComboButton.h"
 #include "toolbar/ComboPopupButton.h"
-#include "toolbar/DitherBrush.h"
 #include "toolbar/Dock.h"
 #include "toolbar/DrawBitmapTransparent.h"
 #include "toolbar/Glyphs.h"
@@ -15,3 +14,4 @@
 #include "toolbar/TBSeparator.h"
 #include "toolbar/ToolBar.h"
 #include "toolbar/ToolBarPosition.h"
+#include "vcl/graphics/DitherBrush.h"

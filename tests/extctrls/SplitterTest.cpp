@@ -143,6 +143,32 @@ TEST_F(SplitterTest, TheLineGoesAwayWithoutATrace)
     EXPECT_EQ(Moves, 0);
 }
 
+TEST_F(SplitterTest, ThePatternInvertsEverySecondPixel)
+{
+    Arrange(alLeft);
+    Form->Color = TColor(0x123456);
+    UpdateWindow(Form->Handle);
+    const TRect Line = Bounds(Splitter->Left + 50, 10, Splitter->Width, 40);
+    const TPixelImage Before = ScreenPixels(Form.get()).Part(Line);
+    const TPoint From = Splitter->ClientToScreen({1, 1});
+    MovePointer(From);
+    PressButton();
+    MovePointer(From + TPoint(50, 0));
+    const TPixelImage During = ScreenPixels(Form.get()).Part(Line);
+    ReleaseButton();
+    int Inverted = 0;
+    for (int Y = 0; Y < Line.Height(); ++Y)
+        for (int X = 0; X < Line.Width(); ++X) {
+            const TColor Pixel = During.At(X, Y);
+            const bool IsInverted = Pixel == TColor(Before.At(X, Y) ^ 0xFFFFFF);
+            EXPECT_TRUE(IsInverted || Pixel == Before.At(X, Y)) << X << ", " << Y << ": " << Pixel;
+            if (X > 0)
+                EXPECT_NE(Pixel, During.At(X - 1, Y)) << X << ", " << Y;
+            Inverted += IsInverted;
+        }
+    EXPECT_EQ(Inverted, Line.Width() * Line.Height() / 2);
+}
+
 TEST_F(SplitterTest, PaintsItsFaceAndBevels)
 {
     Arrange(alLeft);

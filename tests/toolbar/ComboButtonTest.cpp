@@ -3,7 +3,7 @@
 #include "tests/support/FormText.h"
 #include "tests/toolbar/ButtonParts.h"
 #include "tests/toolbar/SpeedButtonFixture.h"
-#include "toolbar/DitherBrush.h"
+#include "vcl/graphics/DitherBrush.h"
 #include "vcl/system/LiveCount.h"
 
 #include <gmock/gmock.h>

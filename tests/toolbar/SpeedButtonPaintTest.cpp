@@ -1,6 +1,6 @@
 // Every step of painting a speed button, in every state, pixel by pixel.
 #include "tests/toolbar/SpeedButtonFixture.h"
-#include "toolbar/DitherBrush.h"
+#include "vcl/graphics/DitherBrush.h"
 #include "vcl/system/LiveCount.h"
 
 namespace {

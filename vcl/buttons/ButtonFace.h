@@ -10,6 +10,3 @@ class TCanvas;
 // the black frame of a default button. The other styles are drawn like bsNew; BevelWidth and IsRounded were theirs.
 TRect DrawButtonFace(TCanvas* Canvas, const TRect& Client, int BevelWidth, TButtonStyle Style, bool IsRounded,
                      bool IsDown, bool IsFocused);
-
-// Fills R with the pattern of a button that stays down: face and highlight pixel by pixel in turn.
-void FillPushed(TCanvas* Canvas, const TRect& R);

@@ -1,7 +1,7 @@
 #include "vcl/buttons/SpeedButton.h"
 
-#include "vcl/buttons/ButtonFace.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/graphics/DitherBrush.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TSpeedButton::Describe(TClassBuilder<TSpeedButton>& Class)
@@ -60,7 +60,7 @@ void TSpeedButton::Paint()
         DrawFrameControl(Canvas->Handle, &R, DFC_BUTTON,
                          DFCS_BUTTONPUSH | DFCS_ADJUSTRECT | (Pressed ? DFCS_PUSHED : 0));
     if (FState == bsExclusive && !(FFlat && FMouseInControl))
-        FillPushed(Canvas, R);
+        FillDithered(Canvas->Handle, R);
 
     AnsiString Text = Caption;
     FGlyph.Draw(Canvas, {.Client = R,

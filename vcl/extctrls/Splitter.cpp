@@ -1,8 +1,8 @@
 #include "vcl/extctrls/Splitter.h"
 
 #include "vcl/controls/WinControl.h"
-#include "vcl/extctrls/DitherBrush.h"
 #include "vcl/extctrls/Frame3D.h"
+#include "vcl/graphics/DitherBrush.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TSplitter::Describe(TClassBuilder<TSplitter>& Class)
