@@ -193,10 +193,7 @@ void TkelFolderMenu::DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State
     if (!RectVisible(Context, &Rect))
         return;
     if (Item->IsLine()) {
-        const int Middle = (Rect.top + Rect.bottom) / 2;
-        TSolidFill Fill(Context);
-        Fill.Fill({Rect.left + 2, Middle, Rect.right - 2, Middle + 1}, clBtnShadow);
-        Fill.Fill({Rect.left + 2, Middle + 1, Rect.right - 2, Middle + 2}, clBtnHighlight);
+        TSolidFill(Context).EtchedLine(Rect.left + 2, Rect.right - 2, (Rect.top + Rect.bottom) / 2);
         return;
     }
     const bool IsSelected = (State & ODS_SELECTED) != 0;

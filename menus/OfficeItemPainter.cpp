@@ -50,11 +50,7 @@ void TOfficeItemPainter::DrawBanner(TkelMenuBanner* Banner, int Top, int Height)
 void TOfficeItemPainter::DrawSeparator()
 {
     const int Middle = FRect.top + FRect.Height() / 2;
-    {
-        TSolidFill Fill(FCanvas->BareHandle());
-        Fill.Fill({FRect.left + 1, Middle, FRect.right - 1, Middle + 1}, clBtnShadow);
-        Fill.Fill({FRect.left + 1, Middle + 1, FRect.right - 1, Middle + 2}, clBtnHighlight);
-    }
+    TSolidFill(FCanvas->BareHandle()).EtchedLine(FRect.left + 1, FRect.right - 1, Middle);
     const AnsiString Title = FItem->Caption.substr(1);
     if (Title.empty())
         return;

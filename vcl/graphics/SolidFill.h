@@ -1,4 +1,4 @@
-// TSolidFill: plain areas and one-pixel frames, drawn without a pen or brush of their own.
+// TSolidFill: plain areas, one-pixel frames and etched lines, drawn without a pen or brush of their own.
 #pragma once
 
 #include "vcl/graphics/Color.h"
@@ -33,6 +33,20 @@ public:
         Fill({R.left, R.top + 1, R.left + 1, R.bottom - 1}, TopLeft);
         Fill({R.right - 1, R.top, R.right, R.bottom}, BottomRight);
         Fill({R.left, R.bottom - 1, R.right - 1, R.bottom}, BottomRight);
+    }
+
+    // A line that looks cut into the surface, from Left to Right: clBtnShadow at Y, clBtnHighlight below it.
+    void EtchedLine(int Left, int Right, int Y)
+    {
+        Fill({Left, Y, Right, Y + 1}, clBtnShadow);
+        Fill({Left, Y + 1, Right, Y + 2}, clBtnHighlight);
+    }
+
+    // The same from Top to Bottom: clBtnShadow at X, clBtnHighlight to the right of it.
+    void VerticalEtchedLine(int X, int Top, int Bottom)
+    {
+        Fill({X, Top, X + 1, Bottom}, clBtnShadow);
+        Fill({X + 1, Top, X + 2, Bottom}, clBtnHighlight);
     }
 
 private:
