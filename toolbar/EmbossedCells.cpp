@@ -2,22 +2,8 @@
 
 #include "vcl/graphics/Bitmap.h"
 
-namespace {
-
-constexpr uint32_t ColorBits = 0x00FFFFFF;
-constexpr uint32_t Opaque = 0xFF000000;
-
-uint32_t OpaquePixel(COLORREF Color)
-{
-    return Opaque | GetRValue(Color) << 16 | GetGValue(Color) << 8 | GetBValue(Color);
-}
-
-} // namespace
-
 TEmbossedCells::TEmbossedCells(const TCellGrid& Grid)
     : FGrid(Grid),
-      FShadow(ColorToRGB(clBtnShadow)),
-      FHighlight(ColorToRGB(clBtnHighlight)),
       FImage(Grid.Cols * (Grid.CellWidth + 1), Grid.Rows * (Grid.CellHeight + 1))
 {}
 
@@ -32,24 +18,15 @@ TEmbossedCells::TEmbossedCells(TBitmap* Picture, const TCellGrid& Grid) : TEmbos
 
 void TEmbossedCells::SetCell(int Index, const uint32_t* Source, int SourceWidth)
 {
-    const uint32_t Shadow = OpaquePixel(FShadow);
-    const uint32_t Highlight = OpaquePixel(FHighlight);
+    constexpr uint32_t ColorBits = 0x00FFFFFF;
     const TRect Cell = FGrid.CellAt(Index, FGrid.CellWidth + 1, FGrid.CellHeight + 1);
-    const int Width = FImage.Width();
-    for (int Y = 0; Y < FGrid.CellHeight; ++Y)
-        for (int X = 0; X < FGrid.CellWidth; ++X) {
-            if (Source[Y * SourceWidth + X] & ColorBits)
-                continue;
-            // In this order: where two black pixels follow each other, the shadow of the second stays on top.
-            uint32_t* Pixel = FImage.Pixels() + (Cell.top + Y) * Width + Cell.left + X;
-            Pixel[Width + 1] = Highlight;
-            *Pixel = Shadow;
-        }
+    FEmbossing.Stamp(FImage, Cell.left, Cell.top, Source, SourceWidth, {FGrid.CellWidth, FGrid.CellHeight},
+                     [](uint32_t Pixel) { return (Pixel & ColorBits) == 0; });
 }
 
 bool TEmbossedCells::IsCurrent(const TCellGrid& Grid) const
 {
-    return Grid == FGrid && FShadow == ColorToRGB(clBtnShadow) && FHighlight == ColorToRGB(clBtnHighlight);
+    return Grid == FGrid && FEmbossing == TEmbossing();
 }
 
 void TEmbossedCells::Draw(HDC Target, int X, int Y, int Index) const

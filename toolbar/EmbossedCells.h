@@ -1,10 +1,10 @@
 // TEmbossedCells: the cells of a picture as disabled buttons show them, ready to draw.
 //
-// Of each cell only the black pixels are left: clBtnShadow where they are, clBtnHighlight one pixel to the lower right.
-// The highlight may reach one pixel beyond the cell's right and bottom edge.
+// Of each cell only the black pixels are left, as TEmbossing draws them. The highlight may reach one pixel beyond the
+// cell's right and bottom edge.
 #pragma once
 
-#include "vcl/graphics/MaskedImage.h"
+#include "vcl/graphics/Embossing.h"
 
 // Equal cells in rows and columns, numbered row by row from 0.
 struct TCellGrid {
@@ -39,7 +39,6 @@ public:
 
 private:
     TCellGrid FGrid;
-    COLORREF FShadow;
-    COLORREF FHighlight;
+    TEmbossing FEmbossing;
     TMaskedImage FImage;
 };

@@ -2,6 +2,7 @@
 
 #include "vcl/graphics/Canvas.h"
 #include "vcl/graphics/DisabledText.h"
+#include "vcl/graphics/Embossing.h"
 
 TButtonGlyph::TButtonGlyph()
 {
@@ -52,33 +53,6 @@ bool IsDark(uint32_t Pixel)
     unsigned Green = (Pixel >> 8) & 0xFF;
     unsigned Blue = Pixel & 0xFF;
     return Pixel >> 24 != 0 && Red * 3 + Green * 6 + Blue < 192 * 10;
-}
-
-uint32_t Opaque(TColor Color)
-{
-    COLORREF Value = ColorToRGB(Color);
-    return 0xFF000000u | unsigned{GetRValue(Value)} << 16 | unsigned{GetGValue(Value)} << 8 | GetBValue(Value);
-}
-
-// Turns a picture into its engraved form: dark pixels in the shadow colour, with a highlight to the lower right.
-void Engrave(TMaskedImage& Image)
-{
-    int Width = Image.Width();
-    int Height = Image.Height();
-    uint32_t* Pixels = Image.Pixels();
-    uint32_t Shadow = Opaque(clBtnShadow);
-    uint32_t Highlight = Opaque(clBtnHighlight);
-    // From the lower right on, so that the pixel up left is still the original.
-    for (int Y = Height - 1; Y >= 0; --Y)
-        for (int X = Width - 1; X >= 0; --X) {
-            uint32_t& Pixel = Pixels[Y * Width + X];
-            if (IsDark(Pixel))
-                Pixel = Shadow;
-            else if (X > 0 && Y > 0 && IsDark(Pixels[(Y - 1) * Width + X - 1]))
-                Pixel = Highlight;
-            else
-                Pixel = 0;
-        }
 }
 
 // Everything along one axis: where a first and a second part lie in Space.
@@ -156,8 +130,9 @@ void TButtonGlyph::DrawGlyph(TCanvas* Canvas, const TPoint& At, TButtonState Sta
 const TMaskedImage& TButtonGlyph::Disabled()
 {
     if (FDisabled.Empty()) {
-        FDisabled = TMaskedImage(&FGlyph, FGlyph.TransparentColor);
-        Engrave(FDisabled);
+        TMaskedImage Source(&FGlyph, FGlyph.TransparentColor);
+        FDisabled = TMaskedImage(Source.Width(), Source.Height());
+        TEmbossing().Stamp(FDisabled, 0, 0, Source.Pixels(), Source.Width(), GlyphSize(), &IsDark);
     }
     return FDisabled;
 }

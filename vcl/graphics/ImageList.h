@@ -5,8 +5,8 @@
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/graphics/Canvas.h"
 #include "vcl/graphics/ChangeLink.h"
+#include "vcl/graphics/Embossing.h"
 #include "vcl/graphics/Icon.h"
-#include "vcl/graphics/MaskedImage.h"
 
 #include <vector>
 
@@ -136,7 +136,7 @@ private:
     std::vector<bool> FReady; // which of FPrepared are
     TMaskedImage FDisabled;   // the same for disabled ones, each a pixel wider and higher
     std::vector<bool> FDisabledReady;
-    uint32_t FDisabledColors[2] = {};
+    TEmbossing FDisabledColors;
     int FWidth = 16;
     int FHeight = 16;
     int FUpdateCount = 0;

@@ -13,12 +13,6 @@ COLORREF ListColor(TColor Color)
     return Color == clNone ? CLR_NONE : Color == clDefault ? CLR_DEFAULT : ColorToRGB(Color);
 }
 
-uint32_t PixelOf(TColor Color)
-{
-    COLORREF Rgb = ColorToRGB(Color);
-    return 0xFF000000 | static_cast<uint32_t>(GetRValue(Rgb)) << 16 | GetGValue(Rgb) << 8 | GetBValue(Rgb);
-}
-
 // Pixel is multiplied by its alpha.
 bool IsWhiteOnWhite(uint32_t Pixel)
 {
@@ -77,31 +71,23 @@ bool TCustomImageList::SameImages(TCustomImageList& Other)
     return true;
 }
 
-// The image's shape, all of it that is not white on white, in the highlight colour; and over it, one pixel up and to
-// the left, in the shadow's.
+// The image's shape is all of it that would not be white on a white ground.
 const TMaskedImage& TCustomImageList::PreparedDisabled(int Index)
 {
-    const uint32_t Colors[2] = {PixelOf(clBtnHighlight), PixelOf(clBtnShadow)};
+    const TEmbossing Colors;
     int Width = FWidth + 1;
     int Height = FHeight + 1;
-    if (FDisabled.Empty() || !std::equal(Colors, Colors + 2, FDisabledColors)) {
+    if (FDisabled.Empty() || Colors != FDisabledColors) {
         FDisabled = TMaskedImage(Width, Height * GetCount());
         FDisabledReady.assign(static_cast<size_t>(GetCount()), false);
-        std::copy(Colors, Colors + 2, FDisabledColors);
+        FDisabledColors = Colors;
     }
     auto At = static_cast<size_t>(Index);
     if (FDisabledReady[At])
         return FDisabled;
     const uint32_t* From = Prepared(Index).Pixels() + At * static_cast<size_t>(FWidth * FHeight);
-    uint32_t* To = FDisabled.Pixels() + At * static_cast<size_t>(Width * Height);
-    auto Stamp = [&](int Offset, uint32_t Color) {
-        for (int Row = 0; Row < FHeight; ++Row)
-            for (int Column = 0; Column < FWidth; ++Column)
-                if (!IsWhiteOnWhite(From[Row * FWidth + Column]))
-                    To[(Row + Offset) * Width + Column + Offset] = Color;
-    };
-    Stamp(1, Colors[0]);
-    Stamp(0, Colors[1]);
+    Colors.Stamp(FDisabled, 0, Height * Index, From, FWidth, {FWidth, FHeight},
+                 [](uint32_t Pixel) { return !IsWhiteOnWhite(Pixel); });
     FDisabledReady[At] = true;
     return FDisabled;
 }

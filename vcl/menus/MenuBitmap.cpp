@@ -1,29 +1,5 @@
 #include "vcl/menus/MenuBitmap.h"
 
-#include <algorithm>
-
-namespace {
-
-uint32_t PixelOf(COLORREF Color)
-{
-    return 0xFF000000 | static_cast<uint32_t>(GetRValue(Color)) << 16 | GetGValue(Color) << 8 | GetBValue(Color);
-}
-
-// Paints the shape of Source with its upper left corner at Offset, Offset. What is white is no part of the shape.
-void Stamp(TMaskedImage& Target, TMaskedImage& Source, int Offset, COLORREF Color)
-{
-    constexpr uint32_t White = 0xFFFFFFFF;
-    const uint32_t* From = Source.Pixels();
-    for (int Y = 0; Y < Source.Height(); ++Y) {
-        uint32_t* To = Target.Pixels() + (Y + Offset) * Target.Width() + Offset;
-        for (int X = 0; X < Source.Width(); ++X, ++From, ++To)
-            if (*From != 0 && *From != White)
-                *To = PixelOf(Color);
-    }
-}
-
-} // namespace
-
 TMenuBitmap::TMenuBitmap(const TNotifyEvent& OnChange) : FOnChange(OnChange)
 {
     FBitmap.OnChange = {this, &TMenuBitmap::Changed};
@@ -37,14 +13,15 @@ void TMenuBitmap::Changed(TObject* Sender)
 
 const TMaskedImage& TMenuBitmap::Disabled()
 {
-    const COLORREF Colors[2] = {ColorToRGB(clBtnHighlight), ColorToRGB(clBtnShadow)};
-    if (!FDisabled.Empty() && std::equal(Colors, Colors + 2, FDisabledColors))
+    constexpr uint32_t White = 0xFFFFFFFF;
+    const TEmbossing Colors;
+    if (!FDisabled.Empty() && Colors == FDisabledColors)
         return FDisabled;
     TMaskedImage Source(&FBitmap, FBitmap.TransparentColor);
-    FDisabled = TMaskedImage(FBitmap.Width + 1, FBitmap.Height + 1);
-    Stamp(FDisabled, Source, 1, Colors[0]);
-    Stamp(FDisabled, Source, 0, Colors[1]);
-    std::copy(Colors, Colors + 2, FDisabledColors);
+    FDisabled = TMaskedImage(Source.Width() + 1, Source.Height() + 1);
+    FDisabledColors = Colors;
+    Colors.Stamp(FDisabled, 0, 0, Source.Pixels(), Source.Width(), Size(),
+                 [](uint32_t Pixel) { return Pixel != 0 && Pixel != White; });
     return FDisabled;
 }
 

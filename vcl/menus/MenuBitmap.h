@@ -2,7 +2,7 @@
 #pragma once
 
 #include "vcl/graphics/Bitmap.h"
-#include "vcl/graphics/MaskedImage.h"
+#include "vcl/graphics/Embossing.h"
 
 class TMenuBitmap : public TObject {
 public:
@@ -21,6 +21,6 @@ private:
 
     TBitmap FBitmap;
     TMaskedImage FDisabled; // prepared when first drawn
-    COLORREF FDisabledColors[2] = {};
+    TEmbossing FDisabledColors;
     TNotifyEvent FOnChange;
 };
