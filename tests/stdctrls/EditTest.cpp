@@ -94,6 +94,52 @@ TEST_F(EditTest, SelectionCountsBytesOfTheText)
     EXPECT_EQ(Edit->Text, "");
 }
 
+TEST_F(EditTest, APositionInsideOfACharacterIsBehindIt)
+{
+    Edit->Text = "aЖ😀b";
+    Edit->SelStart = 2;
+    EXPECT_EQ(Edit->SelStart, 3);
+    Edit->SelLength = 1;
+    EXPECT_EQ(Edit->SelText, "😀");
+    EXPECT_EQ(Edit->SelLength, 4);
+    Edit->SelLength = 5;
+    EXPECT_EQ(Edit->SelText, "😀b");
+    Edit->SelStart = -1;
+    EXPECT_EQ(Edit->SelStart, 0);
+    Edit->SelLength = 1000;
+    EXPECT_EQ(Edit->SelText, "aЖ😀b");
+    Edit->SelLength = -1;
+    EXPECT_EQ(Edit->SelText, "");
+}
+
+TEST_F(EditTest, WithoutMaxLengthATextHasNoEnd)
+{
+    const AnsiString Text(33000, 'x');
+    Show();
+    Edit->SetFocus();
+    Edit->SelText = Text;
+    EXPECT_EQ(Edit->Text.size(), Text.size());
+    TypeKey('A');
+    EXPECT_TRUE(PumpUntil([&] { return Edit->Text == Text + "a"; }));
+    Edit->SelectAll();
+    Edit->CopyToClipboard();
+    Edit->PasteFromClipboard();
+    Edit->PasteFromClipboard();
+    EXPECT_EQ(Edit->Text, Text + "a" + Text + "a");
+}
+
+TEST_F(EditTest, MaxLengthHoldsAndCanBeTakenAway)
+{
+    Edit->MaxLength = 3;
+    Show();
+    Edit->SetFocus();
+    Edit->SelText = "abcdef";
+    EXPECT_EQ(Edit->Text, "abc");
+    Edit->MaxLength = 0;
+    Edit->SelText = AnsiString(33000, 'x');
+    EXPECT_EQ(Edit->Text.size(), 33003u);
+}
+
 TEST_F(EditTest, EnteringSelectsTheTextUnlessToldNotTo)
 {
     auto* Other = Add<TEdit>();
@@ -252,6 +298,24 @@ TEST_F(MemoTest, EnterAndTabAreTheMemosWhenItWantsThem)
     PumpMessages();
     EXPECT_EQ(Memo->Text, Before);
     EXPECT_TRUE(Memo->Focused());
+}
+
+TEST_F(MemoTest, WithoutMaxLengthATextHasNoEnd)
+{
+    AnsiString Text;
+    for (int I = 0; I < 1000; ++I)
+        Text += "a line of more than thirty-three letters\r\n";
+    Show();
+    Memo->SetFocus();
+    Memo->SelText = Text;
+    EXPECT_EQ(Memo->Text.size(), Text.size());
+    TypeKey('A');
+    EXPECT_TRUE(PumpUntil([&] { return Memo->Text == Text + "a"; }));
+    Memo->SelectAll();
+    Memo->CopyToClipboard();
+    Memo->Text = "";
+    Memo->PasteFromClipboard();
+    EXPECT_EQ(Memo->Text, Text + "a");
 }
 
 TEST_F(MemoTest, TellsWhereTheCaretIs)

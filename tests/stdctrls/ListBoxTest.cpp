@@ -2,6 +2,7 @@
 
 #include "tests/support/FormTest.h"
 #include "tests/support/FormText.h"
+#include "tests/support/Reports.h"
 #include "vcl/stdctrls/ComboBox.h"
 #include "vcl/stdctrls/Edit.h"
 
@@ -83,6 +84,19 @@ TEST_F(ListBoxTest, ItemsAndChoiceSurviveANewWindow)
     EXPECT_THAT(ItemsOf(List->Items), ElementsAre("a", "b", "c"));
     EXPECT_EQ(List->Items->Objects[1], List);
     EXPECT_EQ(List->ItemIndex, 1);
+}
+
+TEST_F(ListBoxTest, ANewWindowShowsTheSameItemsOnTop)
+{
+    for (int I = 0; I < 50; ++I)
+        List->Items->Add(std::to_string(I));
+    Show();
+    List->TopIndex = 20;
+    EXPECT_EQ(List->TopIndex, 20);
+    HWND Before = List->Handle;
+    List->Ctl3D = !List->Ctl3D;
+    ASSERT_NE(List->Handle, Before);
+    EXPECT_EQ(List->TopIndex, 20);
 }
 
 TEST_F(ListBoxTest, SortedItemsGoToTheirPlace)
@@ -350,6 +364,34 @@ TEST_F(ComboBoxTest, TabLeavesItForTheNextControl)
     TypeKey(VK_TAB);
     EXPECT_TRUE(PumpUntil([&] { return Edit->Focused(); }));
     EXPECT_TRUE(Left);
+}
+
+TEST_F(ComboBoxTest, WithoutMaxLengthATextHasNoEnd)
+{
+    constexpr size_t Length = 33000;
+    Combo->AutoComplete = false;
+    Show();
+    Combo->SetFocus();
+    COMBOBOXINFO Info{};
+    Info.cbSize = sizeof Info;
+    GetComboBoxInfo(Combo->Handle, &Info);
+    SendMessageW(Info.hwndItem, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(std::wstring(Length, L'x').c_str()));
+    EXPECT_EQ(Combo->Text.size(), Length);
+    TypeKey('A');
+    EXPECT_TRUE(PumpUntil([&] { return Combo->Text.size() == Length + 1; }));
+}
+
+TEST_F(ComboBoxTest, WhatAnExitRaisesWhenTheEditIsClickedIsReported)
+{
+    auto* Edit = Add<TEdit>();
+    Edit->Top = 60;
+    Show();
+    Edit->SetFocus();
+    Edit->OnExit = [](TObject*) { throw Exception("not yet"); };
+    TReports Reports;
+    ClickOn(Combo);
+    EXPECT_THAT(Reports.Texts(), testing::Contains("TComboBox: not yet"));
+    Edit->OnExit = nullptr;
 }
 
 TEST_F(ComboBoxTest, TheListDropsDownAndEscapeClosesIt)

@@ -1,8 +1,10 @@
 #include "vcl/stdctrls/CustomComboBox.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/stdctrls/OwnerDraw.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
 #include "vcl/system/Utf.h"
 
 void TCustomComboBox::Describe(TClassBuilder<TCustomComboBox>& Class)
@@ -88,8 +90,8 @@ void TCustomComboBox::CreateWnd()
         FEdit = Info.hwndItem;
         SetWindowSubclass(FEdit, &EditProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
     }
-    if (FMaxLength > 0)
-        SendMessageW(Handle, CB_LIMITTEXT, FMaxLength, 0);
+    // 0 is sent too: it is the most there can be, while an edit that is told nothing stops at some 30,000 characters.
+    SendMessageW(Handle, CB_LIMITTEXT, FMaxLength, 0);
     if (OwnerDrawn()) {
         SendMessageW(Handle, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), FItemHeight);
         if (FStyle == csOwnerDrawFixed)
@@ -119,9 +121,14 @@ LRESULT CALLBACK TCustomComboBox::EditProcedure(HWND Edit, UINT Msg, WPARAM WPar
 {
     auto* Combo = reinterpret_cast<TCustomComboBox*>(Data);
     TMessage Message{Msg, WParam, LParam, 0};
-    if (Combo->FEdit == Edit && Combo->ForEdit(Message))
-        return Message.Result;
-    return DefSubclassProc(Edit, Msg, WParam, LParam);
+    TStillThere Here(Combo);
+    bool Done = false;
+    try {
+        Done = Combo->FEdit == Edit && Combo->ForEdit(Message);
+    } catch (...) {
+        ReportException(Here ? Combo : nullptr);
+    }
+    return Done ? Message.Result : DefSubclassProc(Edit, Msg, WParam, LParam);
 }
 
 // Messages of the edit that are the control's own affair. True when all has been done; DefaultHandler gives the edit
@@ -139,8 +146,10 @@ bool TCustomComboBox::ForEdit(TMessage& Message)
     case WM_SYSKEYDOWN:
     case WM_SYSKEYUP: {
         bool Outer = std::exchange(FFromEdit, true);
+        TStillThere Here(this);
         MainWndProc(Message);
-        FFromEdit = Outer;
+        if (Here)
+            FFromEdit = Outer;
         return true;
     }
     case WM_CONTEXTMENU: {

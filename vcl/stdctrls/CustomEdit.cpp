@@ -62,8 +62,8 @@ void TCustomEdit::CreateWnd()
     FCreating = true;
     inherited::CreateWnd();
     FCreating = false;
-    if (FMaxLength > 0)
-        SendMessageW(Handle, EM_LIMITTEXT, FMaxLength, 0);
+    // 0 is sent too: it is the most there can be, while an edit that is told nothing stops at some 30,000 characters.
+    SendMessageW(Handle, EM_LIMITTEXT, FMaxLength, 0);
     if (FPasswordChar)
         SendMessageW(Handle, EM_SETPASSWORDCHAR, static_cast<unsigned char>(FPasswordChar), 0);
     SendMessageW(Handle, EM_SETMODIFY, FModified, 0);
@@ -227,28 +227,46 @@ TSelection SelectionOf(HWND Edit)
     return Result;
 }
 
-// The window counts UTF-16 units.
-int BytesOf(TWideView Text, size_t Units)
+// The text up to a position that counts UTF-16 units, as the window does; all of it when that is beyond its end.
+TWideString TextUpTo(HWND Edit, size_t Units)
 {
-    return static_cast<int>(FromWide(Text.substr(0, Units)).size());
+    TWideString Text(std::min(Units, static_cast<size_t>(GetWindowTextLengthW(Edit))), 0);
+    Text.resize(static_cast<size_t>(GetWindowTextW(Edit, Text.data(), static_cast<int>(Text.size()) + 1)));
+    return Text;
 }
 
-int UnitsOf(std::string_view Text, int Bytes)
+// The part that is selected.
+AnsiString TextOf(HWND Edit, const TSelection& Selection)
 {
-    size_t Part = std::min(Text.size(), static_cast<size_t>(std::max(Bytes, 0)));
-    return static_cast<int>(ToWide(Text.substr(0, Part)).size());
+    TWideString Text = TextUpTo(Edit, Selection.End);
+    return FromWide(TWideView(Text).substr(std::min<size_t>(Selection.Start, Text.size())));
+}
+
+// How many units take Bytes bytes in UTF-8. A position inside of a character counts as that behind it.
+size_t UnitsOf(TWideView Text, int Bytes)
+{
+    size_t Units = 0;
+    while (Bytes > 0 && Units < Text.size()) {
+        const bool IsPair = Units + 1 < Text.size() && IS_SURROGATE_PAIR(Text[Units], Text[Units + 1]);
+        const unsigned Code = Text[Units];
+        Bytes -= IsPair ? 4 : Code < 0x80 ? 1 : Code < 0x800 ? 2 : 3;
+        Units += IsPair ? 2 : 1;
+    }
+    return Units;
 }
 
 } // namespace
 
 int TCustomEdit::GetSelStart()
 {
-    return BytesOf(ToWide(Text), SelectionOf(Handle).Start);
+    return static_cast<int>(TextOf(Handle, {0, SelectionOf(Handle).Start}).size());
 }
 
+// A character has no more units than bytes; one more unit is taken so that no pair is cut.
 void TCustomEdit::SetSelStart(int Value)
 {
-    int At = UnitsOf(Text, Value);
+    Value = std::max(Value, 0);
+    auto At = static_cast<int>(UnitsOf(TextUpTo(Handle, static_cast<size_t>(Value) + 1), Value));
     Select(At, At);
 }
 
@@ -259,16 +277,16 @@ int TCustomEdit::GetSelLength()
 
 void TCustomEdit::SetSelLength(int Value)
 {
-    AnsiString All = Text;
-    int Start = GetSelStart();
-    Select(UnitsOf(All, Start), UnitsOf(All, Start + std::max(Value, 0)));
+    Value = std::max(Value, 0);
+    const size_t Start = SelectionOf(Handle).Start;
+    TWideString Text = TextUpTo(Handle, Start + static_cast<size_t>(Value) + 1);
+    TWideView Behind = TWideView(Text).substr(std::min(Start, Text.size()));
+    Select(static_cast<int>(Start), static_cast<int>(Start + UnitsOf(Behind, Value)));
 }
 
 AnsiString TCustomEdit::GetSelText()
 {
-    TSelection Selection = SelectionOf(Handle);
-    TWideString All = ToWide(Text);
-    return FromWide(TWideView(All).substr(Selection.Start, Selection.End - Selection.Start));
+    return TextOf(Handle, SelectionOf(Handle));
 }
 
 void TCustomEdit::SetSelText(const AnsiString& Value)
