@@ -1,5 +1,5 @@
-# The rooms of the house, in the order of their dependencies: a room may only include what stands above it.
-# This list is what the libraries are linked by, and what the include check (tools/roomcheck) enforces.
+# The rooms, from the lowest to the highest: a room may only include what is below it, that is, earlier in this list.
+# The libraries are linked in this order, and the include check (tools/roomcheck) enforces it.
 set(TESSARY_ROOMS
     vcl/system
     vcl/classes

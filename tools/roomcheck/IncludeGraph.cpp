@@ -101,14 +101,14 @@ void TIncludeGraph::CheckRooms(const std::vector<std::string>& Rooms, std::vecto
             if (Other < 0)
                 Errors.push_back(Place(File, Include.Line) + Include.Name + " is in no room");
             else if (Other > Room)
-                Errors.push_back(Place(File, Include.Line) + "room " + Rooms[Room] + " is above room " + Rooms[Other] +
+                Errors.push_back(Place(File, Include.Line) + "room " + Rooms[Room] + " is below room " + Rooms[Other] +
                                  " and may not include " + Include.Name);
         }
     }
 }
 
-// Walks the graph depth first. A file that is met again while it is still open closes a cycle, which is told once, at
-// the include that closes it.
+// Walks the graph depth first. A file that is met again while its own includes are being followed closes a cycle, which
+// is reported once, at the include that closes it.
 void TIncludeGraph::CheckCycles(std::vector<std::string>& Errors) const
 {
     std::set<std::string> Done;

@@ -8,13 +8,13 @@
 
 class TIncludeGraph {
 public:
-    // Reads every .h and .cpp below Root, but not in folders whose name starts with a point or with "build".
+    // Reads every .h and .cpp below Root, but not in folders whose name starts with a dot or with "build".
     explicit TIncludeGraph(const std::filesystem::path& Root);
 
-    // What breaks a rule, as "FILE:LINE: message", sorted by file. Rooms are folders in the order of their
-    // dependencies:
+    // What breaks a rule, as "FILE:LINE: message", sorted by file. Rooms are folders, the lowest
+    // one first:
     // - an include in quotes names a file of the tree by its path from the root
-    // - a file in a room includes nothing from the rooms below its own, nor from folders that are no rooms
+    // - a file in a room includes nothing from the rooms above its own, nor from folders that are no rooms
     // - only WindowsHeader includes windows.h
     // - no file includes itself through others
     std::vector<std::string> Check(const std::vector<std::string>& Rooms, const std::string& WindowsHeader) const;

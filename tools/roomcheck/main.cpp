@@ -1,5 +1,5 @@
-// roomcheck ROOT ROOM...: checks that no room includes what is below it and that there are no cycles of includes.
-// Prints what is wrong and returns 1 when something is.
+// roomcheck ROOT ROOM...: checks that no room includes what is above it and that there are no cycles of includes. The
+// lowest room comes first. Prints what is wrong, and returns 1 when something is.
 
 #include "tools/roomcheck/IncludeGraph.h"
 

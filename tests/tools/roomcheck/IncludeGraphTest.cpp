@@ -36,7 +36,7 @@ protected:
 
 } // namespace
 
-TEST_F(IncludeGraph, RoomsMayIncludeThemselvesAndRoomsAbove)
+TEST_F(IncludeGraph, RoomsMayIncludeThemselvesAndRoomsBelow)
 {
     File("base/low/A.h", "#include <string>\n");
     File("base/middle/B.h", "#include \"base/low/A.h\"\n");
@@ -45,11 +45,11 @@ TEST_F(IncludeGraph, RoomsMayIncludeThemselvesAndRoomsAbove)
     EXPECT_THAT(Errors(), IsEmpty());
 }
 
-TEST_F(IncludeGraph, RoomMayNotIncludeARoomBelow)
+TEST_F(IncludeGraph, RoomMayNotIncludeARoomAbove)
 {
     File("base/low/A.cpp", "// a comment\n#include \"top/D.h\"\n");
     File("top/D.h", "");
-    EXPECT_THAT(Errors(), ElementsAre("base/low/A.cpp:2: room base/low is above room top and may not include top/D.h"));
+    EXPECT_THAT(Errors(), ElementsAre("base/low/A.cpp:2: room base/low is below room top and may not include top/D.h"));
 }
 
 TEST_F(IncludeGraph, RoomMayNotIncludeWhatIsInNoRoom)
