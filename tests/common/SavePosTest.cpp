@@ -153,6 +153,57 @@ TEST_F(SavePosTest, MessagesAreAnsweredWithZeroAndGoNoFurther)
     EXPECT_EQ(SendToHiddenWindow(WM_NCHITTEST), 0);
 }
 
+TEST_F(SavePosTest, TheUsersSessionMayEnd)
+{
+    const auto Form = NewForm();
+    new TkelSavePos(Form.get());
+    EXPECT_EQ(SendToHiddenWindow(WM_QUERYENDSESSION), 1);
+    EXPECT_EQ(SendToHiddenWindow(WM_ENDSESSION), 0);
+}
+
+// Nothing but the form itself tells that it comes and goes while the program stays active.
+TEST_F(SavePosTest, AModalFormIsSavedAsItWasClosed)
+{
+    auto Main = NewForm("Main");
+    Main->Show();
+    ASSERT_TRUE(PumpUntil([&] { return GetForegroundWindow() == Main->Handle && Main->Active; }));
+    auto Form = NewForm();
+    new TkelSavePos(Form.get());
+    Form->OnShow = [&](TObject*) { PostMessageW(Form->Handle, WM_APP, 0, 0); };
+    Application->OnMessage = [&](MSG& Message, bool&) {
+        if (Message.message != WM_APP)
+            return;
+        Form->SetBounds(50, 60, 400, 300);
+        Form->ModalResult = mrOk;
+    };
+    Form->ShowModal();
+    Application->OnMessage = nullptr;
+    Form.reset();
+    ExpectSaved(Section, "50", "60", "400", "300");
+}
+
+TEST_F(SavePosTest, EachMoveResizeAndHideOfTheFormIsNoticed)
+{
+    auto Form = NewForm();
+    new TkelSavePos(Form.get());
+    Form->Show();
+    Form->Hide();
+    Form->SetBounds(50, 60, 400, 300);
+    Form->Width = 410;
+    Form.reset();
+    ExpectSaved(Section, "50", "60", "410", "300");
+}
+
+TEST_F(SavePosTest, TheFormOutlivesTheComponent)
+{
+    auto Form = NewForm();
+    auto* SavePos = new TkelSavePos(Form.get());
+    Form->Show();
+    delete SavePos;
+    Form->SetBounds(50, 60, 400, 300);
+    EXPECT_EQ(Form->Left, 50);
+}
+
 TEST_F(SavePosTest, TheHiddenWindowGoesWithTheComponent)
 {
     const auto Form = NewForm();
