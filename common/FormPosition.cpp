@@ -1,5 +1,6 @@
 #include "common/FormPosition.h"
 
+#include "common/CaptionInSight.h"
 #include "common/Settings.h"
 
 namespace {
@@ -56,6 +57,7 @@ void RestoreFormPosition(TForm* Form)
     Form->Top = ReadInteger(Section, "Top", Form->Top);
     Form->Width = ReadInteger(Section, "Width", Form->Width);
     Form->Height = ReadInteger(Section, "Height", Form->Height);
+    BringCaptionInSight(*Form, GetSystemMetrics(SM_CYCAPTION));
     if (ReadBool(Section, "Minimized", false))
         Form->WindowState = wsMinimized;
     if (ReadBool(Section, "Maximized", false))

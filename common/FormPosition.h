@@ -23,5 +23,5 @@ struct TFormPosition {
 void SaveFormPosition(const TFormPosition& Position);
 void SaveFormPosition(TForm* Form);
 
-// What was never saved stays as it is.
+// What was never saved stays as it is. A form whose caption no display would show comes to the nearest one.
 void RestoreFormPosition(TForm* Form);

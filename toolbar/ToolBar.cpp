@@ -3,6 +3,7 @@
 #include "toolbar/Flpfrm97.h"
 #include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBarPosition.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/registry/Registry.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/Scope.h"
@@ -53,6 +54,10 @@ void TkelToolBar::BeforeDestruction()
     if (Dragged == this)
         Dragged = nullptr;
     CloseFrame(LeaveFrame());
+    // Bars that go with their form leave the others where they are: their places may still be saved.
+    const auto Goes = [](const TComponent* Above) { return !Above || Above->ComponentState.Contains(csDestroying); };
+    if (Visible && FHasRow && !IsDesigning() && !Goes(GetParentForm(this)) && !Goes(Parent))
+        GiveUpRow();
     inherited::BeforeDestruction();
 }
 
@@ -63,7 +68,9 @@ void TkelToolBar::SetParent(TWinControl* Value)
     TFPForm97* Emptied = Value != FFrame ? LeaveFrame() : nullptr;
     inherited::SetParent(Value);
     CloseFrame(Emptied);
-    if (Value && std::exchange(FIsNew, false) && !IsLoading())
+    const bool WasNew = Value && std::exchange(FIsNew, false);
+    FHasRow = WasNew && Dock;
+    if (WasNew && !IsLoading())
         LayoutSuspended = false;
 }
 
@@ -175,7 +182,10 @@ void TkelToolBar::HidePanel()
 {
     if (!Visible)
         return;
+    const TStillThere IsHere(this);
     OnHide(this);
+    if (!IsHere)
+        return;
     if (FFloating)
         FFrame->Hide();
     else
@@ -189,7 +199,10 @@ void TkelToolBar::ShowPanel()
 {
     if (Visible)
         return;
+    const TStillThere IsHere(this);
     OnShow(this);
+    if (!IsHere)
+        return;
     Show();
     if (FFloating)
         FFrame->Show();

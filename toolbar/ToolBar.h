@@ -51,7 +51,8 @@ public:
     void HidePanel();
     bool GetFloating() const { return FFloating; }
     PROPERTY_READ(bool, Floating);
-    // Makes the bar float, or moves its frame: Left becomes X, Top becomes Y - CapSize, in pixels of the screen.
+    // Makes the bar float, or moves its frame: Left becomes X, Top becomes Y - CapSize, in pixels of the screen. In a
+    // dock the bar gives up its row as with DeleteFromDock.
     void FloatToPos(int X, int Y);
     // False, with X and Y the bar's Left and Top, in a dock. True when it floats: one pixel right and below of what
     // FloatToPos would put the frame where it is.
@@ -109,7 +110,7 @@ public:
     // none.
     TkelToolBar* FindToolBar(const TPoint& Point) const;
 
-    // True while bars are made and loaded: nothing is reported, saved or captured then.
+    // True while bars are created and loaded: nothing is reported, saved or captured then.
     static bool IsLayoutSuspended() { return LayoutSuspended; }
 
     TRect GetClientRect() const override;
@@ -130,12 +131,15 @@ protected:
 
 private:
     friend class TFPForm97;
+    friend void RestoreToolBarPosition(TkelToolBar* ToolBar);
 
     void WMSize(TWMSize& Message);
     void WMWindowPosChanged(TMessage& Message);
     void CMControlListChange(TMessage& Message);
 
     void SaveQuietly();
+    void GiveUpRow();
+    void LieFree();
     bool LeadsRow() const;
     void SetDockedLook(bool Docked);
     void TurnTo(bool Vertical);
@@ -172,6 +176,7 @@ private:
     bool FAutoSave = true;
     bool FCloseBox = true; // of the floating frame; not to be changed
     bool FIsNew = true;    // has not been put anywhere yet
+    bool FHasRow = false;  // has its place in the rows of its dock; meaningless while it is hidden
     TkelTBDragBox* FDragBox;
     TFPForm97* FFrame = nullptr;
 };

@@ -1,5 +1,6 @@
 // Dragging a bar, and floating.
 #include "toolbar/Flpfrm97.h"
+#include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBar.h"
 #include "vcl/system/Scope.h"
 
@@ -196,6 +197,12 @@ TkelToolBar* TkelToolBar::FindToolBar(const TPoint& Point) const
 
 void TkelToolBar::FloatToPos(int X, int Y)
 {
+    if (!FFloating) {
+        if (Visible && FHasRow)
+            GiveUpRow();
+        if (FDragBox->Visible)
+            LieFree();
+    }
     PlaceFrame({X, Y}, false);
 }
 

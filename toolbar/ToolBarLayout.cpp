@@ -1,6 +1,7 @@
 // How bars lie in a dock, and items in a bar.
 #include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBar.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/forms/Application.h"
 
 #include <algorithm>
@@ -107,8 +108,12 @@ void TkelToolBar::InsertToDock()
     TkelDock* InDock = Dock;
     if (!InDock || !InDock->TakesBars())
         return;
+    const TStillThere IsHere(this);
     if (!LayoutSuspended)
         DoStatic();
+    if (!IsHere || Dock != InDock)
+        return;
+    FHasRow = true;
     const TDockAxis Axis = InDock->Axis();
     DisableAlign();
     SetDockedLook(true);
@@ -141,7 +146,19 @@ void TkelToolBar::DeleteFromDock()
     TkelDock* InDock = Dock;
     if (!InDock || !InDock->TakesBars())
         return;
-    SetDockedLook(false);
+    GiveUpRow();
+    LieFree();
+    if (!LayoutSuspended)
+        Show();
+}
+
+// The row goes when no other bar is in it, and those behind it move up.
+void TkelToolBar::GiveUpRow()
+{
+    TkelDock* InDock = Dock;
+    if (!InDock || !InDock->TakesBars())
+        return;
+    FHasRow = false;
     const TDockAxis Axis = InDock->Axis();
     if (!InDock->FindInRow(Axis.Row(*this), Axis.Thickness(*this), this)) {
         const int Thick = Axis.Thickness(*this);
@@ -153,14 +170,18 @@ void TkelToolBar::DeleteFromDock()
         }
         Axis.Grow(*InDock, -Thick);
     }
-    if (Axis.IsVertical() && Height > Width) {
+}
+
+// Horizontal and without a grip, as a bar lies in its frame.
+void TkelToolBar::LieFree()
+{
+    SetDockedLook(false);
+    if (Dock && Dock->TakesBars() && Axis().IsVertical() && Height > Width) {
         for (TControl* Item : FItems)
             if (Item->Align == alRight) // that was no far end in a vertical bar
                 Item->Align = alLeft;
         TurnTo(false);
     }
-    if (!LayoutSuspended)
-        Show();
 }
 
 int TkelToolBar::isInsert(const TkelToolBar* ToolBar) const

@@ -1,9 +1,12 @@
 #include "toolbar/ToolBarPosition.h"
 
+#include "common/CaptionInSight.h"
 #include "common/Settings.h"
 #include "toolbar/Flpfrm97.h"
 #include "toolbar/ToolBar.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/forms/Screen.h"
+#include "vcl/system/Utf.h"
 
 #include <algorithm>
 
@@ -11,10 +14,27 @@ namespace {
 
 constexpr int SmallestExtent = 12; // what the grip needs
 constexpr int FarthestPlace = 32767;
+constexpr size_t LongestKeyName = 255; // in the registry, in UTF-16 units
 
 AnsiString SectionOf(const TkelToolBar& Bar)
 {
-    return "ToolBar\\" + Bar.Caption;
+    AnsiString Name = Bar.Caption;
+    if (Name.size() > LongestKeyName) {
+        std::wstring Wide = ToWide(Name);
+        Wide.resize(std::min(Wide.size(), LongestKeyName));
+        if (IS_HIGH_SURROGATE(Wide.back())) // half a character
+            Wide.pop_back();
+        Name = FromWide(Wide);
+    }
+    return "ToolBar\\" + Name;
+}
+
+constexpr const char* ValueNames[] = {"isFloat", "isVisible", "XPosition", "YPosition", "Width", "Height", "DockName"};
+
+bool HasRecord(const AnsiString& Section)
+{
+    return std::any_of(std::begin(ValueNames), std::end(ValueNames),
+                       [&](const char* Name) { return !ReadString(Section, Name, "").empty(); });
 }
 
 int ReadPlace(const AnsiString& Section, const AnsiString& Ident, int Default)
@@ -30,17 +50,28 @@ int ReadExtent(const AnsiString& Section, const AnsiString& Ident, int Default)
     return Extent >= SmallestExtent && Extent <= Largest ? Extent : Default;
 }
 
-// Displays come and go between runs.
-void BringCaptionIn(TFPForm97& Frame)
+// What is kept of a bar. Places are in pixels of the dock, or of the screen for a bar that floats.
+struct TRecord {
+    bool IsFloat;
+    bool IsVisible;
+    int X;
+    int Y;
+    int Width;
+    int Height;
+    AnsiString DockName;
+};
+
+TRecord ReadRecord(const TkelToolBar& Bar, const AnsiString& Section)
 {
-    const TRect Caption(Frame.Left, Frame.Top, Frame.Left + Frame.Width, Frame.Top + CapSize);
-    const TRect Work = Screen->WorkAreaOf(Caption);
-    TRect Seen;
-    if (IntersectRect(Seen, Caption, Work))
-        return;
-    const int X = std::clamp<int>(Frame.Left, Work.left, std::max<int>(Work.left, Work.right - Frame.Width));
-    const int Y = std::clamp<int>(Frame.Top, Work.top, std::max<int>(Work.top, Work.bottom - Frame.Height));
-    Frame.SetBounds(X, Y, Frame.Width, Frame.Height);
+    TRecord Record;
+    Record.X = ReadPlace(Section, "XPosition", Bar.Left);
+    Record.Y = ReadPlace(Section, "YPosition", Bar.Top);
+    Record.Width = ReadExtent(Section, "Width", Bar.Width);
+    Record.Height = ReadExtent(Section, "Height", Bar.Height);
+    Record.IsFloat = ReadBool(Section, "isFloat", false);
+    Record.DockName = ReadString(Section, "DockName", Bar.Parent ? Bar.Parent->Name : AnsiString());
+    Record.IsVisible = ReadBool(Section, "isVisible", true);
+    return Record;
 }
 
 TkelDock* FindDockByName(const TkelToolBar& Bar, const AnsiString& Name)
@@ -58,8 +89,6 @@ void MoveToDock(TkelToolBar& Bar, const AnsiString& Name)
         Dock->ShrinkIfEmpty();
         Bar.Parent = Dock;
     }
-    // In its old dock too: hiding it there has turned it, and its saved size may have turned it back.
-    Bar.CorrectAlign();
 }
 
 } // namespace
@@ -82,20 +111,30 @@ void SaveToolBarPosition(TkelToolBar* ToolBar)
 void RestoreToolBarPosition(TkelToolBar* ToolBar)
 {
     const AnsiString Section = SectionOf(*ToolBar);
+    if (!HasRecord(Section))
+        return;
+    const TRecord Record = ReadRecord(*ToolBar, Section);
+    const TStillThere IsHere(ToolBar);
     ToolBar->HidePanel();
-    const int X = ReadPlace(Section, "XPosition", ToolBar->Left);
-    const int Y = ReadPlace(Section, "YPosition", ToolBar->Top);
-    const int Width = ReadExtent(Section, "Width", ToolBar->Width);
-    const int Height = ReadExtent(Section, "Height", ToolBar->Height);
-    ToolBar->SetBounds(ToolBar->Left, ToolBar->Top, Width, Height);
-    if (ReadBool(Section, "isFloat", false)) {
-        ToolBar->FloatToPos(X, Y);
-        BringCaptionIn(*ToolBar->Frame);
+    if (!IsHere)
+        return;
+    if (Record.IsFloat) {
+        ToolBar->LieFree();
+        ToolBar->SetBounds(ToolBar->Left, ToolBar->Top, Record.Width, Record.Height);
+        ToolBar->FloatToPos(Record.X, Record.Y);
+        if (!IsHere || !ToolBar->Floating)
+            return;
+        BringCaptionInSight(*ToolBar->Frame, CapSize);
         ToolBar->CorrectAlign();
     } else {
-        ToolBar->SetBounds(X, Y, Width, Height);
-        MoveToDock(*ToolBar, ReadString(Section, "DockName", ToolBar->Parent ? ToolBar->Parent->Name : AnsiString()));
+        MoveToDock(*ToolBar, Record.DockName);
+        ToolBar->SetBounds(Record.X, Record.Y, Record.Width, Record.Height);
+        // In its old dock too: hiding it there has turned it, and its saved size may have turned it back.
+        ToolBar->CorrectAlign();
     }
-    if (ReadBool(Section, "isVisible", true))
+    if (Record.IsVisible)
         ToolBar->ShowPanel();
+    // Hiding has saved the bar as hidden.
+    if (IsHere && !TkelToolBar::IsLayoutSuspended())
+        SaveToolBarPosition(ToolBar);
 }

@@ -171,3 +171,35 @@ TEST_F(FormPositionTest, AFormThatShowsMovesAndChangesItsState)
     RestoreFormPosition(Form.get());
     EXPECT_TRUE(IsZoomed(Form->Handle));
 }
+
+TEST_F(FormPositionTest, AFormThatNoDisplayWouldShowComesToTheNearestOne)
+{
+    for (const char* X : {"-2147483648", "-5000", "2147483647"})
+        for (const char* Y : {"-2147483648", "-400", "2147483647"}) {
+            SCOPED_TRACE(AnsiString(X) + "," + Y);
+            Store.Put(Section, "Left", X);
+            Store.Put(Section, "Top", Y);
+            const auto Other = Restored();
+            const TRect Caption(Other->Left, Other->Top, Other->Left + Other->Width, Other->Top + 8);
+            EXPECT_NE(MonitorFromRect(&Caption, MONITOR_DEFAULTTONULL), nullptr);
+            EXPECT_EQ(Other->Width, 300);
+            EXPECT_EQ(Other->Height, 200);
+        }
+}
+
+TEST_F(FormPositionTest, AFormThatShowsAPieceOfItsCaptionStaysWhereItIs)
+{
+    WriteInteger(Section, "Left", -250);
+    WriteInteger(Section, "Top", 5);
+    EXPECT_EQ(Restored()->Left, -250);
+}
+
+TEST_F(FormPositionTest, AFormOfHugeSizeCanBeReached)
+{
+    Store.Put(Section, "Left", "-2147483648");
+    Store.Put(Section, "Width", "2147483647");
+    Store.Put(Section, "Height", "2147483647");
+    const auto Other = Restored();
+    const TRect Caption(Other->Left, Other->Top, Other->Left + 100, Other->Top + 8);
+    EXPECT_NE(MonitorFromRect(&Caption, MONITOR_DEFAULTTONULL), nullptr);
+}

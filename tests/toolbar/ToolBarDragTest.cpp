@@ -563,6 +563,37 @@ TEST_F(ToolBarDragTest, FloatToPosPlacesTheFrame)
     EXPECT_EQ(Y, 411);
 }
 
+TEST_F(ToolBarDragTest, ADockedBarGivesUpItsPlaceWhenItIsMadeToFloat)
+{
+    TTestBar* A = InsertBar(Top, "A", 0, 100);
+    InsertBar(Top, "B", 0, 100);
+    TTestBar* Upright = InsertBar(Left, "C", 0, 100);
+    Show();
+    A->FloatToPos(300, 400);
+    EXPECT_EQ(Layout(Top), "26: B 0,0");
+    EXPECT_FALSE(A->DragBox->Visible);
+    EXPECT_EQ(A->BevelInner, bvNone);
+    Upright->FloatToPos(500, 400);
+    EXPECT_EQ(Layout(Left), "0:");
+    EXPECT_EQ(Upright->Width, 100);
+    EXPECT_EQ(Upright->Height, 26);
+    EXPECT_EQ(Upright->Frame->ClientWidth, 100);
+    EXPECT_TRUE(Upright->Visible);
+}
+
+TEST_F(ToolBarDragTest, ADockedBarThatIsDeletedGivesUpItsRow)
+{
+    TTestBar* A = InsertBar(Top, "A", 0, 100);
+    InsertBar(Top, "B", 0, 100);
+    TTestBar* C = InsertBar(Top, "C", 0, 100);
+    Show();
+    C->HidePanel();
+    delete A;
+    EXPECT_EQ(Layout(Top), "26: B 0,0 (C 0,0)");
+    delete C;
+    EXPECT_EQ(Layout(Top), "26: B 0,0") << "it had no room";
+}
+
 TEST_F(ToolBarDragTest, ADockedBarTellsItsPlaceInTheDock)
 {
     TTestBar* Bar = InsertBar(Top, "Bar", 35, 100);

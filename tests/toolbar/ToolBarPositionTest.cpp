@@ -164,9 +164,26 @@ TEST_F(ToolBarPositionTest, AtTheFirstRunBarsAreWhereTheyWereDesigned)
 TEST_F(ToolBarPositionTest, NothingIsReportedOrSavedWhileAFormIsLoaded)
 {
     Load();
-    EXPECT_EQ(File->TakeEvents(), "hide show");
+    EXPECT_EQ(File->TakeEvents(), "");
     EXPECT_FALSE(Store->HasKey("ToolBar\\File"));
     EXPECT_FALSE(TkelToolBar::IsLayoutSuspended());
+}
+
+TEST_F(ToolBarPositionTest, ABarWithARecordIsHiddenAndShownWhileItIsLoaded)
+{
+    PutDocked("File", "DockTop", 0, 0, 200, 26);
+    Load();
+    EXPECT_EQ(File->TakeEvents(), "hide show");
+    EXPECT_EQ(Record("File", "isVisible"), "absent");
+}
+
+TEST_F(ToolBarPositionTest, ABarThatIsDesignedHiddenIsHiddenAtTheFirstRun)
+{
+    std::string Text = DesignedForm;
+    const std::string Width = "Width = 100";
+    Text.replace(Text.find(Width), Width.size(), "Width = 100\n      Visible = False");
+    Load(Text);
+    EXPECT_FALSE(Edit->Visible);
 }
 
 TEST_F(ToolBarPositionTest, RowThicknessIsWhatTheBarWasLoadedWith)
@@ -176,14 +193,16 @@ TEST_F(ToolBarPositionTest, RowThicknessIsWhatTheBarWasLoadedWith)
     EXPECT_EQ(Tools->RowThickness, 26);
 }
 
-TEST_F(ToolBarPositionTest, BarsThatSharedARowComeBackAsRowsOfTheirOwn)
+TEST_F(ToolBarPositionTest, BarsThatAreDesignedInOneRowShareItAtTheFirstRun)
 {
     std::string Text = DesignedForm;
     const std::string Second = "Left = 10\n      Top = 26";
     Text.replace(Text.find(Second), Second.size(), "Left = 210\n      Top = 0");
     Text.replace(Text.find("Height = 52"), 11, "Height = 26");
     Load(Text);
-    EXPECT_EQ(Layout(Top), "52: FileBar 0,0 EditBar 210,26");
+    EXPECT_EQ(Layout(Top), "26: FileBar 0,0 EditBar 210,0");
+    Show();
+    EXPECT_EQ(Layout(Top), "26: FileBar 0,0 EditBar 210,0");
 }
 
 // ---- what is written
@@ -284,6 +303,25 @@ TEST_F(ToolBarPositionTest, CaptionsAndDocksMayHaveAnyLetters)
     EXPECT_EQ(Record("Правка", "DockName"), "DockTop2");
 }
 
+TEST_F(ToolBarPositionTest, ALongCaptionIsCutInTheNameOfItsRecord)
+{
+    Load();
+    std::string Long;
+    for (int I = 0; I < 300; ++I)
+        Long += "ж";
+    Edit->Caption = "a" + Long;
+    Edit->HidePanel();
+    EXPECT_FALSE(Edit->Visible);
+    EXPECT_EQ(Record("a" + Long.substr(0, 2 * 254), "isVisible"), "0");
+    // Characters that take two units of UTF-16 are not cut in half.
+    Long.clear();
+    for (int I = 0; I < 200; ++I)
+        Long += "\U0001F600";
+    File->Caption = Long;
+    File->HidePanel();
+    EXPECT_EQ(Record(Long.substr(0, 4 * 127), "isVisible"), "0");
+}
+
 // ---- what is read
 
 TEST_F(ToolBarPositionTest, AHiddenBarStaysHidden)
@@ -378,6 +416,7 @@ TEST_F(ToolBarPositionTest, ADockThatIsGoneLeavesTheBarInItsDesignedOne)
 {
     for (const char* Name : {"DockOfOld", "", "OpenButton", "FileBar", "no name at all"}) {
         PutDocked("File", Name, 60, 0, 200, 26);
+        PutDocked("Edit", "DockTop", 10, 26, 100, 26);
         Load();
         EXPECT_EQ(Layout(Top), "52: FileBar 60,0 EditBar 10,26") << Name;
     }
@@ -390,6 +429,50 @@ TEST_F(ToolBarPositionTest, ADockThatIsNotAtAnEdgeAnyMoreTakesNoBar)
     Text.replace(Text.find("alBottom"), 8, "alNone");
     Load(Text);
     EXPECT_EQ(File->Parent, Top);
+}
+
+// ---- read again while the program runs
+
+TEST_F(ToolBarPositionTest, ABarIsRestoredWhileTheProgramRuns)
+{
+    Load();
+    Show();
+    SaveToolBarPosition(File);
+    File->AutoSave = false;
+    File->DeleteFromDock();
+    File->FloatToPos(300, 300);
+    File->TakeEvents();
+    for (int Time = 1; Time <= 2; ++Time) {
+        RestoreToolBarPosition(File);
+        EXPECT_EQ(File->TakeEvents(), "hide show static") << Time;
+        EXPECT_TRUE(File->Visible);
+        EXPECT_FALSE(File->Floating);
+        EXPECT_EQ(Layout(Top), "52: EditBar 10,0 FileBar 0,26");
+        EXPECT_EQ(Record("File", "isVisible"), "1");
+    }
+}
+
+TEST_F(ToolBarPositionTest, AFloatingBarIsRestoredWhileTheProgramRuns)
+{
+    Load();
+    Show();
+    Put("File", "isFloat", "1");
+    Put("File", "XPosition", "500");
+    Put("File", "YPosition", "400");
+    RestoreToolBarPosition(File);
+    ASSERT_TRUE(File->Floating);
+    EXPECT_TRUE(File->Visible);
+    EXPECT_TRUE(File->Frame->Visible);
+    EXPECT_EQ(File->Frame->Left, 500);
+    EXPECT_EQ(Layout(Top), "26: EditBar 10,0");
+}
+
+TEST_F(ToolBarPositionTest, WithoutARecordRestoringChangesNothing)
+{
+    Load();
+    RestoreToolBarPosition(File);
+    EXPECT_EQ(File->TakeEvents(), "");
+    EXPECT_EQ(Layout(Top), "52: FileBar 0,0 EditBar 10,26");
 }
 
 // ---- records that cannot be
@@ -449,6 +532,7 @@ TEST_F(ToolBarPositionTest, AFrameComesToWhereItsCaptionCanBeSeen)
 TEST_F(ToolBarPositionTest, AVerticalRecordInAHorizontalDockIsTurned)
 {
     PutDocked("File", "DockOfOld", 0, 0, 26, 180);
+    PutDocked("Edit", "DockTop", 10, 26, 100, 26);
     Load();
     EXPECT_EQ(File->Width, 180);
     EXPECT_EQ(File->Height, 26);
