@@ -126,15 +126,16 @@ void TkelComboButton::SetGroupIndex(int Value)
     FMain->GroupIndex = Value;
 }
 
-// Upright, as in a vertical bar, the arrow is below.
+// In a vertical bar the arrow is below.
 void TkelComboButton::AlignControls(TControl* Control, TRect& Rect)
 {
-    if (Height > Width) {
+    const int ArrowSize = std::min(Width, Height) / 2;
+    if (Align == alTop || Align == alBottom) {
         FArrow->Align = alBottom;
-        FArrow->Height = Width / 2;
+        FArrow->Height = ArrowSize;
     } else {
         FArrow->Align = alRight;
-        FArrow->Width = Height / 2;
+        FArrow->Width = ArrowSize;
     }
     inherited::AlignControls(Control, Rect);
 }

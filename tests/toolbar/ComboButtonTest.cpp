@@ -99,14 +99,20 @@ TEST_F(ComboButtonTest, ANewComboButtonHasTwoHalves)
     EXPECT_STREQ(FreshMain->ClassName(), "TkelSpeedButton");
 }
 
-TEST_F(ComboButtonTest, UprightTheArrowIsBelowTheMainHalf)
+TEST_F(ComboButtonTest, InAVerticalBarTheArrowIsBelowTheMainHalf)
 {
-    Combo->SetBounds(100, 10, 22, 33);
-    EXPECT_EQ(Main->BoundsRect, TRect(0, 0, 22, 22));
-    EXPECT_EQ(Arrow->BoundsRect, TRect(0, 22, 22, 33));
+    Combo->Parent->DisableAlign();
+    for (TAlign Upright : {alTop, alBottom}) {
+        Combo->Align = Upright;
+        Combo->SetBounds(100, 10, 22, 33);
+        EXPECT_EQ(Main->BoundsRect, TRect(0, 0, 22, 22));
+        EXPECT_EQ(Arrow->BoundsRect, TRect(0, 22, 22, 33));
+    }
+    Combo->Align = alLeft;
     Combo->SetBounds(100, 10, 33, 22);
     EXPECT_EQ(Main->BoundsRect, MainArea);
     EXPECT_EQ(Arrow->BoundsRect, ArrowArea);
+    Combo->Parent->EnableAlign();
 }
 
 TEST_F(ComboButtonTest, TheArrowsGroupIsRandom)
@@ -241,6 +247,13 @@ TEST_F(ComboButtonTest, TheArrowIsHalfAsWideAsTheButtonIsHigh)
         EXPECT_EQ(Arrow->BoundsRect, TRect(60 - Height / 2, 0, 60, Height)) << Height;
         EXPECT_EQ(Main->BoundsRect, TRect(0, 0, 60 - Height / 2, Height)) << Height;
     }
+}
+
+TEST_F(ComboButtonTest, OfATallButtonTheArrowStaysAtTheRight)
+{
+    Combo->SetBounds(100, 10, 30, 60);
+    EXPECT_EQ(Main->BoundsRect, TRect(0, 0, 15, 60));
+    EXPECT_EQ(Arrow->BoundsRect, TRect(15, 0, 30, 60));
 }
 
 TEST_F(ComboButtonTest, AllHaveOneStripAndItGoesWithTheLast)
