@@ -27,7 +27,8 @@ function(tessary_add_manifest target)
     set_property(SOURCE ${folder}/application.rc PROPERTY OBJECT_DEPENDS ${folder}/application.manifest)
 endfunction()
 
-# tessary_add_forms(TARGET FORM.dfm...) embeds each form under the name of its class, where LoadForm finds it.
+# tessary_add_forms(TARGET FORM.dfm...) embeds each form under the name of its class, where LoadForm finds it, with a map to
+# the lines of its text for messages of errors.
 function(tessary_add_forms target)
     foreach(form IN LISTS ARGN)
         cmake_path(ABSOLUTE_PATH form)
@@ -35,14 +36,16 @@ function(tessary_add_forms target)
         set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${form})
         tessary_form_class(${form} class)
         set(binary ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${unit}.bin)
+        set(lines ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${unit}.lines)
         file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources)
         add_custom_command(
-            OUTPUT ${binary}
-            COMMAND Tessary::host_formconv --binary ${form} ${binary}
+            OUTPUT ${binary} ${lines}
+            COMMAND Tessary::host_formconv --binary --lines ${lines} ${form} ${binary}
             DEPENDS ${form} Tessary::host_formconv
             COMMENT "Compiling form ${unit}"
             VERBATIM)
         tessary_add_resource(${target} ${class} RCDATA ${binary})
+        tessary_add_resource(${target} ${class} FORMLINES ${lines})
     endforeach()
 endfunction()
 
@@ -112,7 +115,7 @@ endfunction()
 
 # Embeds FILE in a program; or in every program that links a static library, which would lose a resource of its own.
 function(tessary_add_resource target name type file)
-    set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${name}.rc)
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources/${name}.${type}.rc)
     file(CONFIGURE OUTPUT ${script} CONTENT "${name} ${type} \"${file}\"\n")
     tessary_add_resource_script(${target} ${script})
     set_property(SOURCE ${script} PROPERTY OBJECT_DEPENDS ${file})

@@ -33,7 +33,6 @@ void TkelToolBar::Describe(TClassBuilder<TkelToolBar>& Class)
 
 TkelToolBar::TkelToolBar(TComponent* AOwner) : TkelCustomPanel(AOwner)
 {
-    LayoutSuspended = true;
     ControlStyle = ControlStyle + TControlStyle{csOpaque};
     SetBounds(0, 0, Width, DefaultHeight);
     NumberCaption();
@@ -71,16 +70,23 @@ void TkelToolBar::SetParent(TWinControl* Value)
     const bool WasNew = Value && std::exchange(FIsNew, false);
     FHasRow = WasNew && Dock;
     if (WasNew && !IsLoading())
-        LayoutSuspended = false;
+        FSuspension.End();
 }
 
 void TkelToolBar::Loaded()
 {
-    const TScopedValue Suspended(LayoutSuspended, true, false);
+    const TStillThere IsHere(this);
+    FSuspension.Begin();
+    const TScopeExit Done([&] {
+        if (IsHere)
+            FSuspension.End();
+    });
     inherited::Loaded();
     SortControls();
     if (FAutoSave && !IsDesigning())
         RestoreToolBarPosition(this);
+    if (!IsHere)
+        return;
     FRowThickness = Axis().Thickness(*this);
 }
 
@@ -191,7 +197,7 @@ void TkelToolBar::HidePanel()
     else
         DeleteFromDock();
     Hide();
-    if (!LayoutSuspended)
+    if (!IsLayoutSuspended())
         SaveToolBarPosition(this);
 }
 

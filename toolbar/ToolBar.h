@@ -6,6 +6,7 @@
 
 #include "toolbar/Dock.h"
 
+#include <utility>
 #include <vector>
 
 class TFPForm97;
@@ -111,7 +112,7 @@ public:
     TkelToolBar* FindToolBar(const TPoint& Point) const;
 
     // True while bars are created and loaded: nothing is reported, saved or captured then.
-    static bool IsLayoutSuspended() { return LayoutSuspended; }
+    static bool IsLayoutSuspended() { return TSuspension::Any(); }
 
     TRect GetClientRect() const override;
     int AccessibleRole() const override;
@@ -132,6 +133,21 @@ protected:
 private:
     friend class TFPForm97;
     friend void RestoreToolBarPosition(TkelToolBar* ToolBar);
+
+    // A bar is being made or loaded: until it lies somewhere, has been loaded, or is deleted because that failed.
+    class TSuspension {
+    public:
+        TSuspension() { Begin(); }
+        ~TSuspension() { End(); }
+        TSuspension(const TSuspension&) = delete;
+        void Begin() { Count += !std::exchange(FHolds, true); }
+        void End() { Count -= std::exchange(FHolds, false); }
+        static bool Any() { return Count > 0; }
+
+    private:
+        static inline int Count = 0;
+        bool FHolds = false;
+    };
 
     void WMSize(TWMSize& Message);
     void WMWindowPosChanged(TMessage& Message);
@@ -165,7 +181,6 @@ private:
     TFPForm97* LeaveFrame();
     static void CloseFrame(TFPForm97* Emptied);
 
-    static inline bool LayoutSuspended = false;
     static inline TkelToolBar* Dragged = nullptr; // during a step of its drag
 
     int FRowThickness = 0;
@@ -177,6 +192,7 @@ private:
     bool FCloseBox = true; // of the floating frame; not to be changed
     bool FIsNew = true;    // has not been put anywhere yet
     bool FHasRow = false;  // has its place in the rows of its dock; meaningless while it is hidden
+    TSuspension FSuspension;
     TkelTBDragBox* FDragBox;
     TFPForm97* FFrame = nullptr;
 };

@@ -131,7 +131,7 @@ void TkelToolBar::TearOff(const TPoint& P)
 // So that the drag goes on when the window that had the mouse is gone, hidden or elsewhere.
 void TkelToolBar::CaptureDrag()
 {
-    if (!LayoutSuspended && Dragged == this)
+    if (!IsLayoutSuspended() && Dragged == this)
         MouseCapture = true;
 }
 
@@ -221,7 +221,7 @@ void TkelToolBar::PlaceFrame(TPoint Place, bool Exactly)
 
 void TkelToolBar::MakeFrame()
 {
-    if (!LayoutSuspended)
+    if (!IsLayoutSuspended())
         DoFloat();
     FFrame = new TFPForm97(nullptr);
     FFloating = true;

@@ -109,7 +109,7 @@ void TkelToolBar::InsertToDock()
     if (!InDock || !InDock->TakesBars())
         return;
     const TStillThere IsHere(this);
-    if (!LayoutSuspended)
+    if (!IsLayoutSuspended())
         DoStatic();
     if (!IsHere || Dock != InDock)
         return;
@@ -148,7 +148,7 @@ void TkelToolBar::DeleteFromDock()
         return;
     GiveUpRow();
     LieFree();
-    if (!LayoutSuspended)
+    if (!IsLayoutSuspended())
         Show();
 }
 

@@ -1,7 +1,9 @@
 #include "vcl/classes/Reader.h"
 
 #include "tests/classes/SampleComponents.h"
+#include "vcl/classes/FormConvert.h"
 #include "vcl/classes/FormEncoder.h"
+#include "vcl/classes/FormLines.h"
 #include "vcl/classes/StringStream.h"
 #include "vcl/system/ClassDescription.h"
 #include "vcl/system/Ident.h"
@@ -364,8 +366,8 @@ TEST_F(ReaderTest, OnErrorMaySkipAValue)
         Handled = true;
     };
     Reader.ReadRootComponent(Form);
-    EXPECT_THAT(Errors, ElementsAre("Number: Invalid property value", "Sides: Invalid property value",
-                                    "Width: Invalid property value"));
+    EXPECT_THAT(Errors, ElementsAre("Number: 'no' is no integer", "Sides: wrong is no TSampleSide",
+                                    "Width: 'no' is no integer"));
     EXPECT_EQ(Form->GetNumber(), 5);
     EXPECT_EQ(Form->Sides, TSampleSides{ssdLeft});
     EXPECT_EQ(Form->Item(0)->Text, "yes");
@@ -537,4 +539,117 @@ TEST_F(GlobalReferenceTest, ASecondRootOfTheNameGetsAnother)
     Load(Other.get(), "object Form: TSampleForm\nend");
     EXPECT_EQ(Form->Name, "Form");
     EXPECT_EQ(Other->Name, "Form_1");
+}
+
+// ---- Properties that depend on others
+
+TEST_F(ReaderTest, APropertyThatDependsOnOthersIsSetBehindThem)
+{
+    for (const char* Properties : {" Position = 50\n Limit = 100", " Limit = 100\n Position = 50"}) {
+        Load(Form, std::string("object Form: TSampleForm\n object R: TSampleRange\n") + Properties +
+                       "\n Number = 3\n object S: TSampleRange\n Position = 1\n end\n end\nend");
+        auto* Range = static_cast<TSampleRange*>(Form->FindComponent("R"));
+        EXPECT_EQ(Range->GetPosition(), 50) << Properties;
+        EXPECT_EQ(Range->GetNumber(), 3);
+        EXPECT_EQ(static_cast<TSampleRange*>(Form->FindComponent("S"))->GetPosition(), 1);
+        Form->DestroyComponents();
+    }
+}
+
+// ---- Fields
+
+TEST_F(ReaderTest, AStandInForAForeignClassLeavesTheFieldEmpty)
+{
+    TStringStream Stream(Binary("object Form: TSampleForm\n object Button1: TForeign\n end\nend"));
+    TReader Reader(&Stream);
+    Reader.OnFindComponentClass = [](TReader*, const AnsiString&, TClass& Class) {
+        if (!Class)
+            Class = TSample::StaticClass();
+    };
+    Reader.ReadRootComponent(Form);
+    EXPECT_NE(Form->FindComponent("Button1"), nullptr);
+    EXPECT_EQ(Form->Button1, nullptr);
+}
+
+// ---- Lines of the form's text
+
+namespace {
+
+const std::string LinedText = "object Form: TSampleForm\n"
+                              "  Number = 1\n"
+                              "  Lines.Strings = (\n"
+                              "    'a'\n"
+                              "    'b')\n"
+                              "  Items = <\n"
+                              "    item\n"
+                              "      Text = 'x'\n"
+                              "      Width = 7\n"
+                              "    end>\n"
+                              "  object B: TSampleBox\n"
+                              "    Buddy = C\n"
+                              "  end\n"
+                              "  object C: TSampleBox\n"
+                              "  end\n"
+                              "end\n";
+
+// The message of the error that reading LinedText raises when the first From in it is To.
+std::string ErrorWithLines(TSampleForm* Form, const std::string& From, const std::string& To)
+{
+    std::string Text = LinedText;
+    Text.replace(Text.find(From), From.size(), To);
+    std::string Binary;
+    TFormLinesBuilder Lines("Main.dfm");
+    FormTextToBinary(Text, Binary, &Lines);
+    TStringStream Stream(Binary);
+    TReader Reader(&Stream);
+    Reader.Lines = TFormLines(Lines.Data());
+    try {
+        Reader.ReadRootComponent(Form);
+    } catch (const Exception& Error) {
+        return Error.Message;
+    }
+    return "no error";
+}
+
+} // namespace
+
+TEST_F(ReaderTest, ErrorsNameTheLineOfTheText)
+{
+    EXPECT_EQ(ErrorWithLines(Form, "Number = 1", "Number = 'x'"),
+              "Error reading Form.Number: 'x' is no integer on line 2 of Main.dfm");
+    EXPECT_EQ(ErrorWithLines(Form, "'b'", "2"), "Error reading Form.Lines.Strings: 2 is no text on line 5 of Main.dfm");
+    EXPECT_EQ(ErrorWithLines(Form, "Width", "Wide"),
+              "Error reading Form.Items[0].Wide: Property Wide does not exist on line 9 of Main.dfm");
+    EXPECT_EQ(ErrorWithLines(Form, "C: TSampleBox", "C: TNobody"),
+              "Class TNobody not found on line 14 of Main.dfm: it is not registered; is its header included?");
+    EXPECT_EQ(ErrorWithLines(Form, "Buddy = C", "Buddy = Part"), "no error");
+    Form->DestroyComponents();
+    EXPECT_EQ(ErrorWithLines(Form, "C: TSampleBox", "C: TSamplePart"),
+              "Error reading B.Buddy: C is a TSamplePart, not a TSample on line 12 of Main.dfm");
+    RemoveFixupReferences(nullptr, "");
+}
+
+TEST_F(ReaderTest, AnErrorInAFrameIsNotTakenForOneOfTheFormAroundIt)
+{
+    const std::string Before =
+        std::exchange(TSampleFrame::FormText, "object Frame: TSampleFrame\n  Number = 'x'\nend\n");
+    EXPECT_EQ(ErrorWithLines(Form, "C: TSampleBox", "C: TSampleFrame"),
+              "Error reading Frame.Number: 'x' is no integer at offset 30");
+    TSampleFrame::FormText = Before;
+}
+
+TEST(FormLinesTest, KnowsEveryLineThatHasSomething)
+{
+    TFormLinesBuilder Builder("Main.dfm");
+    EXPECT_EQ(TFormLines(Builder.Data()).PlaceOf(5), "") << "a binary form has no lines";
+    Builder.Add(4, 1);
+    Builder.Add(100, 1);
+    Builder.Add(1000, 300);
+    const TFormLines Lines(Builder.Data());
+    EXPECT_EQ(Lines.PlaceOf(3), "");
+    EXPECT_EQ(Lines.PlaceOf(999), " on line 1 of Main.dfm");
+    EXPECT_EQ(Lines.PlaceOf(1000), " on line 300 of Main.dfm");
+    EXPECT_EQ(Lines.PlaceOf(1000000), " on line 300 of Main.dfm");
+    EXPECT_EQ(TFormLines().PlaceOf(5), "");
+    EXPECT_EQ(TFormLines("\xFF").PlaceOf(5), "") << "no map at all";
 }

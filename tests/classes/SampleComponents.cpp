@@ -263,6 +263,19 @@ TSampleFrame::TSampleFrame(TComponent* AOwner) : TSampleForm(AOwner)
 void TSampleFrame::Describe(TClassBuilder<TSampleFrame>&)
 {}
 
+void TSampleRange::Describe(TClassBuilder<TSampleRange>& Class)
+{
+    Class.Property<&Self::GetPosition, &Self::SetPosition>("Position").Default(0).ReadLast();
+    Class.Value<&Self::Limit>("Limit").Default(10);
+}
+
+void TSampleRange::SetPosition(int Value)
+{
+    if (Value > Limit)
+        throw EInvalidOperation(std::to_string(Value) + " is beyond " + std::to_string(Limit));
+    FPosition = Value;
+}
+
 TSampleBomb::TSampleBomb(TComponent* AOwner) : TSampleBox(AOwner)
 {
     new TSample(this);

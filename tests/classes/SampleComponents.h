@@ -163,6 +163,19 @@ public:
     static std::string FormText;
 };
 
+// A value that must lie below a limit, which is published behind it.
+class TSampleRange : public TSample {
+    VCL_CLASS(TSampleRange, TSample)
+public:
+    explicit TSampleRange(TComponent* AOwner) : TSample(AOwner) {}
+    int GetPosition() const { return FPosition; }
+    void SetPosition(int Value); // raises EInvalidOperation beyond Limit
+    int Limit = 10;
+
+private:
+    int FPosition = 0;
+};
+
 // Raises EInvalidOperation when it is made.
 class TSampleBomb : public TSampleBox {
     VCL_CLASS(TSampleBomb, TSampleBox)

@@ -1,8 +1,10 @@
 // Forms from form files: what is there when, and in which order it is told.
 #include "tests/forms/TestForms.h"
 
+#include "vcl/classes/FormConvert.h"
 #include "vcl/classes/MemoryStream.h"
 #include "vcl/classes/Reader.h"
+#include "vcl/classes/StringStream.h"
 #include "vcl/classes/Writer.h"
 #include "vcl/forms/DataModule.h"
 #include "vcl/forms/Frame.h"
@@ -123,6 +125,16 @@ void TTestFrame::Describe(TClassBuilder<TTestFrame>& Class)
     Class.Field<&Self::Inner>("Inner");
 }
 
+// Its form file asks for a method that is not there.
+class TBrokenForm : public TForm {
+    VCL_CLASS(TBrokenForm, TForm)
+public:
+    explicit TBrokenForm(TComponent* AOwner) : TForm(AOwner) { LoadForm(this); }
+};
+
+void TBrokenForm::Describe(TClassBuilder<TBrokenForm>&)
+{}
+
 class LoadedForms : public testing::Test {
 protected:
     void SetUp() override { Log.clear(); }
@@ -190,6 +202,42 @@ TEST_F(LoadedForms, WithoutAResourceRaiseAndLeaveNothing)
     }
     EXPECT_EQ(Screen->CustomFormCount, Forms);
     EXPECT_EQ(LiveObjectCount(), Objects);
+}
+
+TEST_F(LoadedForms, WithAnErrorNameItsLine)
+{
+    try {
+        new TBrokenForm(nullptr);
+        FAIL() << "no exception";
+    } catch (const EReadError& E) {
+        EXPECT_EQ(E.Message, "Error reading BrokenForm.OnCreate: TBrokenForm describes no method FormCreat on line 3 of "
+                             "BrokenForm.dfm");
+    }
+}
+
+TEST_F(LoadedForms, ThatExistedBeforeGoOnWhenReadingFails)
+{
+    TFormPtr Form(new TPlainForm(nullptr));
+    auto Read = [&](const std::string& Text) {
+        std::string Bytes;
+        FormTextToBinary("object Plain: TPlainForm\n" + Text + "end", Bytes);
+        TStringStream Stream(Bytes);
+        ReadRootComponent(Stream, Form.get());
+    };
+    EXPECT_THROW(Read("object Probe: TProbe\n Top = 'x'\n end\n"), EReadError);
+    EXPECT_FALSE(Form->ControlState.Contains(csReadingState));
+    EXPECT_EQ(Form->ControlCount, 0);
+    Form->Open();
+    EXPECT_TRUE(IsWindowVisible(Form->Handle));
+    auto* Probe = Form->AddProbe(20);
+    Probe->Align = alClient;
+    EXPECT_EQ(Probe->Height, Form->ClientHeight) << "its layout goes on as well";
+
+    TFormPtr Hidden(new TPlainForm(nullptr));
+    std::swap(Form, Hidden);
+    EXPECT_THROW(Read("Visible = True\n Top = 'x'\n"), EReadError);
+    Form->Open();
+    EXPECT_TRUE(IsWindowVisible(Form->Handle)) << "visible since the form said so";
 }
 
 TEST_F(LoadedForms, AnExceptionInOnCreateGoesToTheApplication)

@@ -111,3 +111,9 @@ TEST(EventTest, StaysTwoWords)
 {
     EXPECT_EQ(sizeof(TNotifyEvent), 2 * sizeof(void*));
 }
+
+TEST(EventTest, SignaturesCanBeShown)
+{
+    EXPECT_EQ((SignatureOf<void(TObject*, char16_t&, bool)>.Text()), "void(TObject*, char16_t&, bool)");
+    EXPECT_EQ(SignatureOf<int()>.Text(), "int()");
+}

@@ -186,6 +186,19 @@ TEST_F(ToolBarPositionTest, ABarThatIsDesignedHiddenIsHiddenAtTheFirstRun)
     EXPECT_FALSE(Edit->Visible);
 }
 
+TEST_F(ToolBarPositionTest, AFormThatCannotBeLoadedSuspendsNobody)
+{
+    Load();
+    std::string Broken = DesignedForm;
+    Broken.replace(Broken.find("Height = 150"), 12, "Height = 'x'");
+    TForm Other(nullptr);
+    EXPECT_THROW(ReadFormText(&Other, Broken), EReadError);
+    EXPECT_FALSE(TkelToolBar::IsLayoutSuspended());
+    File->TakeEvents();
+    File->HidePanel();
+    EXPECT_TRUE(Store->HasKey("ToolBar\\File")) << "the bars that were there before go on saving";
+}
+
 TEST_F(ToolBarPositionTest, RowThicknessIsWhatTheBarWasLoadedWith)
 {
     Load();

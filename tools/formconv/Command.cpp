@@ -9,16 +9,18 @@
 namespace {
 
 constexpr const char* Usage =
-    "usage: formconv --binary IN OUT\n"
+    "usage: formconv --binary [--lines LINES] IN OUT\n"
     "       formconv --resource IN OUT\n"
     "       formconv --text [--lf] IN OUT\n"
     "\n"
     "Converts a form to binary, to binary with a resource header, or to text, whichever of these it is.\n"
+    "LINES gets a small map from the form to the lines of the text that it comes from, for messages of errors.\n"
     "IN and OUT may be -, standard input and output. Lines of text end with CR LF, or with --lf with LF alone.\n";
 
 struct TOptions {
     TFormTarget Target = TFormTarget::Text;
     std::string LineEnd = "\r\n";
+    std::string Lines; // empty: not wanted
     std::string Input;
     std::string Output;
 };
@@ -37,6 +39,10 @@ bool ReadOptions(std::vector<std::string> Words, TOptions& Options)
     if (Options.Target == TFormTarget::Text && !Words.empty() && Words[0] == "--lf") {
         Options.LineEnd = "\n";
         Words.erase(Words.begin());
+    }
+    if (Options.Target == TFormTarget::Binary && Words.size() > 2 && Words[0] == "--lines") {
+        Options.Lines = Words[1];
+        Words.erase(Words.begin(), Words.begin() + 2);
     }
     if (Words.size() != 2)
         return false;
@@ -60,6 +66,8 @@ int RunFormconv(const std::vector<std::string>& Words, std::ostream& Errors)
             ConvertForm(ReadWholeFile(Options.Input), Name, Options.Target, Options.LineEnd);
         if (Result.Done) {
             WriteWholeFile(Options.Output, Result.Output);
+            if (!Options.Lines.empty())
+                WriteWholeFile(Options.Lines, Result.Lines);
             return 0;
         }
         Errors << Result.Error << "\n";

@@ -1,16 +1,17 @@
 #include "tools/formconv/Conversion.h"
 
 #include "vcl/classes/FormConvert.h"
+#include "vcl/classes/FormLines.h"
 
 #include <algorithm>
 
 namespace {
 
 // The form alone, in binary.
-std::string BinaryFromText(std::string_view Text)
+std::string BinaryFromText(std::string_view Text, TFormLinesBuilder* Lines)
 {
     std::string Binary;
-    const std::size_t Used = FormTextToBinary(Text, Binary);
+    const std::size_t Used = FormTextToBinary(Text, Binary, Lines);
     if (Used < Text.size()) {
         const auto Line = 1 + std::count(Text.begin(), Text.begin() + static_cast<std::ptrdiff_t>(Used), '\n');
         throw EFormTextError("More text follows the form", static_cast<int>(Line));
@@ -28,7 +29,7 @@ std::size_t TextFromBinary(std::string_view Binary, std::string& Text, std::stri
     return Used;
 }
 
-std::string Convert(std::string_view Input, TFormTarget Target, std::string_view LineEnd)
+std::string Convert(std::string_view Input, TFormTarget Target, std::string_view LineEnd, TFormLinesBuilder& Lines)
 {
     std::string Text;
     std::string Binary;
@@ -37,7 +38,7 @@ std::string Convert(std::string_view Input, TFormTarget Target, std::string_view
         const std::size_t Header = ResourceHeaderSize(Input);
         Binary = Input.substr(Header, Used - Header);
     } else {
-        Binary = BinaryFromText(Input);
+        Binary = BinaryFromText(Input, &Lines);
         if (Target == TFormTarget::Text)
             FormBinaryToText(Binary, Text, {LineEnd});
     }
@@ -53,7 +54,10 @@ TConversionResult ConvertForm(std::string_view Input, const std::string& Name, T
 {
     TConversionResult Result;
     try {
-        Result.Output = Convert(Input, Target, LineEnd);
+        TFormLinesBuilder Lines(Name.substr(Name.find_last_of("\\/") + 1));
+        Result.Output = Convert(Input, Target, LineEnd, Lines);
+        if (Target == TFormTarget::Binary)
+            Result.Lines = Lines.Data();
         Result.Done = true;
     } catch (const EFormTextError& Error) {
         Result.Error = Name + ":" + std::to_string(Error.Line) + ": " + Error.Detail;

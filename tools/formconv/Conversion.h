@@ -9,6 +9,7 @@ enum class TFormTarget { Text, Binary, Resource };
 struct TConversionResult {
     bool Done = false;
     std::string Output; // the form when Done
+    std::string Lines;  // where it stands in the text (TFormLines), for the target Binary when the input is text
     std::string Error;  // "NAME:LINE: message" or "NAME@OFFSET: message" otherwise
 };
 

@@ -25,8 +25,6 @@ TComponent::~TComponent()
     // A constructor that throws comes here without the destroying delete; virtual calls reach this class only.
     if (!IsDestroying())
         TComponent::BeforeDestruction();
-    if (FTracked)
-        TReader::Forget(this);
     if (FOwner)
         FOwner->RemoveComponent(this);
 }

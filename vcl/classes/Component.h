@@ -124,6 +124,7 @@ protected:
 
 private:
     friend class TComponentLink;
+    friend class TLoadingList;
     friend class TReader;
     friend class TWriter;
 
@@ -143,5 +144,4 @@ private:
     TComponentLink* FLinks = nullptr; // the references to this component (TComponentRef)
     TComponentState FState;
     TComponentStyle FStyle{csInheritable};
-    bool FTracked = false; // a reader at work holds pointers to it
 };

@@ -36,8 +36,10 @@ TComponent* FindInAnyRoot(std::string_view Name)
 void TFixup::Resolve(TComponent* Value) const
 {
     AnsiString Place = Instance->GetNamePath() + "." + Property->Name;
+    const char* ClassName = Property->Type->Class->ClassName();
     if (!Value->InheritsFrom(Property->Type->Class))
-        throw EFormDataError("Error reading " + Place + ": Invalid property value", Offset);
+        throw EFormDataError(
+            "Error reading " + Place + ": " + Name + " is a " + Value->ClassName() + ", not a " + ClassName, Offset);
     try {
         Property->SetObject(Instance, Value);
     } catch (const EAbort&) {

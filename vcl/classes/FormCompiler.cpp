@@ -1,6 +1,7 @@
 #include "vcl/classes/FormCompiler.h"
 
 #include "vcl/classes/FormFloat.h"
+#include "vcl/classes/FormLines.h"
 
 #include <charconv>
 #include <limits>
@@ -23,11 +24,19 @@ private:
     TFormCompiler& FCompiler;
 };
 
-TFormCompiler::TFormCompiler(std::string_view Text, std::string& Output)
+TFormCompiler::TFormCompiler(std::string_view Text, std::string& Output, TFormLinesBuilder* Lines)
     : FLexer(Text),
       FEncoder(Output),
-      FOutput(Output)
+      FOutput(Output),
+      FLines(Lines),
+      FStart(Output.size())
 {}
+
+void TFormCompiler::NoteLine()
+{
+    if (FLines)
+        FLines->Add(FOutput.size() - FStart, FLexer.Line());
+}
 
 std::size_t TFormCompiler::Run()
 {
@@ -44,6 +53,7 @@ std::size_t TFormCompiler::Run()
 void TFormCompiler::Object()
 {
     const TLevel Level(*this);
+    NoteLine();
     TFormPrefix Prefix = ObjectKeyword();
     FLexer.Next();
     std::string_view Name;
@@ -92,6 +102,7 @@ void TFormCompiler::Properties()
 
 void TFormCompiler::Property()
 {
+    NoteLine();
     FEncoder.Name(TakeName("A property"));
     TakeSymbol('=');
     Value();
@@ -99,6 +110,7 @@ void TFormCompiler::Property()
 
 void TFormCompiler::Value()
 {
+    NoteLine();
     switch (FLexer.Kind()) {
     case TFormToken::Identifier: IdentifierValue(); return;
     case TFormToken::Integer: IntegerValue(); return;

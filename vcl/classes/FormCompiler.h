@@ -20,10 +20,12 @@
 #include <string>
 #include <string_view>
 
+class TFormLinesBuilder;
+
 class TFormCompiler {
 public:
-    // Both must outlive the compiler.
-    TFormCompiler(std::string_view Text, std::string& Output);
+    // All must outlive the compiler. Lines gets where in the text everything stands; nullptr: not wanted.
+    TFormCompiler(std::string_view Text, std::string& Output, TFormLinesBuilder* Lines = nullptr);
 
     // Appends the first form in the text to the output. Returns how much of the text belongs to it, the blanks and
     // line ends behind it included. Throws EFormTextError; the output may then have got a part of the form.
@@ -52,10 +54,14 @@ private:
     std::int32_t TakeIndex();
     std::int64_t ParseInteger() const;
     void TakeSymbol(char Symbol);
+    // What is written next stands on the current line.
+    void NoteLine();
 
     TFormLexer FLexer;
     TFormEncoder FEncoder;
     std::string& FOutput;
     TFormString FString;
+    TFormLinesBuilder* FLines;
+    std::size_t FStart; // of the form in the output
     int FDepth = 0;
 };

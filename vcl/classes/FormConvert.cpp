@@ -43,11 +43,11 @@ void ConvertStream(TStream& Input, TStream& Output, TConvert Convert)
 
 } // namespace
 
-std::size_t FormTextToBinary(std::string_view Text, std::string& Output)
+std::size_t FormTextToBinary(std::string_view Text, std::string& Output, TFormLinesBuilder* Lines)
 {
     return Complete(Output, [&] {
         Output.reserve(Output.size() + Text.size() * 3 / 4); // usually enough
-        return TFormCompiler(Text, Output).Run();
+        return TFormCompiler(Text, Output, Lines).Run();
     });
 }
 
@@ -74,7 +74,8 @@ TStreamOriginalFormat TestStreamFormat(TStream& Stream)
 
 void ObjectTextToBinary(TStream& Input, TStream& Output)
 {
-    ConvertStream(Input, Output, FormTextToBinary);
+    ConvertStream(Input, Output,
+                  [](std::string_view Text, std::string& Binary) { return FormTextToBinary(Text, Binary); });
 }
 
 void ObjectTextToResource(TStream& Input, TStream& Output)

@@ -13,12 +13,14 @@
 #include <string>
 #include <string_view>
 
+class TFormLinesBuilder;
 class TStream;
 
 // Append the converted form to Output and return how much of the input belongs to it: for text with the blanks and line
 // ends behind it, for binary with a resource header before it. Further input is not looked at. When they throw
 // EFormTextError or EFormDataError, Output is as it was.
-std::size_t FormTextToBinary(std::string_view Text, std::string& Output);
+// Lines, when it is there, gets the places in the text.
+std::size_t FormTextToBinary(std::string_view Text, std::string& Output, TFormLinesBuilder* Lines = nullptr);
 std::size_t FormBinaryToText(std::string_view Binary, std::string& Output, const TFormTextOptions& Options = {});
 
 // What the stream holds from where it stands; its position stays.

@@ -3,9 +3,9 @@
 #include <bit>
 #include <limits>
 
-void TFormCursor::FailAt(const char* Detail, std::size_t APosition) const
+void TFormCursor::FailAt(std::string_view Detail, std::size_t APosition) const
 {
-    throw EFormDataError(Detail, FBase + APosition);
+    throw EFormDataError(std::string(Detail), FBase + APosition);
 }
 
 void TFormCursor::FailTruncated() const

@@ -27,8 +27,8 @@ public:
     std::size_t Remaining() const { return FData.size() - FPosition; }
 
     // Throws EFormDataError for the byte at Position.
-    [[noreturn]] void Fail(const char* Detail) const { FailAt(Detail, FPosition); }
-    [[noreturn]] void FailAt(const char* Detail, std::size_t APosition) const;
+    [[noreturn]] void Fail(std::string_view Detail) const { FailAt(Detail, FPosition); }
+    [[noreturn]] void FailAt(std::string_view Detail, std::size_t APosition) const;
 
     std::uint8_t PeekByte() const
     {

@@ -23,6 +23,14 @@ public:
     EFormDataError(const std::string& ADetail, std::size_t AOffset);
     const char* ClassName() const noexcept override { return "EFormDataError"; }
 
+    // The form's reader has it at last: Place, " on line 3 of Main.dfm" (TFormLines), takes the offset's place in the
+    // message unless it is empty. What has passed a reader is not changed by those of other forms around it.
+    void Locate(const std::string& Place);
+    bool IsLocated() const { return FLocated; }
+
     std::string Detail;
     std::size_t Offset; // in bytes from the start of the data, a resource header included
+
+private:
+    bool FLocated = false;
 };

@@ -2,9 +2,7 @@
 // frame that stands in a form. Its components stay in csLoading until the last step, and then each hears Loaded once.
 #pragma once
 
-#include "vcl/classes/Component.h"
-
-#include <vector>
+#include "vcl/classes/LoadingList.h"
 
 class TLoadingBatch {
 public:
@@ -25,12 +23,11 @@ private:
     TLoadingBatch(TComponent* Root, TClass RootClass);
     // From Batch outwards.
     static TLoadingBatch* Find(TLoadingBatch* Batch, TComponent* Root);
-    static void Forget(const TComponent* Component);
 
     static inline constinit TLoadingBatch* FInnermost = nullptr;
 
     TComponent* FRoot;
     TClass FRootClass;
     TLoadingBatch* FOuter;
-    std::vector<TComponent*> FLoaded; // nullptr where deleted since
+    TLoadingList FLoading;
 };

@@ -2,9 +2,11 @@
 
 #include "vcl/classes/CustomMemoryStream.h"
 #include "vcl/classes/LoadingBatch.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/system/ClassDescription.h"
 #include "vcl/system/Ident.h"
 #include "vcl/system/Locale.h"
+#include "vcl/system/Scope.h"
 
 #include <algorithm>
 #include <optional>
@@ -108,6 +110,18 @@ TComponent* TReader::ReadRootComponent(TComponent* ARoot)
 {
     ReadSignature();
     TSession Session(*this);
+    try {
+        ARoot = ReadRoot(ARoot);
+    } catch (EFormDataError& Error) {
+        Error.Locate(Lines.PlaceOf(Error.Offset));
+        throw;
+    }
+    Session.Finish();
+    return ARoot;
+}
+
+TComponent* TReader::ReadRoot(TComponent* ARoot)
+{
     size_t Start = FCursor.Position();
     ReadPrefix();
     std::string_view ClassName = FCursor.ReadName();
@@ -124,12 +138,11 @@ TComponent* TReader::ReadRootComponent(TComponent* ARoot)
     Root = ARoot;
     FLookupRoot = ARoot;
     FOwner = ARoot;
-    Track(ARoot); // a control that is loading does not take its name for its caption
+    FLoading.Add(ARoot); // a control that is loading does not take its name for its caption
     if (!Name.empty())
         NameRoot(ARoot, Name, Start);
     ReadContents(ARoot);
     --FDepth;
-    Session.Finish();
     return ARoot;
 }
 
@@ -182,10 +195,11 @@ TComponent* TReader::ReadObject(TComponent* Component)
         if (FParent)
             Component->SetParentComponent(FParent);
         NameComponent(Component, Name, Start);
+        CheckField(Component, ClassName, Start);
     } else if (FParent && Component->HasParent() && Component->GetParentComponent() != FParent) {
         Component->SetParentComponent(FParent);
     }
-    Track(Component);
+    FLoading.Add(Component);
     ReadContents(Component);
     if ((Prefix.Flags & FilerFlagChildPos) && FParent)
         FParent->SetChildOrder(Component, Prefix.ChildPos);
@@ -218,13 +232,11 @@ TComponent* TReader::CreateComponent(TClass Class, const TFormPrefix& Prefix)
         Batch.emplace(Class);
     if (!Component)
         Component = Class->Create(FOwner);
-    FCreated.push_back(Component);
     if (Inline) {
-        FLoaded.insert(FLoaded.end(), Batch->FLoaded.begin(), Batch->FLoaded.end());
-        Batch->FLoaded.clear();
+        FLoading.Take(Batch->FLoading);
         Component->FState << csInline;
     }
-    Track(Component);
+    FLoading.AddMade(Component);
     return Component;
 }
 
@@ -238,6 +250,19 @@ void TReader::NameComponent(TComponent* Component, std::string_view Name, size_t
     } catch (const EComponentError& Error) {
         throw EFormDataError(Error.Message, FBase + Start);
     }
+}
+
+// Without this the field would stay nullptr. A stand-in for a foreign class, which a hook has made, fits no field.
+void TReader::CheckField(const TComponent* Component, std::string_view ClassName, size_t Start)
+{
+    const TComponent* Owner = Component->FOwner;
+    if (!Owner || !SameIdent(Component->ClassName(), ClassName))
+        return;
+    const TFieldInfo* Field = Owner->ClassType()->Description().FindField(Component->FName);
+    if (Field && !Component->InheritsFrom(Field->Class))
+        FCursor.FailAt(Component->FName + " is a " + Component->ClassName() + ", but the field of that name in " +
+                           Owner->ClassName() + " is a " + Field->Class->ClassName(),
+                       Start);
 }
 
 // Two forms of one class may be open at once; the second is Form1_1.
@@ -276,19 +301,26 @@ TClass TReader::UnknownClass(std::string_view ClassName, std::string_view Name, 
     bool Skip = false;
     if (OnUnknownClass)
         OnUnknownClass(this, AnsiString(ClassName), AnsiString(Name), Skip);
-    if (!Skip)
-        throw EClassNotFound("Class " + AnsiString(ClassName) + " not found at offset " +
-                             std::to_string(FBase + Start));
-    return nullptr;
+    if (Skip)
+        return nullptr;
+    AnsiString Place = Lines.PlaceOf(FBase + Start);
+    if (Place.empty())
+        Place = " at offset " + std::to_string(FBase + Start);
+    throw EClassNotFound(
+        "Class " + AnsiString(ClassName) + " not found" + Place +
+        (GetClass(ClassName) ? ": it is no component" : ": it is not registered; is its header included?"));
 }
 
 void TReader::ReadContents(TComponent* Component)
 {
-    bool WasReading = Component->FState.Contains(csReading);
-    Component->FState << csReading;
+    const bool WasReading = Component->FState.Contains(csReading);
+    const TStillThere StillThere(Component);
+    const TScopeExit Done([&] {
+        if (StillThere)
+            Component->SetState(csReading, WasReading);
+    });
+    Component->SetState(csReading, true);
     Component->ReadState(*this);
-    if (!WasReading)
-        Component->FState >> csReading;
 }
 
 void TReader::ReadData(TComponent* Component)

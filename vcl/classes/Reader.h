@@ -1,14 +1,17 @@
 // TReader: makes components from a binary form.
 //
 // One pass forward. References between components are set at the end, when all of them exist. When reading fails, every
-// component that this reader has made is deleted again and the exception says where: "Error reading Button1.Font.Size:
-// Invalid property value at offset 301". It is an EFormDataError (an EReadError) unless the class is unknown.
+// component that this reader has made is deleted again and the exception says what is wrong and where: "Error reading
+// Form1.BorderStyle: bsFoo is no TFormBorderStyle on line 12 of Main.dfm", or "at offset 301" for a form that was not
+// compiled by the build. It is an EFormDataError (an EReadError) unless a class is unknown.
 #pragma once
 
 #include "vcl/classes/Component.h"
 #include "vcl/classes/Filer.h"
 #include "vcl/classes/FixupList.h"
 #include "vcl/classes/FormCursor.h"
+#include "vcl/classes/FormLines.h"
+#include "vcl/classes/LoadingList.h"
 
 #include <string>
 #include <string_view>
@@ -74,7 +77,7 @@ public:
     void DefineBinaryProperty(const char* Name, const TStreamProc& ReadProc, const TStreamProc& WriteProc,
                               bool HasData) override;
 
-    // Single values. Each raises an EReadError "Invalid property value" when another kind of value follows.
+    // Single values. Each raises an EReadError, "'x' is no integer", when another kind of value follows.
     TValueType NextValue() const { return FCursor.PeekType(); }
     // Takes the type byte only.
     TValueType ReadValue() { return FCursor.ReadType(); }
@@ -120,6 +123,9 @@ public:
     void SetParent(TComponent* Value) { FParent = Value; }
     PROPERTY(TComponent*, Parent);
 
+    // Where the form's text has what is read, for the messages of errors.
+    TFormLines Lines;
+
     // What texts that are not UTF-8 are in; at first the user's legacy code page.
     unsigned CodePage;
 
@@ -134,22 +140,19 @@ public:
     TUnknownPropertyEvent OnUnknownProperty;
 
 private:
-    friend class TComponent;
-    friend class TLoadingBatch;
     class TSession;
     class TReadingScope;
-
-    // Component is being deleted while readers hold pointers to it.
-    static void Forget(const TComponent* Component);
 
     void Attach();
     void LeaveStream();
 
     // Start is where the object or value begins, for messages.
+    TComponent* ReadRoot(TComponent* ARoot);
     TComponent* ReadObject(TComponent* Component);
     TComponent* FindInherited(std::string_view Name, std::string_view ClassName, size_t Start);
     TComponent* CreateComponent(TClass Class, const TFormPrefix& Prefix);
     void NameComponent(TComponent* Component, std::string_view Name, size_t Start);
+    void CheckField(const TComponent* Component, std::string_view ClassName, size_t Start);
     void NameRoot(TComponent* ARoot, std::string_view Name, size_t Start);
     TClass FindComponentClass(std::string_view ClassName);
     TClass UnknownClass(std::string_view ClassName, std::string_view Name, size_t Start);
@@ -158,7 +161,7 @@ private:
     void ReadProperties(TPersistent* Instance);
     void ReadProperty(TPersistent* Instance);
     void PropertyFailed(TPersistent* Instance, size_t Start, size_t Offset, const AnsiString& Message);
-    void ReadPropertyPath(TPersistent* Instance);
+    bool ReadPropertyPath(TPersistent* Instance);
     void ReadPropertyValue(TPersistent* Instance, const TPropertyInfo& Property);
     int64_t ReadOrdinal(const TPropertyInfo& Property);
     int64_t ReadIntegerProperty(const TPropertyInfo& Property);
@@ -176,16 +179,13 @@ private:
     void SkipList();
     void MoveTo(size_t Position);
     void Descend(size_t Start);
-    // For the value whose type has just been read.
-    [[noreturn]] void FailValue() const;
-
-    void Track(TComponent* Component);
-    static void Untrack(std::vector<TComponent*>& Components) noexcept;
-    static void EndLoading(std::vector<TComponent*>& Components) noexcept;
-    void Discard() noexcept;
-    void Release() noexcept;
-
-    static inline constinit TReader* FFirstActive = nullptr;
+    void SetReferences();
+    void SetReference(const TFixup& Fixup, TComponent* Value);
+    // For messages: the value that begins at a position, "'x'" or "a list".
+    AnsiString ValueAt(size_t Position) const;
+    // "'x' is no integer", for the value whose type has just been read or which begins at a position.
+    [[noreturn]] void FailValue(std::string_view Expected) const;
+    [[noreturn]] void FailValueAt(std::string_view Expected, size_t Position) const;
 
     TStream* FStream;
     std::string FCopy; // what a stream that is not in memory held
@@ -197,12 +197,11 @@ private:
     TComponent* FParent = nullptr;
     TComponent* FLookupRoot = nullptr; // the form or frame whose names count
     AnsiString FPropName;
-    std::string_view FDefinedName; // what DefineProperties is asked for; empty when it has been read
+    std::string_view FDefinedName;        // what DefineProperties is asked for; empty when it has been read
+    std::vector<size_t>* FLate = nullptr; // where properties of the object begin that wait for its others
     TClass FLastClass = nullptr;
-    std::vector<TComponent*> FCreated; // by this reader, nullptr where they are deleted already
-    std::vector<TComponent*> FLoaded;  // to be told when all is read
+    TLoadingList FLoading;
     TFixupList FFixups;
-    TReader* FNextActive = nullptr;
     int FDepth = 0;
     bool FActive = false; // between BeginReferences and EndReferences
 };

@@ -4,6 +4,7 @@
 #include "vcl/classes/Reader.h"
 #include "vcl/system/ClassDescription.h"
 #include "vcl/system/Ident.h"
+#include "vcl/system/Scope.h"
 
 #include <limits>
 
@@ -24,28 +25,47 @@ constexpr std::string_view ErrorPrefix = "Error reading ";
 
 void TReader::ReadProperties(TPersistent* Instance)
 {
-    while (FCursor.PeekByte() != 0)
-        ReadProperty(Instance);
+    std::vector<size_t> Late;
+    {
+        const TScopedValue Others(FLate, &Late);
+        while (FCursor.PeekByte() != 0)
+            ReadProperty(Instance);
+    }
     FCursor.ReadByte();
+    if (Late.empty())
+        return;
+    const TScopedValue Now(FLate, nullptr);
+    const size_t End = FCursor.Position();
+    for (const size_t Place : Late) {
+        MoveTo(Place);
+        ReadProperty(Instance);
+    }
+    MoveTo(End);
 }
 
 void TReader::ReadProperty(TPersistent* Instance)
 {
-    FPropName.assign(FCursor.ReadName());
-    size_t Start = FCursor.Position();
-    int Depth = FDepth;
+    const size_t Place = FCursor.Position();
+    const TScopedValue Name(FPropName, AnsiString(FCursor.ReadName()));
+    const size_t Start = FCursor.Position();
+    const int Depth = FDepth;
     try {
-        ReadPropertyPath(Instance);
+        if (!ReadPropertyPath(Instance)) {
+            FLate->push_back(Place);
+            SkipValue();
+        }
     } catch (const EAbort&) {
         throw;
     } catch (const EFormDataError& Error) {
         FDepth = Depth;
-        PropertyFailed(Instance, Start, Error.Offset, Error.Detail);
+        if (Error.IsLocated()) // in another form, which the setter has read
+            PropertyFailed(Instance, Start, FBase + Start, Error.Message);
+        else
+            PropertyFailed(Instance, Start, Error.Offset, Error.Detail);
     } catch (const Exception& Error) {
         FDepth = Depth;
         PropertyFailed(Instance, Start, FBase + Start, Error.Message);
     }
-    FPropName.clear();
 }
 
 void TReader::PropertyFailed(TPersistent* Instance, size_t Start, size_t Offset, const AnsiString& Message)
@@ -67,24 +87,29 @@ void TReader::PropertyFailed(TPersistent* Instance, size_t Start, size_t Offset,
     throw EFormDataError(AnsiString(ErrorPrefix) + Name + "." + FPropName + ": " + Message, Offset);
 }
 
-void TReader::ReadPropertyPath(TPersistent* Instance)
+// False when it is too early for this one.
+bool TReader::ReadPropertyPath(TPersistent* Instance)
 {
     std::string_view Name = FPropName;
     for (size_t Dot; (Dot = Name.find('.')) != Name.npos; Name.remove_prefix(Dot + 1)) {
         const TPropertyInfo* Property = Instance->ClassType()->Description().FindProperty(Name.substr(0, Dot));
         if (!Property) {
             UnknownProperty(Instance, Name.substr(0, Dot));
-            return;
+            return true;
         }
         TObject* Nested = Property->Type->Kind == tkClass ? Property->GetObject(Instance) : nullptr;
         Instance = As<TPersistent>(Nested);
         if (!Instance)
             FCursor.Fail("Invalid property path");
     }
-    if (const TPropertyInfo* Property = Instance->ClassType()->Description().FindProperty(Name))
+    const TPropertyInfo* Property = Instance->ClassType()->Description().FindProperty(Name);
+    if (Property && Property->ReadsLast && FLate)
+        return false;
+    if (Property)
         ReadPropertyValue(Instance, *Property);
     else if (!ReadDefined(Instance, Name))
         UnknownProperty(Instance, Name);
+    return true;
 }
 
 void TReader::UnknownProperty(TPersistent* Instance, std::string_view Name)
@@ -130,11 +155,11 @@ int64_t TReader::ReadIntegerProperty(const TPropertyInfo& Property)
     int64_t Value = 0;
     if (Type == vaIdent) {
         if (!Property.Idents || !Property.Idents->IdentToInt(FCursor.ReadName(), Value))
-            FCursor.FailAt("Invalid property value", Start);
+            FailValueAt(Property.Idents ? "known constant" : "integer", Start);
         return Value;
     }
     if (!TFormCursor::IsInteger(Type))
-        FailValue();
+        FailValue("integer");
     Value = FCursor.ReadIntegerOf(Type);
     // Signed and unsigned numbers of one width are the same bits: colours come either way.
     const TTypeInfo& Info = *Property.Type;
@@ -143,7 +168,9 @@ int64_t TReader::ReadIntegerProperty(const TPropertyInfo& Property)
     int64_t Min = Info.MinValue < 0 ? Info.MinValue : -(Info.MaxValue / 2) - 1;
     int64_t Max = Info.MinValue < 0 ? Info.MaxValue * 2 + 1 : Info.MaxValue;
     if (Value < Min || Value > Max)
-        FCursor.FailAt("Invalid property value", Start);
+        FCursor.FailAt(std::to_string(Value) + " is not in the range " + std::to_string(Info.MinValue) + " to " +
+                           std::to_string(Info.MaxValue),
+                       Start);
     return Value;
 }
 
@@ -158,7 +185,7 @@ int64_t TReader::ReadEnumeration(const TTypeInfo& Type)
     default: break;
     }
     if (Value < 0)
-        FCursor.FailAt("Invalid property value", Start);
+        FailValueAt(Type.Name, Start);
     return Value;
 }
 
@@ -172,7 +199,7 @@ int64_t TReader::ReadSet(const TTypeInfo& Type)
             return Bits;
         int64_t Value = Type.ValueOf(Name);
         if (Value < 0 || Value > 31)
-            FCursor.FailAt("Invalid property value", Start);
+            FCursor.FailAt(AnsiString(Name) + " is no " + Type.Name, Start);
         Bits |= uint32_t{1} << Value;
     }
 }
@@ -184,12 +211,12 @@ void TReader::ReadObjectProperty(TPersistent* Instance, const TPropertyInfo& Pro
     if (Type == vaCollection) {
         auto* Collection = As<TCollection>(Property.GetObject(Instance));
         if (!Collection)
-            FailValue();
+            FailValueAt(Property.Type->Name, Start);
         ReadCollection(Collection);
         return;
     }
     if (Type != vaNil && Type != vaIdent)
-        FailValue();
+        FailValueAt(Property.Type->Name, Start);
     if (Property.ReadOnly())
         FCursor.FailAt("Property is read-only", Start);
     if (Type == vaNil) {
@@ -198,7 +225,7 @@ void TReader::ReadObjectProperty(TPersistent* Instance, const TPropertyInfo& Pro
     }
     AnsiString Name(FCursor.ReadName());
     if (!Property.Type->Class->InheritsFrom(TComponent::StaticClass()))
-        FCursor.FailAt("Invalid property value", Start);
+        FailValueAt(Property.Type->Name, Start);
     FFixups.Add({Instance, &Property, Root, std::move(Name), FBase + Start});
 }
 
@@ -211,14 +238,20 @@ void TReader::ReadMethod(TPersistent* Instance, const TPropertyInfo& Property)
         return;
     }
     if (Type != vaIdent)
-        FailValue();
+        FailValueAt("method", Start);
     std::string_view Name = FCursor.ReadName();
     const TMethodInfo* Method = Root ? Root->ClassType()->Description().FindMethod(Name) : nullptr;
-    bool Error = !Method || Method->Signature != Property.Type->Signature;
+    const TSignature* Signature = Property.Type->Signature;
+    bool Error = !Method || Method->Signature != Signature;
     if (OnFindMethod)
         OnFindMethod(this, AnsiString(Name), Method, Error);
-    if (Error || (Method && Method->Signature != Property.Type->Signature))
-        FCursor.FailAt("Invalid property value", Start);
+    if (Method && Method->Signature != Signature)
+        FCursor.FailAt("The signature of the method " + AnsiString(Name) + " is " + Method->Signature->Text() +
+                           ", not " + Signature->Text(),
+                       Start);
+    if (Error)
+        FCursor.FailAt(AnsiString(Root ? Root->ClassName() : "The form") + " describes no method " + AnsiString(Name),
+                       Start);
     if (Method)
         Property.SetEvent(Instance, Root, Method->Code);
 }
@@ -227,14 +260,11 @@ void TReader::ReadMethod(TPersistent* Instance, const TPropertyInfo& Property)
 
 bool TReader::ReadDefined(TPersistent* Instance, std::string_view Name)
 {
-    // In the end FPropName may name something else: what is read may have properties of its own.
-    AnsiString PropName = FPropName;
-    FDefinedName = std::string_view(PropName).substr(PropName.size() - Name.size());
+    const AnsiString PropName = FPropName; // which changes when what is read has properties of its own
+    const std::string_view View = PropName;
+    const TScopedValue Defined(FDefinedName, View.substr(View.size() - Name.size()), {});
     Instance->DefineProperties(*this);
-    bool Found = FDefinedName.empty();
-    FDefinedName = {};
-    FPropName = PropName;
-    return Found;
+    return FDefinedName.empty();
 }
 
 void TReader::DefineProperty(const char* Name, const TReaderProc& ReadProc, const TWriterProc&, bool)

@@ -2,6 +2,7 @@
 #include "vcl/classes/Collection.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/system/Locale.h"
+#include "vcl/system/Scope.h"
 #include "vcl/system/Utf.h"
 
 #include <cstring>
@@ -17,24 +18,78 @@ AnsiString TextFromUnits(std::string_view Bytes)
     return FromWide(Units);
 }
 
+// As a form's text has it; of a long one the beginning.
+AnsiString Quoted(const AnsiString& Text)
+{
+    constexpr size_t Enough = 40;
+    if (Text.size() <= Enough)
+        return "'" + Text + "'";
+    size_t End = Enough;
+    while (End > 0 && (static_cast<unsigned char>(Text[End]) & 0xC0) == 0x80) // inside of a character
+        --End;
+    return "'" + Text.substr(0, End) + "...'";
+}
+
 } // namespace
 
-void TReader::FailValue() const
+AnsiString TReader::ValueAt(size_t Position) const
 {
-    FCursor.FailAt("Invalid property value", FCursor.Position() - 1);
+    TFormCursor Cursor(FData, FBase);
+    Cursor.ReadBytes(Position);
+    try {
+        switch (const TValueType Type = Cursor.ReadType()) {
+        case vaNull: return "Null";
+        case vaFalse: return "False";
+        case vaTrue: return "True";
+        case vaNil: return "nil";
+        case vaInt8:
+        case vaInt16:
+        case vaInt32:
+        case vaInt64: return std::to_string(Cursor.ReadIntegerOf(Type));
+        case vaIdent: return AnsiString(Cursor.ReadName());
+        case vaString: return Quoted(TextFromBytes(Cursor.ReadName()));
+        case vaLString: return Quoted(TextFromBytes(Cursor.ReadLongBytes()));
+        case vaUTF8String: return Quoted(AnsiString(Cursor.ReadLongBytes()));
+        case vaWString: return Quoted(TextFromUnits(Cursor.ReadWideBytes()));
+        case vaBinary: return "Binary data";
+        case vaList: return "A list";
+        case vaSet: return "A set";
+        case vaCollection: return "A collection";
+        default: return "A floating-point number";
+        }
+    } catch (const EFormDataError&) {
+        return "What the form has"; // broken as well
+    }
+}
+
+void TReader::FailValueAt(std::string_view Expected, size_t Position) const
+{
+    FCursor.FailAt(ValueAt(Position) + " is no " + AnsiString(Expected), Position);
+}
+
+void TReader::FailValue(std::string_view Expected) const
+{
+    FailValueAt(Expected, FCursor.Position() - 1);
 }
 
 void TReader::CheckValue(TValueType Value)
 {
-    if (ReadValue() != Value)
-        FailValue();
+    if (ReadValue() == Value)
+        return;
+    switch (Value) {
+    case vaList: FailValue("list");
+    case vaSet: FailValue("set");
+    case vaCollection: FailValue("collection");
+    case vaBinary: FailValue("binary data");
+    default: FailValue("value of the expected type");
+    }
 }
 
 bool TReader::ReadBoolean()
 {
     TValueType Type = ReadValue();
     if (Type != vaTrue && Type != vaFalse)
-        FailValue();
+        FailValue("Boolean");
     return Type == vaTrue;
 }
 
@@ -44,7 +99,7 @@ char TReader::ReadChar()
     TWideString Text = ToWide(ReadString());
     // A character beyond Latin-1 does not fit.
     if (Text.size() != 1 || Text[0] > 0xFF)
-        FCursor.FailAt("Invalid property value", Start);
+        FailValueAt("single character of one byte", Start);
     return static_cast<char>(Text[0]);
 }
 
@@ -53,7 +108,7 @@ int32_t TReader::ReadInteger()
     size_t Start = FCursor.Position();
     int64_t Value = ReadInt64();
     if (Value < std::numeric_limits<int32_t>::min() || Value > std::numeric_limits<uint32_t>::max())
-        FCursor.FailAt("Invalid property value", Start);
+        FailValueAt("number of 32 bits", Start);
     return static_cast<int32_t>(Value);
 }
 
@@ -61,7 +116,7 @@ int64_t TReader::ReadInt64()
 {
     TValueType Type = ReadValue();
     if (!TFormCursor::IsInteger(Type))
-        FailValue();
+        FailValue("integer");
     return FCursor.ReadIntegerOf(Type);
 }
 
@@ -80,12 +135,12 @@ double TReader::ReadNumber(bool AnyKind)
     case vaCurrency:
         if (AnyKind)
             return static_cast<double>(FCursor.ReadInteger<int64_t>()) / 10000;
-        FailValue();
+        FailValue("number");
     case vaDate:
         if (AnyKind)
             return FCursor.ReadDouble();
-        FailValue();
-    default: FailValue();
+        FailValue("number");
+    default: FailValue("number");
     }
 }
 
@@ -117,7 +172,7 @@ AnsiString TReader::ReadIdent()
     case vaTrue: return "True";
     case vaNil: return "nil";
     case vaNull: return "Null";
-    default: FailValue();
+    default: FailValue("identifier");
     }
 }
 
@@ -137,7 +192,7 @@ AnsiString TReader::ReadString()
         return IsValidUtf8(Bytes) ? AnsiString(Bytes) : FromWide(ToWide(Bytes));
     }
     case vaWString: return TextFromUnits(FCursor.ReadWideBytes());
-    default: FailValue();
+    default: FailValue("text");
     }
 }
 
@@ -161,13 +216,8 @@ void TReader::Read(void* Buffer, int Count)
 
 void TReader::ReadCollection(TCollection* Collection)
 {
-    struct TUpdate {
-        TCollection* Collection;
-        ~TUpdate() { Collection->EndUpdate(); }
-    };
     Collection->BeginUpdate();
-    TUpdate Update{Collection};
-    AnsiString PropName = FPropName;
+    const TScopeExit Update([&] { Collection->EndUpdate(); });
     Descend(FCursor.Position());
     Collection->Clear();
     while (!EndOfList()) {
@@ -179,7 +229,6 @@ void TReader::ReadCollection(TCollection* Collection)
     }
     ReadListEnd();
     --FDepth;
-    FPropName = PropName;
 }
 
 // ---- Skipping

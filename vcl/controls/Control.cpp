@@ -1,6 +1,7 @@
 #include "vcl/controls/Control.h"
 
 #include "vcl/classes/Reader.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/ControlExtras.h"
 #include "vcl/controls/DragManager.h"
 #include "vcl/controls/Mouse.h"
@@ -8,6 +9,7 @@
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/menus/PopupMenu.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 void TControl::Describe(TClassBuilder<TControl>& Class)
 {
@@ -159,9 +161,15 @@ void TControl::SetZOrder(bool TopMost)
 
 void TControl::ReadState(TReader& Reader)
 {
-    SetControlFlag(csReadingState, true);
-    inherited::ReadState(Reader);
-    SetControlFlag(csReadingState, false);
+    {
+        const TStillThere StillThere(this);
+        const TScopeExit Done([&] {
+            if (StillThere)
+                SetControlFlag(csReadingState, false);
+        });
+        SetControlFlag(csReadingState, true);
+        inherited::ReadState(Reader);
+    }
     if (!FParent)
         return;
     Perform(CM_PARENTCOLORCHANGED);

@@ -4,6 +4,8 @@
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/graphics/Brush.h"
+#include "vcl/system/Guard.h"
+#include "vcl/system/Scope.h"
 
 TWinControl::TWinControl(TComponent* AOwner) : TControl(AOwner)
 {}
@@ -140,11 +142,14 @@ void TWinControl::PaintTo(HDC DC, int X, int Y)
 void TWinControl::ReadState(TReader& Reader)
 {
     DisableAlign();
-    try {
+    {
+        // What existed before, a form perhaps, goes on without the rest and shows what its Visible says.
+        TScopeExit Failed([this] {
+            --FAlignLevel;
+            Guarded(this, [this] { UpdateControlState(); });
+        });
         inherited::ReadState(Reader);
-    } catch (...) {
-        --FAlignLevel;
-        throw;
+        Failed.Dismiss();
     }
     FixupTabList();
     if (GetParent())

@@ -4,6 +4,7 @@
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/Format.h"
+#include "vcl/system/Scope.h"
 
 // One of the group's buttons: it belongs to the group and is no part of the form file.
 class TGroupButton : public TRadioButton {
@@ -62,9 +63,10 @@ void TCustomRadioGroup::GetChildren(const TGetChildProc&, TComponent*)
 
 void TCustomRadioGroup::ReadState(TReader& Reader)
 {
-    FReading = true;
-    inherited::ReadState(Reader);
-    FReading = false;
+    {
+        const TScopedValue Reading(FReading, true, false);
+        inherited::ReadState(Reader);
+    }
     UpdateButtons();
 }
 

@@ -5,15 +5,29 @@
 #include "vcl/classes/ResourceStream.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/DataModule.h"
+#include "vcl/system/Scope.h"
 #include "vcl/system/SysUtils.h"
 #include "vcl/system/Utf.h"
 #include "vcl/system/WindowsApi.h"
 
+#include <optional>
+
 namespace {
 
-bool HasForm(TClass Class)
+bool HasResource(const AnsiString& Name, const wchar_t* Type)
 {
-    return FindResourceW(GetModuleHandleW(nullptr), TWideText(UpperCase(Class->ClassName())).c_str(), RT_RCDATA);
+    return FindResourceW(GetModuleHandleW(nullptr), TWideText(Name).c_str(), Type) != nullptr;
+}
+
+// Reads the form of that name. An error says on which line, if the build has put that beside the form.
+void ReadForm(const AnsiString& Name, TComponent* Instance)
+{
+    TResourceStream Form(nullptr, Name, "#10");
+    std::optional<TResourceStream> Lines;
+    TReader Reader(&Form);
+    if (HasResource(Name, L"FORMLINES"))
+        Reader.Lines = TFormLines(Lines.emplace(nullptr, Name, "FORMLINES").View());
+    Reader.ReadRootComponent(Instance);
 }
 
 void LoadResources(TComponent* Instance, TClass RootAncestor)
@@ -32,10 +46,10 @@ bool InitInheritedComponent(TComponent* Instance, TClass RootAncestor)
         Chain.push_back(Class);
     TLoadingBatch Batch(Instance);
     for (size_t I = Chain.size(); I-- > 0;) {
-        if (!HasForm(Chain[I]))
+        const AnsiString Name = UpperCase(Chain[I]->ClassName());
+        if (!HasResource(Name, RT_RCDATA))
             continue;
-        TResourceStream Form(nullptr, UpperCase(Chain[I]->ClassName()), "#10");
-        ReadRootComponent(Form, Instance);
+        ReadForm(Name, Instance);
         Found = true;
     }
     Batch.Finish();
@@ -45,7 +59,9 @@ bool InitInheritedComponent(TComponent* Instance, TClass RootAncestor)
 void LoadForm(TCustomForm* Form)
 {
     Form->FFormState << fsCreating;
+    TScopeExit Failed([Form] { Form->FFormState >> fsCreating; });
     LoadResources(Form, TCustomForm::StaticClass());
+    Failed.Dismiss();
     Form->FinishCreation();
 }
 

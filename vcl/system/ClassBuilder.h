@@ -105,6 +105,13 @@ public:
         FInfo->IsStored = nullptr;
         return *this;
     }
+    // What its setter accepts depends on other properties of the object, as a ranged position does on its limits: when
+    // a form is read it is set behind them, in whatever order the file has them.
+    TPropertyBuilder& ReadLast()
+    {
+        FInfo->ReadsLast = true;
+        return *this;
+    }
     TPropertyBuilder& Identifiers(const TIdentMap& Map)
     {
         FInfo->Idents = &Map;
@@ -188,7 +195,7 @@ public:
         using Traits = Detail::TMethodTraits<decltype(Handler)>;
         using Event = TEvent<typename Traits::TSignature>;
         FDescription.FMethods.push_back({Name, MethodToCode(static_cast<typename Event::TMethod>(Handler)),
-                                         &SignatureTag<typename Traits::TSignature>});
+                                         &SignatureOf<typename Traits::TSignature>});
     }
 
 private:

@@ -57,6 +57,9 @@ struct TPropertyInfo {
     int64_t Default = 0;
     // nullptr: stored.
     TIsStored IsStored = nullptr;
+    // Its setter looks at other properties of the object: form files set it when they have set those, wherever it
+    // stands.
+    bool ReadsLast = false;
     // Declared only, for descendants to publish; form files cannot name it.
     bool Published;
 
@@ -75,7 +78,7 @@ struct TFieldInfo {
 struct TMethodInfo {
     const char* Name;
     uintptr_t Code;
-    const void* Signature;
+    const TSignature* Signature;
 };
 
 struct TMessageInfo {

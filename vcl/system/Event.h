@@ -9,6 +9,8 @@
 #include "vcl/system/Object.h"
 
 #include <concepts>
+#include <source_location>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -68,9 +70,25 @@ protected:
     uintptr_t FCode = 0;
 };
 
-// One address per signature: tells whether a method found by name fits an event.
+// The arguments and result of an event or a method, one object for each: tells whether a method that was found by name
+// fits an event.
+struct TSignature {
+    AnsiString (*Text)(); // "void(TObject*, int)"
+};
+
+namespace Detail {
+// The signature in what the compiler calls SignatureText<Signature>.
+AnsiString CutSignature(std::string_view FunctionName);
+
 template <class Signature>
-inline constexpr char SignatureTag = 0;
+AnsiString SignatureText()
+{
+    return CutSignature(std::source_location::current().function_name());
+}
+} // namespace Detail
+
+template <class Signature>
+inline constexpr TSignature SignatureOf{&Detail::SignatureText<Signature>};
 
 template <class Signature>
 class TEvent;

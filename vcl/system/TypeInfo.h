@@ -41,7 +41,7 @@ struct TTypeInfo {
     // tkClass: the declared class.
     TClass Class = nullptr;
     // tkMethod: tells signatures apart.
-    const void* Signature = nullptr;
+    const TSignature* Signature = nullptr;
 
     // The value of an enumeration's or set element's name (case does not matter); -1 when it has none of that name.
     int64_t ValueOf(std::string_view Ident) const;
@@ -63,9 +63,9 @@ inline constexpr bool IsEvent = false;
 template <class S>
 inline constexpr bool IsEvent<TEvent<S>> = true;
 template <class S>
-const void* SignatureOf(const TEvent<S>*)
+const TSignature* SignatureOfEvent(const TEvent<S>*)
 {
-    return &SignatureTag<S>;
+    return &SignatureOf<S>;
 }
 
 TTypeInfo BoolTypeInfo();
@@ -101,7 +101,7 @@ TTypeInfo MakeTypeInfo()
     } else if constexpr (std::same_as<T, AnsiString>) {
         return {.Kind = tkString, .Name = "AnsiString"};
     } else if constexpr (IsEvent<T>) {
-        return {.Kind = tkMethod, .Name = "Event", .Signature = SignatureOf(static_cast<const T*>(nullptr))};
+        return {.Kind = tkMethod, .Name = "Event", .Signature = SignatureOfEvent(static_cast<const T*>(nullptr))};
     } else {
         static_assert(std::is_pointer_v<T> && std::derived_from<std::remove_pointer_t<T>, TObject>,
                       "a published property is an ordinal, a set, a float, a string, an event or an object; an "

@@ -73,7 +73,7 @@ TEST_F(FormCheckTest, WhatIsMissingIsCountedAndTheRestIsLoaded)
     EXPECT_THAT(Report.MissingClasses, ElementsAre(Pair("TNobody", 2)));
     EXPECT_THAT(Report.MissingProperties,
                 ElementsAre(Pair("TButton.Nope", 2), Pair("TFont.Nope", 1), Pair("TForm.Nope", 1)));
-    EXPECT_THAT(Report.Values, ElementsAre("Left: Invalid property value"));
+    EXPECT_THAT(Report.Values, ElementsAre("Left: 'x' is no integer"));
     EXPECT_EQ(Report.Components, 5);
     EXPECT_FALSE(Report.Complete());
     EXPECT_EQ(Report.Change, "");

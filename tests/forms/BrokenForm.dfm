@@ -1,0 +1,6 @@
+object BrokenForm: TBrokenForm
+  Caption = 'Broken'
+  OnCreate = FormCreat
+  object Probe: TProbe
+  end
+end
