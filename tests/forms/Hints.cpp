@@ -237,3 +237,25 @@ TEST_F(Hints, AreNotToldWhileTheirFormIsBeingDeleted)
     EXPECT_EQ(Told, 0);
     Application->OnHint = nullptr;
 }
+
+TEST_F(Hints, AreNotShownForAFormThatAModalOneBlocks)
+{
+    TFormPtr Modal(new TPlainForm(nullptr));
+    Modal->SetBounds(500, 100, 200, 150);
+    MovePointerTo(A, 20, 10);
+    ASSERT_TRUE(WaitForHint());
+    PostAction([&] {
+        PostAction([&] {
+            EXPECT_EQ(ShownHint(), nullptr) << "what was shown has gone";
+            MovePointerTo(B, 20, 10);
+            EXPECT_FALSE(PumpUntil([] { return ShownHint() != nullptr; }, 300));
+            Application->ActivateHint(B->ClientToScreen({20, 10}));
+            EXPECT_EQ(ShownHint(), nullptr);
+            Modal->ModalResult = mrOk;
+        });
+        Modal->ShowModal();
+    });
+    EXPECT_TRUE(PumpUntil([&] { return Modal->ModalResult == mrOk && !Modal->Visible; }));
+    MovePointerTo(A, 20, 10);
+    EXPECT_TRUE(WaitForHint()) << "the form is free again";
+}

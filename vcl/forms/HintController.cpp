@@ -11,11 +11,22 @@ namespace {
 
 constexpr UINT_PTR TimerId = 1;
 
+// A modal form, or a message box, has disabled the window that Control stands on.
+bool IsBlocked(const TControl* Control)
+{
+    const TWinControl* Window = As<TWinControl>(Control);
+    if (!Window)
+        Window = Control->Parent;
+    return Window && Window->HandleAllocated() &&
+           !IsWindowEnabled(GetAncestor(const_cast<TWinControl*>(Window)->Handle, GA_ROOT));
+}
+
 TControl* HintControlOf(TControl* Control)
 {
     while (Control && !Control->ShowHint)
         Control = Control->Parent;
-    return Control && !Control->ComponentState.Contains(csDesigning) ? Control : nullptr;
+    const bool Shows = Control && !Control->ComponentState.Contains(csDesigning) && !IsBlocked(Control);
+    return Shows ? Control : nullptr;
 }
 
 // The nearest hint from Control up.
