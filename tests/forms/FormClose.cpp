@@ -1,6 +1,7 @@
 // Showing, closing, releasing and modal display.
 #include "tests/forms/TestForms.h"
 
+#include "tests/support/Dialogs.h"
 #include "vcl/system/LiveCount.h"
 
 using testing::ElementsAre;
@@ -214,6 +215,94 @@ TEST(ModalForms, TheCursorIsTheOrdinaryOneMeanwhile)
     EXPECT_EQ(Inside, crDefault);
     EXPECT_EQ(Screen->Cursor, crHourGlass);
     Screen->Cursor = crDefault;
+}
+
+namespace {
+
+// Raises in one of the application's modal events, as often as it comes.
+struct TFailingModalEvents {
+    explicit TFailingModalEvents(bool AtTheEnd)
+    {
+        Application->OnModalBegin = [this, AtTheEnd](TObject*) { Note("begin", !AtTheEnd); };
+        Application->OnModalEnd = [this, AtTheEnd](TObject*) { Note("end", AtTheEnd); };
+    }
+    ~TFailingModalEvents()
+    {
+        Application->OnModalBegin = nullptr;
+        Application->OnModalEnd = nullptr;
+    }
+    void Note(const char* What, bool Fails)
+    {
+        Log.push_back(What);
+        if (Fails)
+            throw EInvalidOperation(What);
+    }
+    TLog Log;
+};
+
+} // namespace
+
+TEST(ModalForms, AreFinishedOnceWhenTheApplicationsHandlersRaise)
+{
+    for (const bool AtTheEnd : {false, true}) {
+        TCatchExceptions Caught;
+        TFailingModalEvents Events(AtTheEnd);
+        TFormPtr Main(NewForm());
+        Main->Open();
+        TFormPtr Form(NewForm());
+        int Hidden = 0;
+        Form->OnHide = [&](TObject*) { ++Hidden; };
+        PostAction([&] { Form->ModalResult = mrYes; });
+        EXPECT_EQ(Form->ShowModal(), mrYes);
+        EXPECT_THAT(Caught.Messages, ElementsAre(AtTheEnd ? "end" : "begin"));
+        EXPECT_FALSE(Form->FormState.Contains(fsModal));
+        EXPECT_FALSE(Form->Visible);
+        EXPECT_EQ(Hidden, 1);
+        EXPECT_TRUE(IsWindowEnabled(Main->Handle));
+        EXPECT_TRUE(Main->Active);
+        PostAction([&] { Form->ModalResult = mrNo; });
+        EXPECT_EQ(Form->ShowModal(), mrNo) << "and again";
+        EXPECT_THAT(Events.Log, ElementsAre("begin", "end", "begin", "end"));
+    }
+}
+
+TEST(ModalForms, AMessageAboutAFailingHandlerIsNotReportedToItAgain)
+{
+    TFailingModalEvents Events(true);
+    TExpectDialogs Dialogs(IDOK);
+    TFormPtr Form(NewForm());
+    PostAction([&] { Form->ModalResult = mrYes; });
+    EXPECT_EQ(Form->ShowModal(), mrYes);
+    EXPECT_EQ(Dialogs.Texts().size(), 1u);
+    EXPECT_THAT(Events.Log, ElementsAre("begin", "end"));
+}
+
+TEST(ModalForms, MayBeDeletedByAHandler)
+{
+    TFormPtr Main(NewForm());
+    Main->Open();
+    auto* Form = new TPlainForm(nullptr);
+    TProbe* Probe = Form->AddProbe(10);
+    Probe->OnKeyDown = [&](TObject*, uint16_t&, TShiftState) { PostAction([Form] { delete Form; }); };
+    PostAction([] { TypeKey('A'); });
+    EXPECT_EQ(Form->ShowModal(), mrCancel);
+    EXPECT_TRUE(IsWindowEnabled(Main->Handle));
+    EXPECT_TRUE(Main->Active);
+}
+
+TEST(ModalForms, MayBeDeletedWhileTheyClose)
+{
+    auto* Form = new TPlainForm(nullptr);
+    Form->OnClose = [Form](TObject*, TCloseAction&) { delete Form; };
+    PostAction([&] { Form->ModalResult = mrOk; });
+    EXPECT_EQ(Form->ShowModal(), mrCancel);
+}
+
+TEST(ModalForms, MayBeDeletedWhenTheyShow)
+{
+    auto* Form = new TPlainForm(nullptr);
+    Form->OnShow = [Form](TObject*) { PostAction([Form] { delete Form; }); };
+    EXPECT_EQ(Form->ShowModal(), mrCancel);
 }
 
 TEST(ModalForms, CanBeShownAgain)

@@ -29,6 +29,48 @@ TEST_F(FormKeys, TheActiveControlCanBeChosenBeforeTheFormShows)
     EXPECT_EQ(Form->ActiveControl, B);
 }
 
+TEST_F(FormKeys, AnotherActiveControlGetsTheFocusOfAnActiveForm)
+{
+    Form->Open();
+    Form->ActiveControl = B;
+    EXPECT_TRUE(B->Focused());
+    Form->ActiveControl = nullptr;
+    EXPECT_TRUE(Form->Focused());
+}
+
+namespace {
+
+// What a form is told about its focus while Action runs.
+template <class Function>
+int FocusMessages(TPlainForm* Form, Function Action)
+{
+    int Count = 0;
+    const TWndMethod Before = Form->WindowProc;
+    Form->WindowProc = [&](TMessage& Message) {
+        Count += Message.Msg == WM_SETFOCUS;
+        Before(Message);
+    };
+    Action();
+    Form->WindowProc = Before;
+    return Count;
+}
+
+} // namespace
+
+TEST_F(FormKeys, AFormThatIsHiddenOrDeletedDoesNotTakeTheFocusOfItsControl)
+{
+    Form->Open();
+    ASSERT_TRUE(A->Focused());
+    EXPECT_EQ(FocusMessages(Form.get(), [&] { Form->Hide(); }), 0);
+    Form->Open();
+    A->SetFocus();
+    int Taken = -1;
+    TPlainForm* Dying = Form.get();
+    Form->OnDestroy = [&](TObject*) { Taken = FocusMessages(Dying, [&] { A->Enabled = false; }); };
+    Form.reset();
+    EXPECT_EQ(Taken, 0);
+}
+
 TEST_F(FormKeys, TabGoesRoundAndShiftTabBack)
 {
     Form->Open();

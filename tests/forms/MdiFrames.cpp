@@ -373,3 +373,54 @@ TEST_F(MdiFrames, AMenuThatGoesLeavesTheMaximizedChild)
     EXPECT_EQ(::GetMenu(Main->Handle), nullptr);
     ExpectActive(Notes[0]);
 }
+
+namespace {
+
+// Counts the changes of the system's colours that it hears of.
+class TColorProbe : public TProbe {
+    VCL_CLASS(TColorProbe, TProbe)
+public:
+    explicit TColorProbe(TComponent* AOwner) : TProbe(AOwner) {}
+    int Changes = 0;
+
+private:
+    void CMSysColorChange(TMessage& Message)
+    {
+        ++Changes;
+        Inherited(Message);
+    }
+};
+
+void TColorProbe::Describe(TClassBuilder<TColorProbe>& Class)
+{
+    Class.Message<&Self::CMSysColorChange>(CM_SYSCOLORCHANGE);
+}
+
+} // namespace
+
+TEST_F(MdiFrames, TheirChildrenHearOfTheSystemsColours)
+{
+    Open(2);
+    std::vector<TColorProbe*> Probes;
+    for (TForm* Form : {static_cast<TForm*>(Main), static_cast<TForm*>(Notes[0]), static_cast<TForm*>(Notes[1])}) {
+        Probes.push_back(new TColorProbe(Form));
+        Probes.back()->Parent = Form;
+    }
+    SendMessageW(Main->Handle, WM_SYSCOLORCHANGE, 0, 0); // as the system sends it, to top-level windows only
+    for (const TColorProbe* Probe : Probes)
+        EXPECT_EQ(Probe->Changes, 1);
+}
+
+TEST_F(MdiFrames, AChildMayBeDeletedWhenAnotherIsAskedWhetherItCloses)
+{
+    Open(3);
+    TLog Log;
+    for (TMdiNote* Note : Notes)
+        Note->OnCloseQuery = [&](TObject* Sender, bool&) {
+            Log.push_back(static_cast<TForm*>(Sender)->Caption);
+            if (Sender == Notes[2])
+                delete Notes[1];
+        };
+    EXPECT_TRUE(Main->CloseQuery());
+    EXPECT_THAT(Log, testing::ElementsAre("Note 3", "Note 1"));
+}

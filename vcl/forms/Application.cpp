@@ -7,6 +7,8 @@
 #include "vcl/forms/Screen.h"
 #include "vcl/menus/UtilityWindow.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
+#include "vcl/system/Scope.h"
 #include "vcl/system/Utf.h"
 
 #include <algorithm>
@@ -144,17 +146,15 @@ void TApplication::MakeForm(TClass InstanceClass, const TAssignForm& Assign)
     TMaking Making{.Assign = Assign, .Outer = FMaking};
     FMaking = &Making;
     TComponent* Made = nullptr;
-    try {
+    {
+        const TScopeExit Done([&] {
+            FMaking = Making.Outer;
+            if (FMainFormToBe == Making.Component)
+                FMainFormToBe = nullptr;
+            Assign(Made);
+        });
         Made = InstanceClass->Create(this);
-    } catch (...) {
-        FMaking = Making.Outer;
-        if (FMainFormToBe == Making.Component)
-            FMainFormToBe = nullptr;
-        Assign(nullptr);
-        throw;
     }
-    FMaking = Making.Outer;
-    Assign(Made);
     if (FMainFormToBe == Made)
         FMainFormToBe = nullptr;
     auto* Form = As<TForm>(Made);
@@ -262,8 +262,8 @@ int TApplication::MessageBox(std::string_view Text, std::string_view Caption, un
     {
         TModalWindows Others(Parent); // the box itself disables its parent
         ModalStarted();
+        const TScopeExit Finished([this] { ModalFinished(); });
         Result = MessageBoxW(Parent, TWideText(Text).c_str(), TWideText(Caption).c_str(), static_cast<UINT>(Flags));
-        ModalFinished();
     }
     if (Active)
         SetActiveWindow(Active);
@@ -272,16 +272,18 @@ int TApplication::MessageBox(std::string_view Text, std::string_view Caption, un
     return Result;
 }
 
+// The level stays raised while the handlers run: a message about what they throw is not reported to them.
 void TApplication::ModalStarted()
 {
-    if (FModalLevel++ == 0)
-        OnModalBegin(this);
+    if (++FModalLevel == 1)
+        Guarded(this, [this] { OnModalBegin(this); });
 }
 
 void TApplication::ModalFinished()
 {
-    if (--FModalLevel == 0)
-        OnModalEnd(this);
+    if (FModalLevel == 1)
+        Guarded(this, [this] { OnModalEnd(this); });
+    --FModalLevel;
 }
 
 // ---- hints

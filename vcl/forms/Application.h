@@ -106,7 +106,7 @@ public:
     // Texts are UTF-8; Flags are MB_ constants, the result is an ID constant. The program's windows are disabled while
     // the box is open.
     int MessageBox(std::string_view Text, std::string_view Caption, unsigned Flags = MB_OK);
-    // Around every modal loop, for OnModalBegin and OnModalEnd.
+    // Around every modal loop, for OnModalBegin and OnModalEnd. What these raise goes to HandleException.
     void ModalStarted();
     void ModalFinished();
 

@@ -6,6 +6,7 @@
 #include "vcl/forms/HintController.h"
 #include "vcl/forms/MdiFrame.h"
 #include "vcl/menus/PopupMenu.h"
+#include "vcl/system/Guard.h"
 
 #include <cstdlib>
 #include <utility>
@@ -22,12 +23,8 @@ void TApplication::Run()
     FTerminated = false;
     if (!FMainForm)
         return;
-    try {
-        if (ShowMainForm)
-            FMainForm->Visible = true;
-    } catch (...) {
-        HandleException(this);
-    }
+    if (ShowMainForm)
+        Guarded(this, [this] { FMainForm->Visible = true; });
     while (!FTerminated)
         HandleMessage();
 }
@@ -54,11 +51,7 @@ void TApplication::DoApplicationIdle()
 {
     FreeReleased(FLoopLevel + 1);
     bool Done = true;
-    try {
-        OnIdle(this, Done);
-    } catch (...) {
-        HandleException(this);
-    }
+    Guarded(this, [&] { OnIdle(this, Done); });
     if (Done && !FTerminated)
         WaitMessage();
 }
@@ -74,11 +67,7 @@ bool TApplication::ProcessMessage()
         return false;
     }
     ++FLoopLevel;
-    try {
-        Dispatch(Msg);
-    } catch (...) {
-        HandleException(this);
-    }
+    Guarded(this, [&] { Dispatch(Msg); });
     const int Level = FLoopLevel--;
     FreeReleased(Level);
     return true;
@@ -182,11 +171,7 @@ void TApplication::FreeReleased(int Level)
         }
         TCustomForm* Form = FReleased[I].Form;
         FReleased.erase(FReleased.begin() + static_cast<ptrdiff_t>(I));
-        try {
-            delete Form;
-        } catch (...) {
-            HandleException(this);
-        }
+        Guarded(this, [Form] { delete Form; });
         I = 0; // deleting a form may release or delete others
     }
 }
@@ -207,7 +192,7 @@ void TApplication::HandleException(TObject* Sender)
         try {
             throw;
         } catch (const EAbort&) {
-            // Silent by its meaning.
+            // EAbort is silent by definition.
         } catch (Exception& E) {
             Report(E);
         } catch (const std::exception& Other) {

@@ -6,6 +6,7 @@
 #include "vcl/forms/Screen.h"
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
 
 #include <algorithm>
 
@@ -74,6 +75,7 @@ void TCustomForm::Describe(TClassBuilder<TCustomForm>& Class)
     Class.Message<&Self::WMQueryEndSession>(WM_QUERYENDSESSION);
     Class.Message<&Self::WMSetCursor>(WM_SETCURSOR);
     Class.Message<&Self::WMSize>(WM_SIZE);
+    Class.Message<&Self::WMSysColorChange>(WM_SYSCOLORCHANGE);
     Class.Message<&Self::CMActivate>(CM_ACTIVATE);
     Class.Message<&Self::CMColorChanged>(CM_COLORCHANGED);
     Class.Message<&Self::CMDeactivate>(CM_DEACTIVATE);
@@ -129,20 +131,12 @@ void TCustomForm::BeforeDestruction()
 
 void TCustomForm::DoCreate()
 {
-    try {
-        OnCreate(this);
-    } catch (...) {
-        Application->HandleException(this);
-    }
+    Guarded(this, [this] { OnCreate(this); });
 }
 
 void TCustomForm::DoDestroy()
 {
-    try {
-        OnDestroy(this);
-    } catch (...) {
-        Application->HandleException(this);
-    }
+    Guarded(this, [this] { OnDestroy(this); });
 }
 
 void TCustomForm::Notification(TComponent* Component, TOperation Operation)

@@ -226,6 +226,7 @@ protected:
 private:
     friend class TApplication;
     friend class TFormFocus;
+    friend class TModalSession;
     friend void LoadForm(TCustomForm* Form);
 
     void WMActivate(TMessage& Message);
@@ -243,6 +244,7 @@ private:
     void WMQueryEndSession(TMessage& Message);
     void WMSetCursor(TMessage& Message);
     void WMSize(TWMSize& Message);
+    void WMSysColorChange(TMessage& Message);
     void CMActivate(TMessage& Message);
     void CMColorChanged(TMessage& Message);
     void CMDeactivate(TMessage& Message);
@@ -268,8 +270,6 @@ private:
     void TopLevelParams(TCreateParams& Params);
 
     void FinishCreation();
-    void CloseModal();
-    TModalResult RunModal(HWND Above);
     void ShowWindowNow();
     void HideWindowNow();
     void ActivateNext();

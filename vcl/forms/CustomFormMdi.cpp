@@ -3,6 +3,7 @@
 #include "vcl/forms/Form.h"
 #include "vcl/forms/MdiFrame.h"
 #include "vcl/forms/Screen.h"
+#include "vcl/system/Scope.h"
 
 #include <algorithm>
 
@@ -87,7 +88,8 @@ void TCustomForm::DestroyMdiChildren()
 // From the lowest on, none becomes active when another one goes.
 TForm* TCustomForm::LowestMdiChild() const
 {
-    return MDIChildCount > 0 ? MDIChildren[MDIChildCount - 1] : nullptr;
+    const std::vector<TForm*> Children = FMdiFrame ? FMdiFrame->Children() : std::vector<TForm*>();
+    return Children.empty() ? nullptr : Children.back();
 }
 
 void TCustomForm::BarChanged()
@@ -170,6 +172,14 @@ void TCustomForm::CMColorChanged(TMessage& Message)
         FMdiFrame->Invalidate();
 }
 
+// The system tells top-level windows only.
+void TCustomForm::WMSysColorChange(TMessage& Message)
+{
+    Inherited(Message);
+    if (FMdiFrame)
+        FMdiFrame->TellChildren(Message);
+}
+
 // ---- children
 
 void TCustomForm::MdiChildParams(TCreateParams& Params)
@@ -183,12 +193,9 @@ void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
     // Its first messages need the default procedure of children.
     if (IsMdiChild())
         FFormState << fsCreatedMDIChild;
-    try {
-        TScrollingWinControl::CreateWindowHandle(Params);
-    } catch (...) {
-        FFormState >> fsCreatedMDIChild;
-        throw;
-    }
+    TScopeExit Failed([this] { FFormState >> fsCreatedMDIChild; });
+    TScrollingWinControl::CreateWindowHandle(Params);
+    Failed.Dismiss();
 }
 
 void TCustomForm::DestroyWindowHandle()

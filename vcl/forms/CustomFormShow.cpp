@@ -1,11 +1,15 @@
 // Showing, hiding, closing and modal display of forms.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/DragManager.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/MdiFrame.h"
-#include "vcl/forms/ModalWindows.h"
+#include "vcl/forms/ModalSession.h"
 #include "vcl/forms/Screen.h"
+#include "vcl/system/Guard.h"
+
+#include <deque>
 
 void TCustomForm::SetVisible(bool Value)
 {
@@ -48,27 +52,26 @@ void TCustomForm::Show()
 
 void TCustomForm::CMShowingChanged(TMessage&)
 {
+    const TStillThere StillThere(this);
     FFormState << fsShowing;
-    try {
+    Guarded(this, [this] {
         if (Showing)
             ShowWindowNow();
         else
             HideWindowNow();
-    } catch (...) {
-        Application->HandleException(this);
-    }
-    FFormState >> fsShowing;
+    });
+    if (StillThere)
+        FFormState >> fsShowing;
 }
 
 void TCustomForm::ShowWindowNow()
 {
     constexpr int Commands[] = {SW_SHOWNORMAL, SW_SHOWMINNOACTIVE, SW_SHOWMAXIMIZED};
-    try {
-        if (!IsDesigning())
-            DoShow();
-    } catch (...) {
-        Application->HandleException(this);
-    }
+    const TStillThere StillThere(this);
+    if (!IsDesigning())
+        Guarded(this, [this] { DoShow(); });
+    if (!StillThere || !HandleAllocated())
+        return;
     PlaceForShowing();
     FFocus.SelectFirst();
     if (TMdiFrame* Frame = FrameOfChild())
@@ -82,12 +85,11 @@ void TCustomForm::ShowWindowNow()
 
 void TCustomForm::HideWindowNow()
 {
-    try {
-        if (!IsDesigning())
-            DoHide();
-    } catch (...) {
-        Application->HandleException(this);
-    }
+    const TStillThere StillThere(this);
+    if (!IsDesigning())
+        Guarded(this, [this] { DoHide(); });
+    if (!StillThere || !HandleAllocated())
+        return;
     MergeMenu(false);
     if (Active && !FFormState.Contains(fsModal))
         ActivateNext();
@@ -112,9 +114,15 @@ void TCustomForm::ActivateNext()
 
 bool TCustomForm::CloseQuery()
 {
-    for (int I = 0; I < MDIChildCount; ++I)
-        if (!MDIChildren[I]->CloseQuery())
+    // A handler may close or delete children.
+    const std::vector<TForm*> Shown = FMdiFrame ? FMdiFrame->Children() : std::vector<TForm*>();
+    const std::deque<TComponentRef<TForm>> Children(Shown.begin(), Shown.end());
+    const TStillThere StillThere(this);
+    for (const TComponentRef<TForm>& Child : Children)
+        if (Child && !Child->CloseQuery())
             return false;
+    if (!StillThere)
+        return false;
     bool CanClose = true;
     OnCloseQuery(this, CanClose);
     return CanClose;
@@ -133,11 +141,12 @@ void TCustomForm::Close()
         ModalResult = mrCancel;
         return;
     }
-    if (!CloseQuery())
+    const TStillThere StillThere(this);
+    if (!CloseQuery() || !StillThere)
         return;
     TCloseAction Action = DefaultCloseAction();
     DoClose(Action);
-    if (Action == caNone)
+    if (!StillThere || Action == caNone)
         return;
     if (Application->MainForm == this)
         Application->Terminate();
@@ -166,28 +175,6 @@ void TCustomForm::WMQueryEndSession(TMessage& Message)
 
 // ---- modal display
 
-namespace {
-
-// What was active before, and becomes it again.
-class TActiveWindow {
-public:
-    TActiveWindow() : FActive(GetActiveWindow()), FFocus(GetFocus()) {}
-    void Restore() const
-    {
-        if (FActive && IsWindow(FActive) && IsWindowVisible(FActive))
-            SetActiveWindow(FActive);
-        if (FFocus && IsWindow(FFocus) && GetActiveWindow() == FActive && IsWindowVisible(FFocus))
-            ::SetFocus(FFocus);
-    }
-    HWND Window() const { return FActive; }
-
-private:
-    HWND FActive;
-    HWND FFocus;
-};
-
-} // namespace
-
 TModalResult TCustomForm::ShowModal()
 {
     TDragManager::End(false);
@@ -197,74 +184,5 @@ TModalResult TCustomForm::ShowModal()
         SendMessageW(Capture, WM_CANCELMODE, 0, 0);
     ReleaseCapture();
     Application->CancelHint();
-
-    FFormState << fsModal;
-    const TActiveWindow Before;
-    const TCursor CursorBefore = Screen->Cursor;
-    Screen->Cursor = crDefault;
-    HandleNeeded();
-    TModalWindows Others(Handle);
-    Application->ModalStarted();
-    // Finishes what was begun, however the form ends.
-    auto Finish = [&] {
-        Others.Enable();
-        FFormState >> fsModal;
-        try {
-            Hide();
-        } catch (...) {
-            Application->HandleException(this);
-        }
-        Screen->Cursor = CursorBefore;
-        Before.Restore();
-        Application->ModalFinished();
-    };
-    try {
-        const TModalResult Result = RunModal(Before.Window());
-        Finish();
-        return Result;
-    } catch (...) {
-        Finish();
-        throw;
-    }
-}
-
-TModalResult TCustomForm::RunModal(HWND Above)
-{
-    // Above what was active, whatever is clicked.
-    const LONG_PTR OwnerBefore = GetWindowLongPtrW(Handle, GWLP_HWNDPARENT);
-    if (Above)
-        SetWindowLongPtrW(Handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(Above));
-    Show();
-    ModalResult = mrNone;
-    while (ModalResult == mrNone) {
-        Application->HandleMessage();
-        if (Application->Terminated || !HandleAllocated())
-            ModalResult = mrCancel;
-        else if (ModalResult != mrNone)
-            CloseModal();
-    }
-    const TModalResult Result = ModalResult;
-    if (HandleAllocated()) {
-        Perform(CM_DEACTIVATE);
-        SetWindowLongPtrW(Handle, GWLP_HWNDPARENT, OwnerBefore);
-    }
-    return Result;
-}
-
-void TCustomForm::CloseModal()
-{
-    try {
-        TCloseAction Action = caNone;
-        if (CloseQuery()) {
-            Action = caHide;
-            DoClose(Action);
-        }
-        if (Action == caNone)
-            ModalResult = mrNone;
-        else if (Action == caFree)
-            Release();
-    } catch (...) {
-        ModalResult = mrNone;
-        Application->HandleException(this);
-    }
+    return TModalSession(this).Run();
 }

@@ -6,6 +6,7 @@
 #include "vcl/forms/RootChildren.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Guard.h"
 
 void TDataModule::Describe(TClassBuilder<TDataModule>& Class)
 {
@@ -35,20 +36,12 @@ void TDataModule::BeforeDestruction()
 
 void TDataModule::DoCreate()
 {
-    try {
-        OnCreate(this);
-    } catch (...) {
-        Application->HandleException(this);
-    }
+    Guarded(this, [this] { OnCreate(this); });
 }
 
 void TDataModule::DoDestroy()
 {
-    try {
-        OnDestroy(this);
-    } catch (...) {
-        Application->HandleException(this);
-    }
+    Guarded(this, [this] { OnDestroy(this); });
 }
 
 void TDataModule::GetChildren(const TGetChildProc& Proc, TComponent* Root)

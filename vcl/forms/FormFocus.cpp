@@ -2,6 +2,7 @@
 
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Screen.h"
+#include "vcl/system/Scope.h"
 
 #include <utility>
 
@@ -52,15 +53,13 @@ bool TFormFocus::SetFocusedControl(TWinControl* Control)
     FTarget = Control;
     Control->SetControlFlag(csFocusing, true);
     bool Kept = false;
-    try {
+    {
+        const TScopeExit Done([&] {
+            if (FTarget == Control)
+                Control->SetControlFlag(csFocusing, false);
+        });
         Kept = ActivateForm() && LeaveFor(Control) && EnterDownTo(Control);
-    } catch (...) {
-        if (FTarget == Control)
-            Control->SetControlFlag(csFocusing, false);
-        throw;
     }
-    if (FTarget == Control)
-        Control->SetControlFlag(csFocusing, false);
     if (Kept)
         Screen->ReportActive();
     return Kept;

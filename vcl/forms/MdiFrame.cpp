@@ -2,6 +2,7 @@
 
 #include "vcl/forms/Form.h"
 #include "vcl/graphics/Brush.h"
+#include "vcl/system/Guard.h"
 
 namespace {
 
@@ -32,16 +33,26 @@ TMdiFrame::~TMdiFrame()
 
 LRESULT CALLBACK TMdiFrame::ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam, UINT_PTR, DWORD_PTR Data)
 {
-    const auto* Frame = reinterpret_cast<TMdiFrame*>(Data);
+    auto* Frame = reinterpret_cast<TMdiFrame*>(Data);
+    LRESULT Result = 0;
+    bool Handled = false;
+    Guarded(&Frame->FForm, [&] { Handled = Frame->ClientMessage(Msg, WParam, Result); });
+    return Handled ? Result : DefSubclassProc(Window, Msg, WParam, LParam);
+}
+
+// True when the message to the client window has been used up.
+bool TMdiFrame::ClientMessage(UINT Msg, WPARAM WParam, LRESULT& Result) const
+{
     // From the only child Wine goes on to none, and for that makes it its normal size without drawing it.
-    if (Msg == WM_MDINEXT && Frame->Children().size() < 2)
-        return 0;
+    if (Msg == WM_MDINEXT)
+        return Children().size() < 2;
     if (Msg != WM_ERASEBKGND)
-        return DefSubclassProc(Window, Msg, WParam, LParam);
+        return false;
     TRect Area;
-    ::GetClientRect(Window, &Area);
-    FillRect(reinterpret_cast<HDC>(WParam), &Area, Frame->FForm.Brush->Handle);
-    return 1;
+    ::GetClientRect(FClient, &Area);
+    FillRect(reinterpret_cast<HDC>(WParam), &Area, FForm.Brush->Handle);
+    Result = 1;
+    return true;
 }
 
 LRESULT TMdiFrame::Send(UINT Msg, WPARAM WParam, LPARAM LParam) const
@@ -85,6 +96,15 @@ void TMdiFrame::Show(HWND Child, TWindowState State)
     if (State == wsMaximized || (ActiveIsMaximized && State == wsNormal))
         Send(WM_MDIMAXIMIZE, reinterpret_cast<WPARAM>(Child));
     Send(WM_MDIREFRESHMENU);
+}
+
+void TMdiFrame::TellChildren(const TMessage& Message) const
+{
+    std::vector<HWND> Windows;
+    for (HWND Window = GetWindow(FClient, GW_CHILD); Window; Window = GetWindow(Window, GW_HWNDNEXT))
+        Windows.push_back(Window);
+    for (HWND Window : Windows)
+        SendMessageW(Window, Message.Msg, Message.WParam, Message.LParam);
 }
 
 void TMdiFrame::Activate(HWND Child)

@@ -38,6 +38,8 @@ public:
     void Activate(HWND Child);
     // Destroys a child's window; another one becomes active.
     void Destroy(HWND Child);
+    // Sends a message to every child's window.
+    void TellChildren(const TMessage& Message) const;
     // Sends a message of the MDI client window.
     LRESULT Send(UINT Msg, WPARAM WParam = 0, LPARAM LParam = 0) const;
 
@@ -59,6 +61,7 @@ public:
 private:
     static LRESULT CALLBACK ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPARAM LParam, UINT_PTR Id,
                                        DWORD_PTR Data);
+    bool ClientMessage(UINT Msg, WPARAM WParam, LRESULT& Result) const;
     bool LacksButtons(HMENU Bar) const;
     void SetMenus(HMENU Bar) const;
 
