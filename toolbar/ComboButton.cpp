@@ -74,7 +74,7 @@ void TkelComboButton::Describe(TClassBuilder<TkelComboButton>& Class)
     Class.Property<&Self::GetGlyphIndex, &Self::SetGlyph>("GlyphIndex");
     Class.Property<&Self::GetGroupIndex, &Self::SetGroupIndex>("GroupIndex");
     Class.Property<&Self::GetAllowAllUp, &Self::SetAllowAllUp>("AllowAllUp");
-    Class.Property<&Self::GetDown, &Self::SetDown>("Down");
+    Class.Property<&Self::GetDown, &Self::SetDown>("Down").ReadLast();
     Class.Property<&Self::GetLayout, &Self::SetLayout>("Layout");
     Class.PublishAll("ShowHint", "Hint", "ParentShowHint");
     Class.Event<&Self::OnButtonClick>("OnButtonClick");

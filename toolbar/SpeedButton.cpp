@@ -20,7 +20,7 @@ void TkelSpeedButton::Describe(TClassBuilder<TkelSpeedButton>& Class)
 {
     Class.Property<&Self::GetAllowAllUp, &Self::SetAllowAllUp>("AllowAllUp").Default(false);
     Class.Property<&Self::GetGroupIndex, &Self::SetGroupIndex>("GroupIndex").Default(0);
-    Class.Property<&Self::GetDown, &Self::SetDown>("Down").Default(false);
+    Class.Property<&Self::GetDown, &Self::SetDown>("Down").Default(false).ReadLast();
     Class.PublishAll("Caption", "Enabled");
     Class.Property<&Self::GetFlat, &Self::SetFlat>("Flat").Default(false);
     Class.Publish("Font");

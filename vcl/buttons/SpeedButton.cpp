@@ -9,7 +9,7 @@ void TSpeedButton::Describe(TClassBuilder<TSpeedButton>& Class)
     Class.Property<&Self::GetAllowAllUp, &Self::SetAllowAllUp>("AllowAllUp").Default(false);
     Class.PublishAll("Anchors", "BiDiMode", "Constraints");
     Class.Property<&Self::GetGroupIndex, &Self::SetGroupIndex>("GroupIndex").Default(0);
-    Class.Property<&Self::GetDown, &Self::SetDown>("Down").Default(false);
+    Class.Property<&Self::GetDown, &Self::SetDown>("Down").Default(false).ReadLast();
     Class.PublishAll("Caption", "Enabled");
     Class.Property<&Self::GetFlat, &Self::SetFlat>("Flat").Default(false);
     Class.Publish("Font");
