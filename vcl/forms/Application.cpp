@@ -168,8 +168,6 @@ void TApplication::Forget(TCustomForm* Form)
 {
     if (FMainFormToBe == Form)
         FMainFormToBe = nullptr;
-    if (MainFormAsCustom() == Form)
-        FMainForm = nullptr;
     std::erase_if(FReleased, [Form](const TReleased& Each) { return Each.Form == Form; });
 }
 
@@ -317,13 +315,6 @@ void TApplication::CancelHint()
 void TApplication::HideHint()
 {
     FHints->Hide();
-}
-
-void TApplication::Notification(TComponent* Component, TOperation Operation)
-{
-    TComponent::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FMainForm)
-        FMainForm = nullptr;
 }
 
 AnsiString GetShortHint(std::string_view Hint)

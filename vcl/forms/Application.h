@@ -13,7 +13,7 @@
 //     }
 #pragma once
 
-#include "vcl/classes/Component.h"
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/HintInfo.h"
 #include "vcl/forms/FormTypes.h"
 #include "vcl/graphics/Icon.h"
@@ -151,9 +151,6 @@ public:
     TShortCutEvent OnShortCut;
     TShowHintEvent OnShowHint;
 
-protected:
-    void Notification(TComponent* Component, TOperation Operation) override;
-
 private:
     friend class TApplicationHost;
     friend class TCustomForm;
@@ -195,7 +192,7 @@ private:
     std::vector<TWindowHook> FHooks;
     std::vector<TReleased> FReleased;
     HWND FHandle = nullptr;
-    TForm* FMainForm = nullptr;
+    TComponentRef<TForm> FMainForm;
     TCustomForm* FMainFormToBe = nullptr;
     TMaking* FMaking = nullptr;
     TIcon FIcon;

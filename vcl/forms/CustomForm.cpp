@@ -139,41 +139,13 @@ void TCustomForm::DoDestroy()
     Guarded(this, [this] { OnDestroy(this); });
 }
 
-void TCustomForm::Notification(TComponent* Component, TOperation Operation)
-{
-    TScrollingWinControl::Notification(Component, Operation);
-    if (Operation != opRemove)
-        return;
-    if (Component == FMenu)
-        FMenu = nullptr;
-    if (Component == FWindowMenu)
-        FWindowMenu = nullptr;
-    if (Component == FObjectMenuItem)
-        FObjectMenuItem = nullptr;
-}
-
-void TCustomForm::ReplaceReference(TComponent* Before, TComponent* After)
-{
-    if (Before)
-        Before->RemoveFreeNotification(this);
-    if (After)
-        After->FreeNotification(this);
-}
-
 void TCustomForm::SetWindowMenu(TMenuItem* Value)
 {
     if (FWindowMenu == Value)
         return;
-    ReplaceReference(FWindowMenu, Value);
     FWindowMenu = Value;
     if (FMdiFrame)
         FMdiFrame->UpdateMenu();
-}
-
-void TCustomForm::SetObjectMenuItem(TMenuItem* Value)
-{
-    ReplaceReference(FObjectMenuItem, Value);
-    FObjectMenuItem = Value;
 }
 
 // ---- controls on the form

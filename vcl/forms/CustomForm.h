@@ -4,6 +4,7 @@
 // Scaled and PixelsPerInch are only kept; forms are not scaled, the system scales the whole program.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/ControlCanvas.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/forms/DesignerHook.h"
@@ -177,7 +178,7 @@ public:
     int SnapBuffer = 10;
     TPrintScale PrintScale = poProportional;
     TMenuItem* GetObjectMenuItem() const { return FObjectMenuItem; }
-    void SetObjectMenuItem(TMenuItem* Value);
+    void SetObjectMenuItem(TMenuItem* Value) { FObjectMenuItem = Value; }
     PROPERTY(TMenuItem*, ObjectMenuItem);
 
     TNotifyEvent OnActivate;
@@ -220,7 +221,6 @@ protected:
     bool PaintsItself() const override { return true; }
     void ReadState(TReader& Reader) override;
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
     void ValidateRename(TComponent* Component, std::string_view CurName, std::string_view NewName) override;
 
 private:
@@ -282,7 +282,6 @@ private:
     bool ShowsMenu() const;
     bool MenuGoesToMainForm() const;
     void MergeMenu(bool Merged);
-    void ReplaceReference(TComponent* Before, TComponent* After);
     void IconChanged(TObject* Sender);
     int TextHeight();
     void ReadTextHeight(TReader* Reader);
@@ -302,9 +301,9 @@ private:
     TFormFocus FFocus;
     TIcon FIcon;
     std::unique_ptr<TMdiFrame> FMdiFrame; // while a form with the style fsMDIForm has its window
-    TMainMenu* FMenu = nullptr;
-    TMenuItem* FWindowMenu = nullptr;
-    TMenuItem* FObjectMenuItem = nullptr;
+    TComponentRef<TMainMenu> FMenu;
+    TComponentRef<TMenuItem> FWindowMenu;
+    TComponentRef<TMenuItem> FObjectMenuItem;
     TDesignerHook* FDesigner = nullptr;
     TFormState FFormState;
     TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};

@@ -42,7 +42,6 @@ void TCustomForm::SetMenu(TMainMenu* Value)
         FMenu->OnBarChange = nullptr;
         FMenu->WindowHandle = nullptr;
     }
-    ReplaceReference(FMenu, Value);
     FMenu = Value;
     UpdateMenu();
     if (const TMdiFrame* Frame = FrameOfChild(); Frame && Frame->ActiveChild() == this)

@@ -26,6 +26,11 @@ void TFormFocus::SetWindowFocus()
     ::SetFocus(Control->Handle);
 }
 
+void TFormFocus::Leave()
+{
+    FActive = nullptr;
+}
+
 void TFormFocus::SelectFirst()
 {
     if (!FActive && !FForm->ComponentState.Contains(csDesigning))
@@ -85,7 +90,8 @@ bool TFormFocus::LeaveFor(TWinControl* Control)
 {
     HWND Focus = GetFocus();
     while (FFocused && !FFocused->ContainsControl(Control)) {
-        TWinControl* Left = std::exchange(FFocused, FFocused->Parent);
+        TWinControl* Left = FFocused;
+        FFocused = Left->Parent;
         Left->Perform(CM_EXIT);
         if (!StillOn(Focus, Control))
             return false;

@@ -1,6 +1,7 @@
 // TFormFocus: which control of a form has the focus, and who is told when that changes.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/ControlTypes.h"
 #include "vcl/system/WindowsApi.h"
 
@@ -22,7 +23,7 @@ public:
     // Gives the window focus to the active control, or to the form.
     void SetWindowFocus();
     // The form keeps the focus of its window for another one, an MDI child of its: no control is active.
-    void Leave() { FActive = nullptr; }
+    void Leave();
     // The first control in tab order becomes active, if none is.
     void SelectFirst();
 
@@ -33,7 +34,7 @@ private:
     bool StillOn(HWND Focus, const TWinControl* Control) const;
 
     TCustomForm* FForm;
-    TWinControl* FActive = nullptr;
-    TWinControl* FFocused = nullptr; // the last one that was told CM_ENTER
-    TWinControl* FTarget = nullptr;  // the one that is getting the focus now
+    TComponentRef<TWinControl> FActive;
+    TComponentRef<TWinControl> FFocused; // the last one that was told CM_ENTER
+    TComponentRef<TWinControl> FTarget;  // the one that is getting the focus now
 };
