@@ -210,8 +210,9 @@ TEST_F(LoadedForms, WithAnErrorNameItsLine)
         new TBrokenForm(nullptr);
         FAIL() << "no exception";
     } catch (const EReadError& E) {
-        EXPECT_EQ(E.Message, "Error reading BrokenForm.OnCreate: TBrokenForm describes no method FormCreat on line 3 of "
-                             "BrokenForm.dfm");
+        EXPECT_EQ(E.Message,
+                  "Error reading BrokenForm.OnCreate: TBrokenForm describes no method FormCreat on line 3 of "
+                  "BrokenForm.dfm");
     }
 }
 

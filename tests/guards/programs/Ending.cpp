@@ -1,5 +1,5 @@
-// A program that an exception ends, in the place that its argument names: "static", "create" or "run". Like the programs
-// of beginners, it catches nothing.
+// A program that an exception ends, in the place that its argument names: "static", "create" or "run". Like the
+// programs of beginners, it catches nothing.
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Form.h"
 #include "vcl/system/ClassBuilder.h"
