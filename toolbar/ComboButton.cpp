@@ -1,5 +1,6 @@
 #include "toolbar/ComboButton.h"
 
+#include "toolbar/DropDown.h"
 #include "toolbar/RandomGroup.h"
 #include "vcl/classes/StillThere.h"
 #include "vcl/controls/Mouse.h"
@@ -142,24 +143,19 @@ void TkelComboButton::AlignControls(TControl* Control, TRect& Rect)
 
 void TkelComboButton::DoButtonClick(TObject*)
 {
+    const TStillThere IsHere(this);
     ButtonClick();
-    OnButtonClick(this);
+    if (IsHere)
+        OnButtonClick(this);
 }
 
 void TkelComboButton::DoListDown(TObject*)
 {
-    const TStillThere IsHere(FArrow);
-    try {
-        ListDown();
-        if (IsHere)
-            OnListDown(this);
-    } catch (...) {
-        if (IsHere)
-            FArrow->Down = false;
-        throw;
-    }
+    const TRaiseAtEnd ComesUp(FArrow);
+    const TStillThere IsHere(this);
+    ListDown();
     if (IsHere)
-        FArrow->Down = false;
+        OnListDown(this);
 }
 
 // ---- the pointer
@@ -172,16 +168,18 @@ void TkelComboButton::SetHot(bool Value)
 
 void TkelComboButton::CMMouseEnter(TMessage& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    if (Enabled)
+    if (IsHere && Enabled)
         SetHot(true);
 }
 
 // The pointer may only have gone from one half to the other.
 void TkelComboButton::CMMouseLeave(TMessage& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    if (!ContainsControl(TMouse::HotControl()))
+    if (IsHere && !ContainsControl(TMouse::HotControl()))
         SetHot(false);
 }
 

@@ -11,23 +11,9 @@ void TkelComboPopupButton::Describe(TClassBuilder<TkelComboPopupButton>& Class)
 TkelComboPopupButton::TkelComboPopupButton(TComponent* AOwner) : TkelComboButton(AOwner)
 {}
 
-void TkelComboPopupButton::SetMenu(TPopupMenu* Value)
-{
-    FMenu = Value;
-    if (Value)
-        Value->FreeNotification(this);
-}
-
 void TkelComboPopupButton::ListDown()
 {
     inherited::ListDown();
     if (FMenu)
         DropDown(FMenu, this, ArrowButton());
-}
-
-void TkelComboPopupButton::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FMenu)
-        FMenu = nullptr;
 }

@@ -11,14 +11,13 @@ public:
 
     // What the arrow drops, somebody else's; cleared when it is deleted.
     TPopupMenu* GetMenu() const { return FMenu; }
-    void SetMenu(TPopupMenu* Value);
+    void SetMenu(TPopupMenu* Value) { FMenu = Value; }
     PROPERTY(TPopupMenu*, Menu);
 
 protected:
     // Opens the menu below the combo button and returns when it is closed. The arrow stays down while it is open.
     void ListDown() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
 
 private:
-    TPopupMenu* FMenu = nullptr;
+    TComponentRef<TPopupMenu> FMenu;
 };

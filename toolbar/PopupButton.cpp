@@ -2,6 +2,7 @@
 
 #include "toolbar/DropDown.h"
 #include "toolbar/RandomGroup.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/system/ClassBuilder.h"
 
 namespace {
@@ -21,25 +22,14 @@ TkelPopupButton::TkelPopupButton(TComponent* AOwner) : TkelSpeedButton(AOwner)
     AllowAllUp = true;
 }
 
-void TkelPopupButton::SetMenu(TPopupMenu* Value)
-{
-    FMenu = Value;
-    if (Value)
-        Value->FreeNotification(this);
-}
-
 void TkelPopupButton::Click()
 {
+    // A click of the mouse has put it down.
+    const TRaiseAtEnd ComesUp(this);
+    const TStillThere IsHere(this);
     inherited::Click();
-    if (FMenu)
+    if (IsHere && FMenu)
         DropDown(FMenu, this, this);
-}
-
-void TkelPopupButton::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FMenu)
-        FMenu = nullptr;
 }
 
 int TkelPopupButton::AccessibleState() const

@@ -12,18 +12,15 @@ public:
 
     // What a click drops, somebody else's; cleared when it is deleted. Without it this is a plain speed button.
     TPopupMenu* GetMenu() const { return FMenu; }
-    void SetMenu(TPopupMenu* Value);
+    void SetMenu(TPopupMenu* Value) { FMenu = Value; }
     PROPERTY(TPopupMenu*, Menu);
 
     // Raises OnClick, then opens the menu below the button and returns when it is closed. The button stays down while
-    // the menu is open.
+    // the menu is open, and is up when this returns.
     void Click() override;
 
     int AccessibleState() const override;
 
-protected:
-    void Notification(TComponent* Component, TOperation Operation) override;
-
 private:
-    TPopupMenu* FMenu = nullptr;
+    TComponentRef<TPopupMenu> FMenu;
 };

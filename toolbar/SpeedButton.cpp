@@ -7,6 +7,7 @@
 #include "vcl/graphics/DitherBrush.h"
 #include "vcl/graphics/SolidFill.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 namespace {
 
@@ -33,7 +34,9 @@ void TkelSpeedButton::Describe(TClassBuilder<TkelSpeedButton>& Class)
     Class.Event<&Self::OnMouseLeave>("OnMouseLeave");
     Class.PublishAll("OnClick", "OnDblClick", "OnMouseDown", "OnMouseMove", "OnMouseUp");
 
+    Class.Message<&Self::WMLButtonUp>(WM_LBUTTONUP);
     Class.Message<&Self::WMLButtonDblClk>(WM_LBUTTONDBLCLK);
+    Class.Message<&Self::WMCaptureChanged>(WM_CAPTURECHANGED);
     Class.Message<&Self::CMEnabledChanged>(CM_ENABLEDCHANGED);
     Class.Message<&Self::CMButtonPressed>(CM_BUTTONPRESSED);
     Class.Message<&Self::CMDialogChar>(CM_DIALOGCHAR);
@@ -89,16 +92,12 @@ void TkelSpeedButton::SetGlyphs(TkelGlyphs* Value)
 {
     FImages = nullptr;
     FGlyphs = Value;
-    if (Value)
-        Value->FreeNotification(this);
 }
 
 void TkelSpeedButton::SetImages(TImageList* Value)
 {
     FGlyphs = nullptr;
     FImages = Value;
-    if (Value)
-        Value->FreeNotification(this);
 }
 
 void TkelSpeedButton::SetGlyph(int Index)
@@ -112,6 +111,8 @@ void TkelSpeedButton::SetFlat(bool Value)
     if (FFlat == Value)
         return;
     FFlat = Value;
+    FMouseInControl = false;
+    UpdateTracking();
     Repaint();
 }
 
@@ -121,17 +122,6 @@ void TkelSpeedButton::SetLayout(TButtonLayout Value)
         return;
     FLayout = Value;
     Repaint();
-}
-
-void TkelSpeedButton::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation != opRemove)
-        return;
-    if (Component == FGlyphs)
-        FGlyphs = nullptr;
-    if (Component == FImages)
-        FImages = nullptr;
 }
 
 // ---- mouse
@@ -152,8 +142,9 @@ void TkelSpeedButton::SetState(TButtonState Value)
 
 void TkelSpeedButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    const TStillThere IsHere(this);
     inherited::MouseDown(Button, Shift, X, Y);
-    if (Button != mbLeft || !Enabled)
+    if (!IsHere || Button != mbLeft || !Enabled)
         return;
     if (!FDown) {
         FState = bsDown;
@@ -164,8 +155,9 @@ void TkelSpeedButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, i
 
 void TkelSpeedButton::MouseMove(TShiftState Shift, int X, int Y)
 {
+    const TStillThere IsHere(this);
     inherited::MouseMove(Shift, X, Y);
-    if (!FDragging)
+    if (!IsHere || !FDragging)
         return;
     if (FDown)
         SetState(bsExclusive);
@@ -175,9 +167,10 @@ void TkelSpeedButton::MouseMove(TShiftState Shift, int X, int Y)
 
 void TkelSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    const TStillThere IsHere(this);
     inherited::MouseUp(Button, Shift, X, Y);
     // Any button's release ends the press.
-    if (!FDragging)
+    if (!IsHere || !FDragging)
         return;
     FDragging = false;
     const bool Inside = IsInside(X, Y);
@@ -191,7 +184,6 @@ void TkelSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int
         FState = FDown ? bsExclusive : bsUp;
         Repaint();
     }
-    const TStillThere IsHere(this);
     if (Inside)
         Click();
     if (!IsHere)
@@ -200,11 +192,35 @@ void TkelSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int
     Repaint();
 }
 
+void TkelSpeedButton::WMLButtonUp(TWMMouse& Message)
+{
+    const TStillThere IsHere(this);
+    const TScopeExit Released([&] {
+        if (IsHere)
+            FReleasing = false;
+    });
+    FReleasing = true;
+    Inherited(Message);
+}
+
 // A second press is a press like any other, and OnDblClick comes on top of it.
 void TkelSpeedButton::WMLButtonDblClk(TWMMouse& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    DblClick();
+    if (IsHere)
+        DblClick();
+}
+
+// Without the mouse the button does not see the release, so the press ends here, and is no click.
+void TkelSpeedButton::WMCaptureChanged(TMessage& Message)
+{
+    Inherited(Message);
+    if (FReleasing || !std::exchange(FDragging, false))
+        return;
+    FState = FDown ? bsExclusive : bsUp;
+    UpdateTracking();
+    Repaint();
 }
 
 void TkelSpeedButton::UpdateTracking()
@@ -222,20 +238,26 @@ bool TkelSpeedButton::IsUnderPointer()
 
 void TkelSpeedButton::CMMouseEnter(TMessage& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    if (!FFlat || FMouseInControl || !Enabled || !FTracking)
+    if (!IsHere || !FFlat || FMouseInControl || !Enabled || !FTracking)
         return;
     OnMouseEnter(this);
-    FMouseInControl = true;
+    if (!IsHere)
+        return;
+    FMouseInControl = FFlat && Enabled && FTracking;
     Repaint();
 }
 
 void TkelSpeedButton::CMMouseLeave(TMessage& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    if (!FFlat || !FMouseInControl || !Enabled || !FTracking)
+    if (!IsHere || !FFlat || !FMouseInControl || !Enabled || !FTracking)
         return;
     OnMouseLeave(this);
+    if (!IsHere)
+        return;
     FMouseInControl = false;
     Repaint();
 }
@@ -267,12 +289,17 @@ void TkelSpeedButton::CMButtonPressed(TMessage& Message)
 
 void TkelSpeedButton::CMDialogChar(TCMDialogChar& Message)
 {
-    if (!Enabled || !IsAccel(Message.CharCode, Caption)) {
+    if (!Enabled || !IsOnScreen() || !IsAccel(Message.CharCode, Caption)) {
         Inherited(Message);
         return;
     }
     Click();
     Message.Result = 1;
+}
+
+bool TkelSpeedButton::IsOnScreen() const
+{
+    return Visible && Parent && Parent->HandleAllocated() && IsWindowVisible(Parent->Handle);
 }
 
 void TkelSpeedButton::CMEnabledChanged(TMessage&)

@@ -6,6 +6,7 @@
 
 #include "toolbar/Glyphs.h"
 #include "vcl/buttons/ButtonTypes.h"
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/GraphicControl.h"
 #include "vcl/graphics/ImageList.h"
 
@@ -57,6 +58,8 @@ public:
     TNotifyEvent OnMouseLeave;
 
     void Click() override { inherited::Click(); }
+    // Visible in a window that the user can see. A button that is not answers no letter.
+    bool IsOnScreen() const;
 
     // How many speed buttons this program has made so far.
     static int CreatedCount() { return Created; }
@@ -68,7 +71,6 @@ public:
 protected:
     void Paint() override;
     void Loaded() override { inherited::Loaded(); }
-    void Notification(TComponent* Component, TOperation Operation) override;
     void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
     void MouseMove(TShiftState Shift, int X, int Y) override;
     void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override;
@@ -89,7 +91,9 @@ protected:
     bool FTracking = true;
 
 private:
+    void WMLButtonUp(TWMMouse& Message);
     void WMLButtonDblClk(TWMMouse& Message);
+    void WMCaptureChanged(TMessage& Message);
     void CMEnabledChanged(TMessage& Message);
     void CMButtonPressed(TMessage& Message);
     void CMDialogChar(TCMDialogChar& Message);
@@ -112,13 +116,14 @@ private:
 
     static inline int Created = 0;
 
-    TkelGlyphs* FGlyphs = nullptr;
-    TImageList* FImages = nullptr;
+    TComponentRef<TkelGlyphs> FGlyphs;
+    TComponentRef<TImageList> FImages;
     int FGroupIndex = 0;
     int FGlyphIndex = 0;
     TButtonLayout FLayout = blGlyphLeft;
     bool FDown = false;
-    bool FDragging = false; // the left button went down on this one and is still held
+    bool FDragging = false;  // the left button went down on this one and is still held
+    bool FReleasing = false; // it comes up, and the mouse is given back
     bool FAllowAllUp = false;
     bool FFlat = true;
 };

@@ -86,6 +86,16 @@ TEST_F(ComboPopupButtonTest, WithoutAMenuTheArrowOnlyRaisesOnListDown)
     EXPECT_FALSE(Combo->ArrowButton()->Down);
 }
 
+TEST_F(ComboPopupButtonTest, OutsideOfAllWindowsTheArrowOpensNothing)
+{
+    Combo->Menu = Noted;
+    Combo->Parent = nullptr;
+    EXPECT_NO_THROW(Combo->ArrowButton()->Click());
+    EXPECT_EQ(Noted->Popups, 0);
+    EXPECT_FALSE(Combo->ArrowButton()->Down);
+    Combo->Parent = Form.get();
+}
+
 TEST_F(ComboPopupButtonTest, FreeingTheMenuClearsIt)
 {
     Combo->Menu = Noted;

@@ -4,6 +4,7 @@
 #include "robot/WhileMenuOpen.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/FormText.h"
+#include "tests/support/Reports.h"
 #include "tests/toolbar/ButtonParts.h"
 #include "tests/toolbar/SpeedButtonFixture.h"
 #include "toolbar/RandomGroup.h"
@@ -130,7 +131,7 @@ TEST_F(PopupButtonTest, ItComesUpWhenTheMenuFails)
 
 TEST_F(PopupButtonTest, WithoutAMenuItIsAPlainSpeedButton)
 {
-    TTestButton* Plain = NewButton(Popup->GroupIndex == 1 ? 2 : 1, true);
+    TTestButton* Plain = NewButton();
     Popup->Glyphs = Glyphs;
     Plain->Glyphs = Glyphs;
     Popup->Width = Plain->Width;
@@ -140,9 +141,46 @@ TEST_F(PopupButtonTest, WithoutAMenuItIsAPlainSpeedButton)
         Press(Popup);
         Click(Plain);
         EXPECT_EQ(Clicks, I);
-        EXPECT_EQ(Popup->Down, Plain->Down);
+        EXPECT_FALSE(Popup->Down);
         EXPECT_TRUE(SamePixels(PaintToBitmap(Popup), PaintToBitmap(Plain)));
     }
+}
+
+TEST_F(PopupButtonTest, ItComesUpWhenOnClickFails)
+{
+    Popup->Menu = Menu;
+    Popup->OnClick = [](TObject*) { throw EInvalidOperation("no"); };
+    EXPECT_THROW(Press(Popup), EInvalidOperation);
+    EXPECT_FALSE(Popup->Down);
+    EXPECT_EQ(Menu->Popups, 0);
+}
+
+TEST_F(PopupButtonTest, ItComesUpWhenItsMenuIsGoneAfterOnClick)
+{
+    Popup->Menu = Menu;
+    Popup->OnClick = [&](TObject*) { Popup->Menu = nullptr; };
+    Press(Popup);
+    EXPECT_FALSE(Popup->Down);
+    Popup->Menu = Menu;
+    Popup->OnClick = [&](TObject*) { delete std::exchange(Menu, nullptr); };
+    Press(Popup);
+    EXPECT_FALSE(Popup->Down);
+}
+
+TEST_F(PopupButtonTest, OutsideOfAllWindowsItOpensNoMenu)
+{
+    Popup->Menu = Menu;
+    Popup->OnClick = [&](TObject*) { Popup->Parent = nullptr; };
+    Press(Popup);
+    EXPECT_EQ(Menu->Popups, 0);
+    EXPECT_FALSE(Popup->Down);
+    auto* Panel = new TCustomControl(Window.get());
+    Panel->Parent = Window.get();
+    Popup->Parent = Panel;
+    Popup->OnClick = [&](TObject*) { Panel->Parent = nullptr; };
+    Press(Popup);
+    EXPECT_EQ(Menu->Popups, 0);
+    EXPECT_FALSE(Popup->Down);
 }
 
 TEST_F(PopupButtonTest, FreeingTheMenuClearsIt)
@@ -270,4 +308,26 @@ TEST_F(PopupButtonFormTest, AClickOnTheButtonClosesTheMenuAndDoesNotOpenItAgain)
     ClickButton();
     EXPECT_TRUE(PumpUntil([&] { return Opened == 2 && !TWhileMenuOpen::IsOpen(); }));
     EXPECT_FALSE(Button->Down);
+}
+
+TEST_F(PopupButtonFormTest, AButtonThatDeletesItselfOpensNothing)
+{
+    Show();
+    int Opened = 0;
+    Menu->OnPopup = [&](TObject*) { ++Opened; };
+    Button->OnClick = [&](TObject*) { delete std::exchange(Button, nullptr); };
+    ClickOn(Button);
+    EXPECT_TRUE(PumpUntil([&] { return Button == nullptr; }));
+    EXPECT_EQ(Opened, 0);
+}
+
+TEST_F(PopupButtonFormTest, AButtonWhoseOnClickFailsComesUp)
+{
+    Show();
+    TReports Reports;
+    Button->OnClick = [](TObject*) { throw EInvalidOperation("no"); };
+    ClickOn(Button);
+    EXPECT_THAT(Reports.Texts(), ElementsAre(HasSubstr("no")));
+    EXPECT_FALSE(Button->Down);
+    EXPECT_EQ(TButtonLook::StateOf(Button), bsUp);
 }

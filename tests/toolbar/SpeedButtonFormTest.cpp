@@ -1,6 +1,7 @@
 // Speed buttons on a form, with the application's message loop.
 #include "tests/support/FormTest.h"
 #include "toolbar/SpeedButton.h"
+#include "vcl/extctrls/Panel.h"
 
 using SpeedButtonFormTest = TFormTest;
 
@@ -21,6 +22,27 @@ TEST_F(SpeedButtonFormTest, AltAndTheAcceleratorClickTheButton)
     TypeKey('O', {ssAlt});
     EXPECT_TRUE(PumpUntil([&] { return Opens == 2; }));
     EXPECT_EQ(Saves, 0);
+}
+
+TEST_F(SpeedButtonFormTest, AButtonThatIsNotOnTheScreenHasNoLetter)
+{
+    auto* Panel = Add<TPanel>();
+    auto* Inner = Add<TPanel>("", Panel);
+    auto* Button = Add<TkelSpeedButton>("&Save", Inner);
+    int Saves = 0;
+    Button->OnClick = [&](TObject*) { ++Saves; };
+    Show();
+    TypeKey('S', {ssAlt});
+    EXPECT_TRUE(PumpUntil([&] { return Saves == 1; }));
+    for (TControl* Each :
+         {static_cast<TControl*>(Panel), static_cast<TControl*>(Inner), static_cast<TControl*>(Button)}) {
+        Each->Visible = false;
+        TypeKey('S', {ssAlt});
+        EXPECT_EQ(Saves, 1) << Each->ClassName();
+        Each->Visible = true;
+    }
+    TypeKey('S', {ssAlt});
+    EXPECT_TRUE(PumpUntil([&] { return Saves == 2; }));
 }
 
 TEST_F(SpeedButtonFormTest, AClickLeavesTheFocusWhereItIs)

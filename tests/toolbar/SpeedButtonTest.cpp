@@ -368,6 +368,7 @@ TEST_F(SpeedButtonTest, MovesWithoutAPressChangeNothing)
 
 TEST_F(SpeedButtonTest, TheAcceleratorClicks)
 {
+    Window->ShowNow();
     int Clicks = 0;
     Button->OnClick = [&](TObject*) { ++Clicks; };
     Button->Caption = "&Bold";
@@ -382,6 +383,7 @@ TEST_F(SpeedButtonTest, TheAcceleratorClicks)
 
 TEST_F(SpeedButtonTest, ACyrillicAcceleratorClicks)
 {
+    Window->ShowNow();
     int Clicks = 0;
     Button->OnClick = [&](TObject*) { ++Clicks; };
     Button->Caption = "От&мена";
