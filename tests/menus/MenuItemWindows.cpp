@@ -9,6 +9,7 @@
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/LiveCount.h"
 
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <set>
@@ -338,6 +339,70 @@ TEST_F(MenuItems, ChangesAreToldToTheMenu)
     Item->Caption = "Other";
     EXPECT_THAT(Changes, ElementsAre(std::pair(Item, false), std::pair(Item, true)));
     FMenu->OnChange = nullptr;
+}
+
+TEST_F(MenuItems, AreFoundByCommandAtOnceHoweverManyThereAre)
+{
+    const auto MicrosecondsToFind = [&](TMenuItem* Item) {
+        double Best = 1e9;
+        for (int I = 0; I < 20; ++I) {
+            LARGE_INTEGER Start, End, Frequency;
+            QueryPerformanceFrequency(&Frequency);
+            QueryPerformanceCounter(&Start);
+            for (int J = 0; J < 100; ++J)
+                EXPECT_EQ(FMenu->FindItem(Item->Command, fkCommand), Item);
+            QueryPerformanceCounter(&End);
+            Best = std::min(Best, 1e6 * static_cast<double>(End.QuadPart - Start.QuadPart) /
+                                      static_cast<double>(Frequency.QuadPart));
+        }
+        return Best;
+    };
+    const double InASmallMenu = MicrosecondsToFind(AddItem(FRoot, "First"));
+    TMenuItem* Last = nullptr;
+    for (int I = 0; I < 5000; ++I)
+        Last = AddItem(FRoot, "Item");
+    EXPECT_LT(MicrosecondsToFind(Last), 20 * InASmallMenu);
+}
+
+TEST_F(MenuItems, ItemsOfOtherMenusAreNotFoundByCommand)
+{
+    TPopupMenu Other(nullptr);
+    TMenuItem* Theirs = AddItem(AddItem(Other.Items, "Sub"), "Theirs");
+    TMenuItem* Loose = new TMenuItem(&Other);
+    EXPECT_EQ(Other.FindItem(Theirs->Command, fkCommand), Theirs);
+    EXPECT_EQ(FMenu->FindItem(Theirs->Command, fkCommand), nullptr);
+    EXPECT_EQ(FMenu->FindItem(Loose->Command, fkCommand), nullptr);
+    EXPECT_EQ(FMenu->FindItem(uintptr_t{Theirs->Command} + 0x10000, fkCommand), nullptr);
+    const uint16_t Command = Theirs->Command;
+    delete Theirs;
+    EXPECT_EQ(Other.FindItem(Command, fkCommand), nullptr);
+}
+
+TEST_F(MenuItems, TheMenuMayGoWhenItTellsOfAChange)
+{
+    const std::function<void(TMenuItem*)> Changes[] = {
+        [](TMenuItem* Item) { Item->Checked = true; },
+        [](TMenuItem* Item) { Item->Default = true; },
+        [](TMenuItem* Item) { Item->GroupIndex = 3; },
+        [](TMenuItem* Item) {
+            Item->AutoCheck = true;
+            Item->Click();
+        },
+    };
+    for (const auto& Change : Changes) {
+        int Clicks = 0;
+        auto Menu = std::make_unique<TPopupMenu>(nullptr);
+        for (const char* Caption : {"One", "Two"}) {
+            AddItem(Menu->Items, Caption)->RadioItem = true;
+            Menu->Items->Items[Menu->Items->Count - 1]->OnClick = [&](TObject*) { ++Clicks; };
+        }
+        Menu->Items->Items[1]->Checked = true;
+        Menu->Items->Items[1]->Default = true;
+        Menu->OnChange = [&](TObject*, TMenuItem*, bool) { Menu.reset(); };
+        Change(Menu->Items->Items[0]);
+        EXPECT_EQ(Menu, nullptr);
+        EXPECT_EQ(Clicks, 0);
+    }
 }
 
 TEST(NewMenuItems, HaveTheValuesGiven)

@@ -111,6 +111,14 @@ TEST_F(PopupMenus, OnPopupComesBeforeTheMenuShows)
     EXPECT_THAT(FLog, ElementsAre("Second"));
 }
 
+TEST_F(PopupMenus, TheMenuMayGoInOnPopup)
+{
+    FMenu->OnPopup = [&](TObject*) { FMenu.reset(); };
+    FMenu->Popup(150, 150);
+    EXPECT_EQ(FMenu, nullptr);
+    EXPECT_EQ(FindWindowW(L"#32768", nullptr), nullptr);
+}
+
 TEST_F(PopupMenus, SubmenusFillWhenTheyOpen)
 {
     TMenuItem* More = NewSubMenu("&More", 0, "", {NewLine(FMenu.get())}, true, FMenu.get());

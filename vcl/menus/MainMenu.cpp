@@ -1,5 +1,6 @@
 #include "vcl/menus/MainMenu.h"
 
+#include "vcl/menus/MenuFont.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <algorithm>
@@ -72,20 +73,25 @@ void TMainMenu::Unmerge(TMainMenu* Menu)
         Merge(nullptr);
 }
 
-std::vector<TMenuItem*> TMainMenu::ShownItems() const
+const std::vector<TMenuItem*>& TMainMenu::ShownItems() const
 {
-    std::vector<TMenuItem*> Own = TMenu::ShownItems();
     if (!FMerged)
-        return Own;
-    const std::vector<TMenuItem*> Theirs = FMerged->TMenu::ShownItems();
+        return TMenu::ShownItems();
+    std::vector<TMenuItem*> Own = TMenu::ShownItems();
+    const std::vector<TMenuItem*>& Theirs = FMerged->TMenu::ShownItems();
     std::erase_if(Own, [&](const TMenuItem* Item) {
         return std::ranges::find(Theirs, Item->GroupIndex, &TMenuItem::GetGroupIndex) != Theirs.end();
     });
     // The group indexes of a menu never fall.
-    std::vector<TMenuItem*> Shown;
-    std::ranges::merge(Own, Theirs, std::back_inserter(Shown), {}, &TMenuItem::GetGroupIndex,
+    FShown.clear();
+    std::ranges::merge(Own, Theirs, std::back_inserter(FShown), {}, &TMenuItem::GetGroupIndex,
                        &TMenuItem::GetGroupIndex);
-    return Shown;
+    return FShown;
+}
+
+bool TMainMenu::IsShown(const TMenuItem* Item) const
+{
+    return FMerged ? std::ranges::find(ShownItems(), Item) != FShown.end() : TMenu::IsShown(Item);
 }
 
 // What this bar shows has changed.
@@ -100,6 +106,7 @@ void TMainMenu::UpdateWindow()
 {
     if (!FWindowHandle)
         return;
+    ForgetSystemMenuFont();
     // An empty bar would be a blank strip.
     HMENU Menu = Handle;
     HMENU Shown = GetMenuItemCount(Menu) > 0 ? Menu : nullptr;

@@ -32,12 +32,14 @@ public:
 protected:
     void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
     bool IsMenuBar() const override { return true; }
-    std::vector<TMenuItem*> ShownItems() const override;
+    const std::vector<TMenuItem*>& ShownItems() const override;
+    bool IsShown(const TMenuItem* Item) const override;
 
 private:
     void UpdateWindow();
     void Refill();
 
     TMainMenu* FMerged = nullptr;
-    TMainMenu* FMergedInto = nullptr; // the bar that shows this menu's items
+    TMainMenu* FMergedInto = nullptr;       // the bar that shows this menu's items
+    mutable std::vector<TMenuItem*> FShown; // with those of the merged menu, as of the last time they were asked for
 };

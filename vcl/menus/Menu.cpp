@@ -2,6 +2,8 @@
 
 #include "vcl/classes/StillThere.h"
 #include "vcl/graphics/ImageList.h"
+#include "vcl/menus/MenuCommands.h"
+#include "vcl/menus/MenuFont.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <vector>
@@ -42,13 +44,12 @@ TMenuItem* FindBelow(TMenuItem* Item, const Matches& IsWanted)
 
 TMenuItem* TMenu::FindItem(uintptr_t Value, TFindItemKind Kind) const
 {
+    if (Kind == fkCommand)
+        return FindCommand(Value);
     const auto IsWanted = [=](TMenuItem* Item) {
-        switch (Kind) {
-        case fkCommand: return Item->Command == Value;
-        case fkHandle: return Item->HandleAllocated() && reinterpret_cast<uintptr_t>(Item->FHandle) == Value;
-        case fkShortCut: return Value != scNone && Item->ShortCut == Value;
-        }
-        return false;
+        if (Kind == fkHandle)
+            return Item->HandleAllocated() && reinterpret_cast<uintptr_t>(Item->FHandle) == Value;
+        return Value != scNone && Item->ShortCut == Value;
     };
     if (IsWanted(FItems))
         return FItems;
@@ -56,6 +57,18 @@ TMenuItem* TMenu::FindItem(uintptr_t Value, TFindItemKind Kind) const
         if (TMenuItem* Found = FindBelow(Item, IsWanted))
             return Found;
     return nullptr;
+}
+
+// Menus ask for the item with a command at every message of every item.
+TMenuItem* TMenu::FindCommand(uintptr_t Command) const
+{
+    TMenuItem* Item = ItemWithCommand(Command);
+    if (!Item || Item == FItems)
+        return Item;
+    const TMenuItem* OnFirstLevel = Item;
+    while (OnFirstLevel->FParent && OnFirstLevel->FParent->FParent)
+        OnFirstLevel = OnFirstLevel->FParent;
+    return OnFirstLevel->FParent && IsShown(OnFirstLevel) ? Item : nullptr;
 }
 
 bool TMenu::DispatchCommand(uint16_t Command)
@@ -72,6 +85,7 @@ bool TMenu::DispatchPopup(HMENU Handle)
     TMenuItem* Item = FindItem(reinterpret_cast<uintptr_t>(Handle), fkHandle);
     if (!Item)
         return false;
+    ForgetSystemMenuFont();
     const TStillThere IsHere(this);
     Item->Click();
     if (!IsHere)
@@ -188,11 +202,7 @@ void TMenu::SetImages(TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    if (FImages)
-        FImages->RemoveFreeNotification(this);
     FImages = Value;
-    if (Value)
-        Value->FreeNotification(this);
     FItems->SubtreeChanged();
 }
 
@@ -210,15 +220,6 @@ void TMenu::Loaded()
 {
     TComponent::Loaded();
     MenuChanged(this, nullptr, true);
-}
-
-void TMenu::Notification(TComponent* Component, TOperation Operation)
-{
-    TComponent::Notification(Component, Operation);
-    if (Operation != opRemove || Component != FImages)
-        return;
-    FImages = nullptr;
-    FItems->SubtreeChanged();
 }
 
 void TMenu::MenuChanged(TObject*, TMenuItem* Source, bool Rebuild)

@@ -65,7 +65,6 @@ protected:
     friend class TMenuItem;
 
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
     // An item changed; Source is nullptr for the menu itself.
     virtual void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild);
     // The items lie side by side in a bar.
@@ -76,7 +75,9 @@ protected:
     // What the native entry says, and where its accelerator is looked for.
     virtual AnsiString EntryCaption(const TMenuItem& Item) const { return Item.Caption; }
     // The items on the menu's first level, those of a merged menu among them.
-    virtual std::vector<TMenuItem*> ShownItems() const { return FItems->FItems; }
+    virtual const std::vector<TMenuItem*>& ShownItems() const { return FItems->FItems; }
+    // Whether one of them is Item.
+    virtual bool IsShown(const TMenuItem* Item) const { return Item->Parent == FItems; }
     // The native menu is filled anew when it is needed next.
     void MarkStale() { FItems->FStale = true; }
 
@@ -85,10 +86,12 @@ protected:
 private:
     HMENU CreateNativeMenu() const;
 
+    TMenuItem* FindCommand(uintptr_t Command) const;
     bool OpenPathTo(TMenuItem* Item);
+    void ImagesGone() { FItems->SubtreeChanged(); }
 
     TMenuItem* FItems;
-    TCustomImageList* FImages = nullptr;
+    TComponentRef<TCustomImageList> FImages{this, &TMenu::ImagesGone};
     TBiDiMode FBiDiMode = bdLeftToRight;
     bool FOwnerDraw = false;
 };

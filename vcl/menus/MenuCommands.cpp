@@ -2,21 +2,19 @@
 
 #include "vcl/graphics/GraphicErrors.h"
 
-#include <bitset>
-
 namespace {
-constinit std::bitset<LastMenuCommand + 1> Used;
+TMenuItem* Users[LastMenuCommand + 1];
 uint16_t Last = FirstMenuCommand - 1;
 } // namespace
 
-uint16_t TakeMenuCommand()
+uint16_t TakeMenuCommand(TMenuItem* Item)
 {
     // Round about, so that a command in the message queue does not find its number on a new item.
     constexpr int Count = LastMenuCommand - FirstMenuCommand + 1;
     for (int I = 0; I < Count; ++I) {
         Last = Last >= LastMenuCommand ? FirstMenuCommand : static_cast<uint16_t>(Last + 1);
-        if (!Used.test(Last)) {
-            Used.set(Last);
+        if (!Users[Last]) {
+            Users[Last] = Item;
             return Last;
         }
     }
@@ -25,5 +23,10 @@ uint16_t TakeMenuCommand()
 
 void ReturnMenuCommand(uint16_t Command)
 {
-    Used.reset(Command);
+    Users[Command] = nullptr;
+}
+
+TMenuItem* ItemWithCommand(uintptr_t Command)
+{
+    return Command <= LastMenuCommand ? Users[Command] : nullptr;
 }

@@ -1,4 +1,4 @@
-// Free accelerators for the items that have none.
+// The accelerators of items, and free ones for the items that have none.
 
 #include "vcl/menus/Menu.h"
 #include "vcl/menus/MenuItem.h"
@@ -35,6 +35,20 @@ bool AssignHotkey(AnsiString& Caption, std::set<wchar_t>& Taken)
 
 } // namespace
 
+bool TMenuItem::IsSeparator() const
+{
+    const TMenu* Menu = GetParentMenu();
+    return IsLine() || (Menu && (Menu->EntryType(*this) & MFT_SEPARATOR));
+}
+
+bool TMenuItem::AnswersTo(uint16_t Letter) const
+{
+    if (Letter == 0 || !FVisible || IsSeparator())
+        return false;
+    const wchar_t Wanted = Upper(static_cast<wchar_t>(Letter));
+    return GetHotkey(ShownCaption()) == FromWide({&Wanted, 1});
+}
+
 bool TMenuItem::RethinkHotkeys(bool ForceRethink)
 {
     if (!ForceRethink && Inherit(&TMenuItem::FAutoHotkeys) != maAutomatic)
@@ -42,10 +56,8 @@ bool TMenuItem::RethinkHotkeys(bool ForceRethink)
     // What the captions name themselves comes first; of two that name the same letter the first keeps it.
     std::set<wchar_t> Taken;
     std::vector<TMenuItem*> Wanting;
-    const TMenu* Menu = GetParentMenu();
     for (TMenuItem* Item : FItems) {
-        const bool IsLine = Item->IsLine() || (Menu && Menu->EntryType(*Item) & MFT_SEPARATOR);
-        if (!Item->FVisible || IsLine)
+        if (!Item->FVisible || Item->IsSeparator())
             continue;
         const TWideString Letter = ToWide(GetHotkey(Item->FCaption));
         if (Letter.empty() || !Taken.insert(Letter[0]).second)

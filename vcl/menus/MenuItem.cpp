@@ -1,5 +1,6 @@
 #include "vcl/menus/MenuItem.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/graphics/ImageList.h"
 #include "vcl/menus/Menu.h"
 #include "vcl/menus/MenuBitmap.h"
@@ -34,7 +35,7 @@ void TMenuItem::Describe(TClassBuilder<TMenuItem>& Class)
     Class.Event<&Self::OnMeasureItem>("OnMeasureItem");
 }
 
-TMenuItem::TMenuItem(TComponent* AOwner) : TComponent(AOwner), FCommand(TakeMenuCommand())
+TMenuItem::TMenuItem(TComponent* AOwner) : TComponent(AOwner), FCommand(TakeMenuCommand(this))
 {}
 
 TMenuItem::~TMenuItem()
@@ -98,7 +99,8 @@ void TMenuItem::Remove(TMenuItem* Item)
 
 void TMenuItem::Clear()
 {
-    while (!FItems.empty())
+    const TStillThere IsHere(this);
+    while (IsHere && !FItems.empty())
         delete FItems.back();
 }
 
@@ -200,9 +202,11 @@ void TMenuItem::Click()
     if (!FEnabled)
         return;
     // A radio item stays on.
+    const TStillThere IsHere(this);
     if (AutoCheck && !(FRadioItem && FChecked))
         Checked = !FChecked;
-    OnClick(this);
+    if (IsHere)
+        OnClick(this);
 }
 
 bool TMenuItem::CanBeChosen() const
@@ -271,27 +275,25 @@ void TMenuItem::SetChecked(bool Value)
     if (FChecked == Value)
         return;
     FChecked = Value;
+    const TStillThere IsHere(this);
     ChangeLook();
-    if (Value && FRadioItem)
+    if (IsHere && Value && FRadioItem)
         TurnSiblingsOff();
 }
 
-void TMenuItem::TurnSiblingsOff()
+// Each tells of its change, and a handler may delete items. False when this one is gone.
+bool TMenuItem::TurnSiblingsOff()
 {
-    if (!FParent)
-        return;
-    for (TMenuItem* Item : FParent->FItems)
-        if (Item != this && Item->FRadioItem && Item->FGroupIndex == FGroupIndex)
+    const TStillThere IsHere(this);
+    for (size_t I = 0; IsHere && FParent && I < FParent->FItems.size(); ++I)
+        if (TMenuItem* Item = FParent->FItems[I]; Item != this && Item->FRadioItem && Item->FGroupIndex == FGroupIndex)
             Item->Checked = false;
+    return static_cast<bool>(IsHere);
 }
 
 void TMenuItem::SetSubMenuImages(TCustomImageList* Value)
 {
-    if (FSubMenuImages)
-        FSubMenuImages->RemoveFreeNotification(this);
     FSubMenuImages = Value;
-    if (Value)
-        Value->FreeNotification(this);
     SubtreeChanged();
 }
 
@@ -299,9 +301,11 @@ void TMenuItem::SetDefault(bool Value)
 {
     if (FDefault == Value)
         return;
-    if (Value && FParent)
-        for (TMenuItem* Item : FParent->FItems)
-            Item->Default = false;
+    const TStillThere IsHere(this);
+    for (size_t I = 0; IsHere && Value && FParent && I < FParent->FItems.size(); ++I)
+        FParent->FItems[I]->Default = false;
+    if (!IsHere)
+        return;
     FDefault = Value;
     ChangeLook();
 }
@@ -325,8 +329,8 @@ void TMenuItem::SetGroupIndex(uint8_t Value)
     if (FParent)
         for (size_t I = static_cast<size_t>(Index) + 1; I < FParent->FItems.size(); ++I)
             FParent->FItems[I]->FGroupIndex = std::max(FParent->FItems[I]->FGroupIndex, Value);
-    if (FChecked && FRadioItem)
-        TurnSiblingsOff();
+    if (FChecked && FRadioItem && !TurnSiblingsOff())
+        return;
     ChangeShape(); // merging goes by it
 }
 
@@ -343,8 +347,8 @@ void TMenuItem::SetRadioItem(bool Value)
     if (FRadioItem == Value)
         return;
     FRadioItem = Value;
-    if (Value && FChecked)
-        TurnSiblingsOff();
+    if (Value && FChecked && !TurnSiblingsOff())
+        return;
     ChangeShape();
 }
 
@@ -362,15 +366,6 @@ void TMenuItem::SetVisible(bool Value)
         return;
     FVisible = Value;
     ChangeShape();
-}
-
-void TMenuItem::Notification(TComponent* Component, TOperation Operation)
-{
-    TComponent::Notification(Component, Operation);
-    if (Operation != opRemove || Component != FSubMenuImages)
-        return;
-    FSubMenuImages = nullptr;
-    SubtreeChanged();
 }
 
 // ---- making items

@@ -4,7 +4,7 @@
 // menus are made when they are first needed and follow the items from then on.
 #pragma once
 
-#include "vcl/classes/Component.h"
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/graphics/OwnerDrawState.h"
 #include "vcl/graphics/Types.h"
 #include "vcl/menus/ShortCut.h"
@@ -98,6 +98,9 @@ public:
     bool IsLine() const { return FCaption == cLineCaption; }
     // The caption as the item's menu shows it, in which & marks the accelerator.
     AnsiString ShownCaption() const;
+    // A typed letter chooses the item: it is its accelerator, and the item is visible and no separator. Whether it is
+    // enabled does not matter.
+    bool AnswersTo(uint16_t Letter) const;
     // What a click on the item does: AutoCheck, then OnClick. Nothing while the item is disabled.
     virtual void Click();
     // True when the item, and everything it is in, is visible and enabled.
@@ -163,7 +166,6 @@ protected:
     virtual void DrawItem(TCanvas* ACanvas, const TRect& ARect, bool Selected);
     // In and out: pixels.
     virtual void MeasureItem(TCanvas* ACanvas, int& Width, int& Height);
-    void Notification(TComponent* Component, TOperation Operation) override;
     // Something about the item changed; the menu's OnChange follows.
     virtual void MenuChanged(bool Rebuild);
 
@@ -174,6 +176,7 @@ private:
     TSize ImageSize() const;
     int ImageColumn() const;
     void BitmapChanged(TObject* Sender);
+    bool IsSeparator() const;
     bool IsOwnerDrawn() const;
     bool IsOnBar() const;
     AnsiString ShownShortCut() const;
@@ -194,7 +197,7 @@ private:
     void AppendTo(HMENU Menu);
     void DetachNative(TMenuItem* Item);
     void FreeNative();
-    void TurnSiblingsOff();
+    bool TurnSiblingsOff();
     int NewLineAt(int Index);
     TMenuItemAutoFlag Inherit(TMenuItemAutoFlag TMenuItem::* Flag) const;
 
@@ -203,7 +206,7 @@ private:
     HMENU FHandle = nullptr;
     std::vector<TMenuItem*> FItems;
     AnsiString FCaption;
-    TCustomImageList* FSubMenuImages = nullptr;
+    TComponentRef<TCustomImageList> FSubMenuImages{this, &TMenuItem::SubtreeChanged};
     std::unique_ptr<TMenuBitmap> FBitmap; // made when it is asked for
     int FImageIndex = -1;
     uint16_t FCommand;

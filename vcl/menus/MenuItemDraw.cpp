@@ -2,6 +2,7 @@
 
 #include "vcl/menus/Menu.h"
 #include "vcl/menus/MenuBitmap.h"
+#include "vcl/menus/MenuFont.h"
 #include "vcl/menus/MenuItem.h"
 
 #include "vcl/graphics/DisabledText.h"
@@ -20,13 +21,10 @@ class TItemCanvas : public TCanvas {
 public:
     TItemCanvas(HDC Context, bool Bold) : FContext(Context), FSaved(SaveDC(Context))
     {
-        NONCLIENTMETRICSW Metrics{};
-        Metrics.cbSize = sizeof Metrics;
-        if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof Metrics, &Metrics, 0)) {
-            Font->Name = FromWide(Metrics.lfMenuFont.lfFaceName);
-            Font->Height = Metrics.lfMenuFont.lfHeight;
-            Font->Charset = TFontCharset(Metrics.lfMenuFont.lfCharSet);
-        }
+        const LOGFONTW& Menu = SystemMenuFont();
+        Font->Name = FromWide(Menu.lfFaceName);
+        Font->Height = Menu.lfHeight;
+        Font->Charset = TFontCharset(Menu.lfCharSet);
         if (Bold)
             Font->Style = Font->Style + TFontStyles{fsBold};
         Font->Color = clMenuText;

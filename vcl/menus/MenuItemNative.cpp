@@ -123,7 +123,8 @@ void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
         Info.fType |= MFT_SEPARATOR;
         return;
     }
-    Text = ToWide(ShownCaption());
+    // Some systems look for the letters of titles, too.
+    Text = ToWide(Info.fType & MFT_SEPARATOR ? StripHotkey(ShownCaption()) : ShownCaption());
     if (const AnsiString Keys = ShownShortCut(); !Keys.empty())
         Text += L'\t' + ToWide(Keys);
     Info.fMask |= MIIM_STRING | MIIM_BITMAP;
@@ -199,9 +200,7 @@ void TMenuItem::FreeNative()
 // that is disabled is only selected: executing it would close the menu.
 intptr_t TMenuItem::MenuChar(wchar_t Letter)
 {
-    TMenu* Menu = GetParentMenu();
-    CharUpperBuffW(&Letter, 1);
-    const AnsiString Wanted = FromWide({&Letter, 1});
+    const TMenu* Menu = GetParentMenu();
     int First = -1;  // with this letter
     int Behind = -1; // the selected item
     int Hits = 0;
@@ -209,7 +208,7 @@ intptr_t TMenuItem::MenuChar(wchar_t Letter)
     bool SelectedAbove = false;
     for (int I = 0; I < GetMenuItemCount(FHandle); ++I) {
         const TMenuItem* Item = Menu ? Menu->FindItem(CommandAt(FHandle, I), fkCommand) : nullptr;
-        if (Item && GetHotkey(Item->ShownCaption()) == Wanted) {
+        if (Item && Item->AnswersTo(static_cast<uint16_t>(Letter))) {
             if (++Hits == 1) {
                 First = I;
                 IsEnabled = Item->Enabled;

@@ -7,7 +7,7 @@
 
 TPopupList& TPopupList::Get()
 {
-    // Never destroyed: menus of static life leave the list at any time.
+    // Never destroyed: menus that are static variables may be destroyed after it.
     static TPopupList& List = *new TPopupList;
     return List;
 }

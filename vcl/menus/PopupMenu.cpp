@@ -32,8 +32,10 @@ TPopupMenu::~TPopupMenu()
 void TPopupMenu::Popup(int X, int Y)
 {
     FPopupPoint = {X, Y};
+    const TStillThere IsHere(this);
     DoPopup(this);
-    Track(X, Y);
+    if (IsHere)
+        Track(X, Y);
 }
 
 void TPopupMenu::Track(int X, int Y)
@@ -71,22 +73,4 @@ unsigned TPopupMenu::TrackFlags() const
         if (MenuAnimation.Contains(Each))
             Flags |= AnimationFlags[Each];
     return Flags;
-}
-
-void TPopupMenu::SetPopupComponent(TComponent* Value)
-{
-    if (FPopupComponent == Value)
-        return;
-    if (FPopupComponent)
-        FPopupComponent->RemoveFreeNotification(this);
-    FPopupComponent = Value;
-    if (Value)
-        Value->FreeNotification(this);
-}
-
-void TPopupMenu::Notification(TComponent* Component, TOperation Operation)
-{
-    TMenu::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FPopupComponent)
-        FPopupComponent = nullptr;
 }

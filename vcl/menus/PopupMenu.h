@@ -27,7 +27,7 @@ public:
 
     // The component that the menu opened for; it is set by whoever calls Popup.
     TComponent* GetPopupComponent() const { return FPopupComponent; }
-    void SetPopupComponent(TComponent* Value);
+    void SetPopupComponent(TComponent* Value) { FPopupComponent = Value; }
     PROPERTY(TComponent*, PopupComponent);
 
     TPopupAlignment Alignment = paLeft;
@@ -42,13 +42,12 @@ public:
 
 protected:
     virtual void DoPopup(TObject* Sender) { OnPopup(Sender); }
-    void Notification(TComponent* Component, TOperation Operation) override;
     // The flags for TrackPopupMenu.
     unsigned TrackFlags() const;
     // Shows the menu as Popup does, without OnPopup before. The menu may be gone when this returns.
     void Track(int X, int Y);
 
 private:
-    TComponent* FPopupComponent = nullptr;
+    TComponentRef<TComponent> FPopupComponent;
     TPoint FPopupPoint{-1, -1};
 };
