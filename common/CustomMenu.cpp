@@ -1,6 +1,7 @@
 #include "common/CustomMenu.h"
 
 #include "common/OwnerDrawItems.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/system/ClassBuilder.h"
@@ -20,7 +21,6 @@ TkelCustomMenu::TkelCustomMenu(TComponent* AOwner) : TMenu(AOwner)
         auto* Form = As<TForm>(AOwner);
         if (!Form)
             throw EInvalidCast("Invalid class typecast");
-        Form->FreeNotification(this);
         FHook.Install(Form, {this, &TkelCustomMenu::FormWndProc});
     }
     Menus.push_back(this);
@@ -29,13 +29,6 @@ TkelCustomMenu::TkelCustomMenu(TComponent* AOwner) : TMenu(AOwner)
 TkelCustomMenu::~TkelCustomMenu()
 {
     std::erase(Menus, this);
-}
-
-void TkelCustomMenu::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FHook.Control())
-        FHook.Forget();
 }
 
 // ---- switching
@@ -95,8 +88,8 @@ bool TkelCustomMenu::FormMessage(TMessage& Message)
         auto& Draw = static_cast<TWMDrawItem&>(Message);
         if (!IsDrawn || Draw.Request()->CtlType != ODT_MENU || !FindItem(Draw.Request()->itemData, fkCommand))
             return false;
-        DrawItem(Draw);
         Message.Result = reinterpret_cast<intptr_t>(static_cast<TForm*>(FHook.Control())->Handle);
+        DrawItem(Draw);
         return true;
     }
     case WM_MEASUREITEM: {
@@ -111,11 +104,12 @@ bool TkelCustomMenu::FormMessage(TMessage& Message)
                                                            static_cast<TWMMenuChar&>(Message).Char()));
         return IsDrawn && Message.Result != 0;
     // The form only knows the menu that is its own.
-    case WM_INITMENUPOPUP:
-        if (!DispatchPopup(reinterpret_cast<HMENU>(Message.WParam)))
-            return false;
-        ModifyItems(Items, FStyle == msStandard);
+    case WM_INITMENUPOPUP: {
+        const TStillThere IsHere(this);
+        if (DispatchPopup(reinterpret_cast<HMENU>(Message.WParam)) && IsHere)
+            ModifyItems(Items, FStyle == msStandard);
         return false;
+    }
     case WM_COMMAND: return Message.LParam == 0 && DispatchCommand(static_cast<uint16_t>(Message.WParamLo()));
     default: return false;
     }
@@ -127,7 +121,7 @@ void TkelCustomMenu::MeasureItem(TWMMeasureItem& Message)
     Request.CtlType = ODT_MENU;
     Request.itemID = 0;
     TMenuItem* Item = FindItem(Request.itemData, fkCommand);
-    TForm* Form = Screen->ActiveForm;
+    const TComponentRef<TForm> Form(Screen->ActiveForm);
     if (!Item || !Form)
         return;
     {
@@ -136,7 +130,8 @@ void TkelCustomMenu::MeasureItem(TWMMeasureItem& Message)
         MeasureWith(Request, [&](int& Width, int& Height) { DoMeasureItem(Item, Width, Height, &Canvas); });
     }
     // The two have shared a device context.
-    Form->Canvas->Refresh();
+    if (Form)
+        Form->Canvas->Refresh();
 }
 
 void TkelCustomMenu::DrawItem(TWMDrawItem& Message)

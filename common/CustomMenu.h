@@ -39,7 +39,6 @@ protected:
     void SetMenuItem(TMenuItem* Item, bool Standard);
 
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
     bool IsMenuBar() const override { return true; }
     unsigned EntryType(const TMenuItem& Item) const override;
 

@@ -1,6 +1,6 @@
 #include "common/OwnerDrawItems.h"
 
-#include "vcl/controls/Control.h"
+#include "vcl/menus/MenuItem.h"
 
 namespace {
 
@@ -123,7 +123,7 @@ TMenuItem* FindAccelerator(TMenuItem* Root, HMENU Menu, uint16_t Char)
         TMenuItem* Item = Root->Items[I];
         if (!Item->Enabled || !Item->Visible)
             continue;
-        if (IsOpen && IsAccel(Char, Item->ShownCaption()))
+        if (IsOpen && Item->AnswersTo(Char))
             return Item;
         if (TMenuItem* Found = FindAccelerator(Item, Menu, Char))
             return Found;

@@ -6,7 +6,7 @@
 
 TPopupTracking& TPopupTracking::Get()
 {
-    // Never destroyed: menus of static life go at any time.
+    // Never destroyed: menus that are static variables may be destroyed after it.
     static TPopupTracking& Tracking = *new TPopupTracking;
     return Tracking;
 }

@@ -20,12 +20,13 @@ void TWindowProcHook::Install(TControl* Control, const THookedWindowProc& Proced
 void TWindowProcHook::Remove()
 {
     // A control whose destructors run is no TControl any more.
-    auto* Control = As<TControl>(FControl);
+    auto* Control = As<TControl>(FControl.Get());
     if (Control && Control->WindowProc == FInstalled)
         Control->WindowProc = FLink->Next;
     Forget();
 }
 
+// The chain of the control stays as it is.
 void TWindowProcHook::Forget()
 {
     if (FLink)

@@ -39,15 +39,7 @@ TkelMDIChildMenuBar::TkelMDIChildMenuBar(TComponent* AOwner) : TkelMenuBar(AOwne
     auto* Form = As<TCustomForm>(AOwner);
     if (!Form || IsDesigning())
         return;
-    Form->FreeNotification(this);
     FHook.Install(Form, {this, &TkelMDIChildMenuBar::FormWndProc});
-}
-
-void TkelMDIChildMenuBar::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FHook.Control())
-        FHook.Forget();
 }
 
 void TkelMDIChildMenuBar::Loaded()
@@ -69,23 +61,14 @@ void TkelMDIChildMenuBar::FormWndProc(TMessage& Message, const TWndMethod& Next)
 {
     auto* Form = As<TCustomForm>(Owner);
     if (Message.Msg == WM_MDIACTIVATE && Form->HandleAllocated() &&
-        reinterpret_cast<HWND>(Message.LParam) == Form->Handle && FirstComponent<TkelMDIChildMenuBar>(Owner) == this)
-        ChildActivated(reinterpret_cast<HWND>(Message.WParam));
-    Next(Message);
-}
-
-void TkelMDIChildMenuBar::ChildActivated(HWND Before)
-{
-    TCustomForm* Parent = ParentForm();
-    for (int I = 0; Before && Parent && I < Parent->MDIChildCount; ++I) {
-        TForm* Child = Parent->MDIChildren[I];
-        if (Child->Handle != Before)
-            continue;
-        if (auto* Bar = FirstComponent<TkelMDIChildMenuBar>(Child))
-            Bar->UnMerge();
-        break;
+        FirstComponent<TkelMDIChildMenuBar>(Owner) == this) {
+        const auto Handle = reinterpret_cast<intptr_t>(Form->Handle);
+        if (Message.LParam == Handle)
+            Merge();
+        else if (static_cast<intptr_t>(Message.WParam) == Handle)
+            UnMerge();
     }
-    Merge();
+    Next(Message);
 }
 
 TCustomForm* TkelMDIChildMenuBar::ParentForm() const
@@ -103,6 +86,16 @@ TkelMenuBar* TkelMDIChildMenuBar::ParentBar() const
 
 void TkelMDIChildMenuBar::Merge()
 {
+    MergeButtons(false);
+}
+
+void TkelMDIChildMenuBar::MergeAll()
+{
+    MergeButtons(true);
+}
+
+void TkelMDIChildMenuBar::MergeButtons(bool All)
+{
     TkelMenuBar* Bar = ParentBar();
     if (!Bar)
         return;
@@ -117,18 +110,23 @@ void TkelMDIChildMenuBar::Merge()
         Bar->CorrectAlign();
         const TDockAxis Along = Bar->Axis();
         Along.SetStart(*Button, Behind == Others.end() ? Along.Length(*Bar) : Along.Start(**Behind) - 1);
-        if (Behind != Others.end())
+        if (Behind != Others.end() && !All)
             break;
     }
     Bar->EnableAlign();
     SortBoth(*Bar);
 }
 
+// Some of the buttons are in the form's bar.
+bool TkelMDIChildMenuBar::IsMergedInto(const TkelMenuBar& Bar) const
+{
+    return std::ranges::any_of(MenuButtons(Bar), [this](const auto* Button) { return Button->Owner == Owner; });
+}
+
 // Some may have been merged before; they come first.
 void TkelMDIChildMenuBar::RememberOrder(const TkelMenuBar& Bar)
 {
-    const auto IsOurs = [this](const TkelMenuButton* Button) { return Button->Owner == Owner; };
-    if (std::ranges::none_of(MenuButtons(Bar), IsOurs))
+    if (!IsMergedInto(Bar))
         FOrder.clear();
     for (const TkelMenuButton* Button : MenuButtons(*this))
         if (std::ranges::find(FOrder, Button) == FOrder.end())
@@ -138,7 +136,7 @@ void TkelMDIChildMenuBar::RememberOrder(const TkelMenuBar& Bar)
 void TkelMDIChildMenuBar::UnMerge()
 {
     TkelMenuBar* Bar = ParentBar();
-    if (!Bar)
+    if (!Bar || !IsMergedInto(*Bar))
         return;
     DisableAlign();
     for (TkelMenuButton* Button : MenuButtons(*Bar))

@@ -21,20 +21,22 @@ public:
 
     // Moves the buttons to the form's bar, each before the first one there whose MenuGroupIndex is greater, or to the
     // end. The first one that comes before another is also the last one that moves; the rest stay, and do not show,
-    // until Merge is called again.
+    // until Merge is called again. Happens when the child becomes active.
     void Merge();
-    // Takes them back.
+    // The same without end: every button moves.
+    void MergeAll();
+    // Takes them back. Happens when another child becomes active, whether that has a bar or not.
     void UnMerge();
 
 protected:
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
 
 private:
     void FormWndProc(TMessage& Message, const TWndMethod& Next);
-    void ChildActivated(HWND Before);
+    void MergeButtons(bool All);
     TCustomForm* ParentForm() const;
     TkelMenuBar* ParentBar() const;
+    bool IsMergedInto(const TkelMenuBar& Bar) const;
     void RememberOrder(const TkelMenuBar& Bar);
     void SortBoth(TkelMenuBar& Bar);
 

@@ -1,8 +1,11 @@
 #include "menus/OfficePopupMenu.h"
 
 #include "menus/CheckMark.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/Control.h"
 #include "vcl/system/ClassBuilder.h"
+
+#include <list>
 
 void TkelOfficePopupMenu::Describe(TClassBuilder<TkelOfficePopupMenu>& Class)
 {
@@ -21,23 +24,14 @@ TkelOfficePopupMenu::TkelOfficePopupMenu(TComponent* AOwner) : TkelCustomPopupMe
 
 void TkelOfficePopupMenu::SetGlyphs(TkelGlyphs* Value)
 {
-    FGlyphs = {.Glyphs = Value};
-    if (Value)
-        Value->FreeNotification(this);
+    FImages = nullptr;
+    FGlyphs = Value;
 }
 
 void TkelOfficePopupMenu::SetImages(TImageList* Value)
 {
-    FGlyphs = {.Images = Value};
-    if (Value)
-        Value->FreeNotification(this);
-}
-
-void TkelOfficePopupMenu::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && (Component == FGlyphs.Glyphs || Component == FGlyphs.Images))
-        FGlyphs = {};
+    FGlyphs = nullptr;
+    FImages = Value;
 }
 
 void TkelOfficePopupMenu::Popup(int X, int Y)
@@ -73,7 +67,7 @@ void TkelOfficePopupMenu::DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned 
     }
     if (!FMark)
         FMark = CheckMark();
-    Painter.DrawItem(FGlyphs, *FMark);
+    Painter.DrawItem({.Glyphs = FGlyphs, .Images = FImages}, *FMark);
 }
 
 void TkelOfficePopupMenu::MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild)
@@ -132,12 +126,12 @@ TMenuItem* FindLeaf(TMenuItem* Parent, uint16_t Key)
 {
     for (int I = 0; I < Parent->Count; ++I) {
         TMenuItem* Item = Parent->Items[I];
-        if (!Item->Enabled)
+        if (!Item->Enabled || !Item->Visible)
             continue;
         if (Item->Count > 0) {
             if (TMenuItem* Found = FindLeaf(Item, Key))
                 return Found;
-        } else if (IsAccel(Key, Item->Caption)) {
+        } else if (Item->AnswersTo(Key)) {
             return Item;
         }
     }
@@ -153,11 +147,17 @@ TMenuItem* TkelOfficePopupMenu::ProcessAccel(uint16_t Key) const
 
 void TkelOfficePopupMenu::CMDialogChar(TWMKey& Message)
 {
-    // A handler may take items away.
+    // A handler may delete items, and the menu.
+    std::list<TComponentRef<TMenuItem>> Wanted;
     for (int I = 0; I < Items->Count; ++I)
-        if (TMenuItem* Item = Items->Items[I]; IsAccel(Message.CharCode, Item->Caption)) {
+        if (TMenuItem* Item = Items->Items[I]; Item->AnswersTo(Message.CharCode))
+            Wanted.emplace_back(Item);
+    const TStillThere IsHere(this);
+    for (const TComponentRef<TMenuItem>& Item : Wanted)
+        if (Item) {
             Item->Click();
             Message.Result = 1;
         }
-    Inherited(Message);
+    if (IsHere)
+        Inherited(Message);
 }

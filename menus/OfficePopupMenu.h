@@ -2,11 +2,15 @@
 //
 // An item with a Tag of N above 0 shows cell N - 1 of Glyphs or image N - 1 of Images. A checked item shows a check
 // mark in a sunken box, or its glyph there when RadioItem is set. An item whose caption begins with "-" is a separator,
-// and what follows is its title. OnMeasureItem and OnDrawItem are not raised.
+// and what follows is its title.
+//
+// OnMeasureItem, OnDrawItem and OnPopup are not raised. What is to be done before the menu opens is done in the OnClick
+// of the button that opens it.
 #pragma once
 
 #include "common/CustomPopupMenu.h"
 #include "menus/OfficeItemPainter.h"
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/Messages.h"
 
 #include <memory>
@@ -25,18 +29,18 @@ public:
     PROPERTY(TkelMenuBanner*, Banner);
     // Where glyphs come from: a strip or a list, somebody else's, and cleared when it is deleted. Setting one clears
     // the other.
-    TkelGlyphs* GetGlyphs() const { return FGlyphs.Glyphs; }
+    TkelGlyphs* GetGlyphs() const { return FGlyphs; }
     void SetGlyphs(TkelGlyphs* Value);
     PROPERTY(TkelGlyphs*, Glyphs);
-    TImageList* GetImages() const { return FGlyphs.Images; }
+    TImageList* GetImages() const { return FImages; }
     void SetImages(TImageList* Value);
     PROPERTY(TImageList*, Images);
     // For the designer's glyph editor; means nothing while the program runs.
     int GlyphsEdit = 0;
 
     void Popup(int X, int Y) override;
-    // The first enabled item without items of its own that has this accelerator, searched depth first through enabled
-    // items. nullptr when there is none, and in the designer.
+    // The first item without items of its own that has this accelerator, searched depth first through items that are
+    // enabled and visible. nullptr when there is none, and in the designer.
     using TkelCustomPopupMenu::ProcessAccel;
     TMenuItem* ProcessAccel(uint16_t Key) const;
 
@@ -46,7 +50,6 @@ protected:
     bool IsSeparator(const TMenuItem& Item) const override { return IsOfficeSeparator(Item); }
 
     void Loaded() override { inherited::Loaded(); }
-    void Notification(TComponent* Component, TOperation Operation) override;
     void MenuChanged(TObject* Sender, TMenuItem* Source, bool Rebuild) override;
 
 private:
@@ -62,7 +65,8 @@ private:
     static std::vector<unsigned> ShownCommands(TMenuItem* Parent);
 
     TkelMenuBanner FBanner;
-    TOfficeGlyphs FGlyphs;
+    TComponentRef<TkelGlyphs> FGlyphs;
+    TComponentRef<TImageList> FImages;
     std::shared_ptr<TMaskedImage> FMark; // from the first item that is drawn
     // By command. The system may measure an item once only, so this outlasts the menu's display.
     std::unordered_map<unsigned, int> FHeights;

@@ -1,6 +1,7 @@
 // Main menus whose items the application draws, shown on a form.
 #include "tests/common/OwnerDrawMenuFixture.h"
 #include "tests/support/FormText.h"
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/stdctrls/ListBox.h"
 #include "vcl/system/ClassDescription.h"
 #include "vcl/system/LiveCount.h"
@@ -152,6 +153,30 @@ TEST_F(CustomMenuTest, RequestsOfControlsAndOfUnknownItemsGoOn)
     EXPECT_EQ(Measure(Stranger.get()).itemHeight, 0u);
     EXPECT_EQ(Draw(Stranger.get()), 0);
     EXPECT_TRUE(Drawn.empty());
+}
+
+TEST_F(CustomMenuTest, TheMenuMayGoInItsEvents)
+{
+    SetMenu(Form->Handle, nullptr);
+    for (int I = 0; I < 3; ++I) {
+        auto* Fresh = new TkelMenu(Form.get());
+        TMenuItem* Sub = AddItem(Fresh->Items, "&Sub");
+        Sub->Name = "Sub";
+        TMenuItem* Item = AddItem(Sub, "&Item");
+        Fresh->Style = msOwnerDraw;
+        const TComponentRef<TkelMenu> There(Fresh);
+        Fresh->OnMeasureItem = [&](TMenuItem*, int&, int&, TCanvas*) { delete There.Get(); };
+        Fresh->OnDrawItem = [&](TMenuItem*, TCanvas*, int, const TRect&) { delete There.Get(); };
+        Sub->OnClick = [&](TObject*) { delete There.Get(); };
+        if (I == 0)
+            Measure(Item);
+        else if (I == 1)
+            EXPECT_EQ(Draw(Item), reinterpret_cast<LRESULT>(Form->Handle));
+        else
+            SendMessageW(Form->Handle, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(Sub->Handle), 0);
+        EXPECT_EQ(There.Get(), nullptr) << I;
+        delete There.Get();
+    }
 }
 
 TEST_F(CustomMenuTest, TheStyleOfTheMenuMadeLastDecides)

@@ -165,11 +165,76 @@ TEST_F(MDIChildMenuBarTest, OnTheWayOutAnythingMayGoFirst)
     TMdiChild* Second = NewChild();
     delete First->Bar();
     Activate(First);
-    EXPECT_EQ(Second->Edit()->Parent, Bar) << "nobody has taken it back";
+    EXPECT_EQ(Second->Edit()->Parent, Second->Bar());
     delete Second->Edit();
     EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&View", "&Help"));
     Activate(Second);
     delete Main->FindComponent("Dock");
     Bar = nullptr;
     Activate(First);
+}
+
+// ---- children without menus
+
+class MDIChildWithoutBarTest : public MdiMenuFixture {
+protected:
+    TForm* NewPlainChild()
+    {
+        auto* Child = new TForm(Main, 0);
+        Child->FormStyle = fsMDIChild;
+        PumpMessages();
+        return Child;
+    }
+};
+
+TEST_F(MDIChildWithoutBarTest, AChildWithoutABarTakesTheOthersButtonsAway)
+{
+    TMdiChild* Child = NewChild();
+    TForm* Plain = NewPlainChild();
+    ASSERT_EQ(Main->ActiveMDIChild, Plain);
+    EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&View", "&Help"));
+    EXPECT_THAT(InOrder(Child->Bar()), ElementsAre("&Edit", "&Text"));
+    TypeKey(VK_F6, {ssCtrl});
+    ASSERT_EQ(Main->ActiveMDIChild, Child);
+    EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&Edit", "&View", "&Help"));
+    TypeKey(VK_F6, {ssCtrl});
+    EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&View", "&Help"));
+}
+
+TEST_F(MDIChildWithoutBarTest, ComingBackTheSameButtonsMerge)
+{
+    TMdiChild* Child = NewChild({.EditGroup = 1, .TextGroup = 1});
+    TForm* Plain = NewPlainChild();
+    for (int I = 0; I < 3; ++I) {
+        Activate(Child);
+        EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&Edit", "&View", "&Help"));
+        EXPECT_THAT(Shown(Child->Bar()), ElementsAre("&Text"));
+        Activate(Plain);
+        EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&View", "&Help"));
+    }
+}
+
+TEST_F(MDIChildWithoutBarTest, MergeAllMergesEveryButton)
+{
+    TMdiChild* Child = NewChild({.EditGroup = 1, .TextGroup = 2});
+    Child->OnActivate = [=](TObject*) { Child->Bar()->MergeAll(); };
+    TForm* Plain = NewPlainChild();
+    for (int I = 0; I < 2; ++I) {
+        Activate(Child);
+        EXPECT_THAT(Shown(Bar), ElementsAre("&File", "&Edit", "&Text", "&View", "&Help"));
+        EXPECT_THAT(InOrder(Bar), ElementsAre("&File", "&Edit", "&Text", "&View", "&Help"));
+        EXPECT_THAT(Shown(Child->Bar()), ElementsAre());
+        Activate(Plain);
+        EXPECT_THAT(InOrder(Child->Bar()), ElementsAre("&Edit", "&Text"));
+    }
+}
+
+TEST_F(MDIChildWithoutBarTest, AHiddenButtonOfTheChildHasNoLetter)
+{
+    TMdiChild* Child = NewChild({.EditGroup = 1, .TextGroup = 1});
+    ASSERT_EQ(Child->Text()->Parent, Child->Bar()) << "it does not show";
+    Script.When([] { return TWhileMenuOpen::IsOpen(); }, Type(VK_ESCAPE));
+    TypeKey('T', {ssAlt});
+    PumpMessages();
+    EXPECT_EQ(Script.StepsDone(), 0u);
 }

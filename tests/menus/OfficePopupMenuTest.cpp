@@ -203,6 +203,63 @@ TEST_F(OfficePopupMenuTest, ADialogCharClicksEveryItemWithThatAccelerator)
     EXPECT_EQ(Clicked.size(), 2u);
 }
 
+TEST_F(OfficePopupMenuTest, HiddenItemsAndTitlesHaveNoLetter)
+{
+    Menu->AutoHotkeys = maManual;
+    std::vector<AnsiString> Clicked;
+    TMenuItem* Hidden = AddItem("&Send");
+    TMenuItem* Title = AddItem("-&Sorting");
+    TMenuItem* Below = AddItem("&Mail");
+    Below->Add(NewItem("&Spam", scNone, false, true, nullptr, 0, "", Menu.get()));
+    TMenuItem* Shown = AddItem("A&s");
+    for (TMenuItem* Item : {Hidden, Title, Shown})
+        Item->OnClick = [&](TObject* Sender) { Clicked.push_back(As<TMenuItem>(Sender)->Caption); };
+    Hidden->Visible = false;
+    Below->Visible = false;
+    EXPECT_EQ(Menu->ProcessAccel('s'), Shown);
+    TWMMenuChar Char;
+    Char.Msg = WM_MENUCHAR;
+    Char.WParam = 's';
+    Char.LParam = reinterpret_cast<intptr_t>(Menu->Handle);
+    EXPECT_EQ(static_cast<TkelCustomPopupMenu&>(*Menu).ProcessAccel(Char), Shown->MenuIndex);
+    EXPECT_TRUE(Menu->DispatchDrawing(Char));
+    EXPECT_EQ(Char.Result, MAKELRESULT(1, MNC_EXECUTE)) << "the second that shows, alone with the letter";
+    TWMKey Message;
+    Message.Msg = CM_DIALOGCHAR;
+    Message.CharCode = 's';
+    Menu->Dispatch(Message);
+    EXPECT_THAT(Clicked, ElementsAre("A&s"));
+}
+
+TEST_F(OfficePopupMenuTest, ADialogCharSurvivesHandlersThatDeleteItemsOrTheMenu)
+{
+    Menu->AutoHotkeys = maManual;
+    std::vector<AnsiString> Clicked;
+    const auto Note = [&](TObject* Sender) { Clicked.push_back(As<TMenuItem>(Sender)->Caption); };
+    TMenuItem* First = AddItem("&S1");
+    TMenuItem* Second = AddItem("&S2");
+    for (const char* Caption : {"&S3", "&S4"})
+        AddItem(Caption)->OnClick = Note;
+    First->OnClick = [&](TObject* Sender) {
+        Note(Sender);
+        delete First;
+        delete Second;
+    };
+    TWMKey Message;
+    Message.Msg = CM_DIALOGCHAR;
+    Message.CharCode = 's';
+    Menu->Dispatch(Message);
+    EXPECT_THAT(Clicked, ElementsAre("&S1", "&S3", "&S4"));
+    Clicked.clear();
+    Menu->Items->Items[0]->OnClick = [&](TObject* Sender) {
+        Note(Sender);
+        Menu.reset();
+    };
+    Menu->Dispatch(Message);
+    EXPECT_THAT(Clicked, ElementsAre("&S3"));
+    EXPECT_EQ(Message.Result, 1);
+}
+
 TEST_F(OfficePopupMenuTest, TitlesOfSeparatorsGetNoAcceleratorOfTheirOwn)
 {
     TMenuItem* Title = AddItem("-Edit");
