@@ -16,12 +16,12 @@ public:
 
 protected:
     void DoClose(TCloseAction& Action) override;
+    void Activate() override;
     void Say(const AnsiString& Text) { OnMessage(Text); }
     void StateChanged() { OnStateChange(this); }
 
 private:
     friend class TClassBuilder<TChildForm>;
 
-    void WMMDIActivate(TMessage& Message);
     void WMSize(TWMSize& Message);
 };

@@ -2,6 +2,7 @@
 
 #include "common/Panel.h"
 #include "toolbar/TBDragBox.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/forms/Form.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -112,13 +113,13 @@ void TkelMenuBar::Loaded()
 // The icon and the grip come first, the three buttons last, in their order.
 void TkelMenuBar::PlaceParts()
 {
-    const TDockAxis Axis(DragBox->Align == alTop ? alLeft : alTop); // of the dock that the grip is turned for
+    const TDockAxis Along = Axis();
     DisableAlign();
-    Axis.SetStart(*FIconPanel, 0);
-    Axis.SetStart(*DragBox, -1);
-    int Place = Axis.Length(*this);
+    Along.SetStart(*FIconPanel, 0);
+    Along.SetStart(*DragBox, -1);
+    int Place = Along.Length(*this);
     for (TkelSpeedButton* Button : {FMinimize, FRestore, FClose})
-        Axis.SetStart(*Button, Place += ButtonWidth);
+        Along.SetStart(*Button, Place += ButtonWidth);
     EnableAlign();
 }
 
@@ -161,7 +162,7 @@ void TkelMenuBar::ShowChild(TForm* Child)
     FShownChild = Child;
     FIcon->Icon = Child->Icon;
     if (Child->Icon->Empty)
-        FIcon->Icon->Handle = CopyIcon(LoadIconW(nullptr, IDI_APPLICATION));
+        FIcon->Icon->Handle = CopyIcon(Child->GetIconHandle());
     DisableAlign();
     for (TControl* Part : {static_cast<TControl*>(FIconPanel), static_cast<TControl*>(FMinimize),
                            static_cast<TControl*>(FRestore), static_cast<TControl*>(FClose)})
@@ -182,26 +183,35 @@ void TkelMenuBar::HideChild()
 
 void TkelMenuBar::DoMin(TObject*)
 {
-    if (TForm* Child = ActiveChild()) {
-        Child->WindowState = wsMinimized;
+    const TStillThere IsHere(this);
+    TForm* Child = ActiveChild();
+    if (!Child)
+        return;
+    Child->WindowState = wsMinimized;
+    if (IsHere)
         HideChild();
-    }
 }
 
 void TkelMenuBar::DoMax(TObject*)
 {
-    if (TForm* Child = ActiveChild()) {
-        Child->WindowState = wsNormal;
+    const TStillThere IsHere(this);
+    TForm* Child = ActiveChild();
+    if (!Child)
+        return;
+    Child->WindowState = wsNormal;
+    if (IsHere)
         HideChild();
-    }
 }
 
 void TkelMenuBar::DoClose(TObject*)
 {
-    if (TForm* Child = ActiveChild()) {
-        Child->Close();
+    const TStillThere IsHere(this);
+    TForm* Child = ActiveChild();
+    if (!Child)
+        return;
+    Child->Close();
+    if (IsHere)
         HideChild();
-    }
 }
 
 void TkelMenuBar::DoSysMenu(TObject*)

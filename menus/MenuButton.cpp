@@ -4,6 +4,7 @@
 #include "menus/TurnedPicture.h"
 #include "toolbar/ButtonContent.h"
 #include "toolbar/RandomGroup.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/graphics/Canvas.h"
 #include "vcl/graphics/SolidFill.h"
@@ -36,20 +37,6 @@ TkelMenuButton::~TkelMenuButton()
     TMenuTracking::Get().Remove(this);
 }
 
-void TkelMenuButton::SetMenu(TPopupMenu* Value)
-{
-    FMenu = Value;
-    if (Value)
-        Value->FreeNotification(this);
-}
-
-void TkelMenuButton::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FMenu)
-        FMenu = nullptr;
-}
-
 void TkelMenuButton::SetHot(bool Value)
 {
     if (FHot == Value)
@@ -62,11 +49,6 @@ TPoint TkelMenuButton::DropPoint() const
 {
     const bool InRow = Align == alLeft || Align == alRight;
     return ClientToScreen(InRow ? TPoint(0, Height) : TPoint(Width, 0));
-}
-
-bool TkelMenuButton::IsOnScreen() const
-{
-    return Visible && Parent && Parent->HandleAllocated() && IsWindowVisible(Parent->Handle);
 }
 
 void TkelMenuButton::Click()
@@ -84,7 +66,10 @@ void TkelMenuButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, in
         inherited::MouseDown(Button, Shift, X, Y);
         return;
     }
+    const TStillThere IsHere(this);
     TGraphicControl::MouseDown(Button, Shift, X, Y);
+    if (!IsHere)
+        return;
     MouseCapture = false;
     if (Enabled)
         Click();
@@ -96,7 +81,7 @@ void TkelMenuButton::CMDialogChar(TCMDialogChar& Message)
         Inherited(Message);
         return;
     }
-    if (!Enabled || !IsAccel(Message.CharCode, Caption))
+    if (!Enabled || !IsOnScreen() || !IsAccel(Message.CharCode, Caption))
         return;
     Click();
     Message.Result = 1;

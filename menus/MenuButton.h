@@ -14,7 +14,7 @@ public:
 
     // Somebody else's; cleared when it is deleted. Accelerators work in a TkelOfficePopupMenu only.
     TPopupMenu* GetMenu() const { return FMenu; }
-    void SetMenu(TPopupMenu* Value);
+    void SetMenu(TPopupMenu* Value) { FMenu = Value; }
     PROPERTY(TPopupMenu*, Menu);
     // Where the button comes to lie when menu bars are merged.
     int MenuGroupIndex = 0;
@@ -30,21 +30,17 @@ public:
     // Where the menu opens, on the screen: below the button, or beside one that stands in a vertical bar.
     TPoint DropPoint() const;
 
-    // With its bar, which may lie in a dock that is hidden.
-    bool IsOnScreen() const;
-
     int AccessibleRole() const override;
 
 protected:
     void Paint() override;
     void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
-    void Notification(TComponent* Component, TOperation Operation) override;
 
 private:
     void CMDialogChar(TCMDialogChar& Message);
     bool StandsOnEnd() const;
     void DrawStandingCaption(HDC Context);
 
-    TPopupMenu* FMenu = nullptr;
+    TComponentRef<TPopupMenu> FMenu;
     bool FHot = false;
 };

@@ -2,6 +2,7 @@
 
 #include "menus/MenuTracking.h"
 #include "vcl/graphics/Handle.h"
+#include "vcl/system/Guard.h"
 #include "vcl/system/Scope.h"
 
 namespace {
@@ -9,6 +10,7 @@ namespace {
 using THook = TOwnedHandle<HHOOK, UnhookWindowsHookEx>;
 THook MouseHook;
 THook KeyboardHook;
+THook ActivationHook;
 
 // The loop of a menu looks at a key before it takes it, and the hook is called for both. What was decided first holds.
 struct TDecision {
@@ -36,7 +38,7 @@ LRESULT CALLBACK MouseProc(int Code, WPARAM WParam, LPARAM LParam)
 {
     const LRESULT Result = CallNextHookEx(MouseHook.Get(), Code, WParam, LParam);
     if (Code >= 0)
-        MenuButtonsSeeMouse(WParam, LParam);
+        Guarded(&TMenuTracking::Get(), [&] { MenuButtonsSeeMouse(WParam, LParam); });
     return Result;
 }
 
@@ -46,10 +48,22 @@ LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
     if (Code < 0)
         return Result;
     const bool Again = Decision.Pending && Decision.Key == WParam && Decision.Data == LParam;
-    if (!Again)
-        Decision = {WParam, LParam, TMenuTracking::Get().Key(static_cast<uint16_t>(WParam), LParam), true};
+    if (!Again) {
+        Decision = {WParam, LParam};
+        TMenuTracking& Tracking = TMenuTracking::Get();
+        // A key that something has failed at is not for others.
+        if (!Guarded(&Tracking, [&] { Decision.Used = Tracking.Key(static_cast<uint16_t>(WParam), LParam); }))
+            Decision.Used = true;
+    }
     Decision.Pending = Code == HC_NOREMOVE;
     return Decision.Used ? 1 : Result;
+}
+
+LRESULT CALLBACK ActivationProc(int Code, WPARAM WParam, LPARAM LParam)
+{
+    if (Code == HCBT_ACTIVATE)
+        Guarded(&TMenuTracking::Get(), [] { TMenuTracking::Get().OtherWindowActivated(); });
+    return CallNextHookEx(ActivationHook.Get(), Code, WParam, LParam);
 }
 
 } // namespace
@@ -79,4 +93,9 @@ void RemoveMenuHooks()
     MouseHook.Reset();
     KeyboardHook.Reset();
     Decision = {};
+}
+
+void WatchActivation(bool Watch)
+{
+    ActivationHook.Reset(Watch ? SetWindowsHookExW(WH_CBT, &ActivationProc, nullptr, GetCurrentThreadId()) : nullptr);
 }

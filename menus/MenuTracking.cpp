@@ -6,12 +6,14 @@
 #include "menus/MenuHooks.h"
 #include "toolbar/DropDown.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/system/Guard.h"
+#include "vcl/system/Scope.h"
 
 #include <algorithm>
 
 TMenuTracking& TMenuTracking::Get()
 {
-    // Never destroyed: buttons of static life leave it at any time.
+    // Never destroyed: buttons that are static variables may be destroyed after it.
     static TMenuTracking& Tracking = *new TMenuTracking;
     return Tracking;
 }
@@ -36,6 +38,8 @@ void TMenuTracking::Remove(TkelMenuButton* Button)
         FNext = nullptr;
     if (FCurrent == Button) {
         FCurrent = nullptr;
+        FOpensNext = false;
+        WatchActivation(false);
         CloseMenu();
     }
     if (FReference == Button)
@@ -53,7 +57,7 @@ std::vector<TkelMenuButton*> TMenuTracking::Neighbours(const TkelMenuButton* But
     std::vector<TkelMenuButton*> Found;
     const TWinControl* Bar = Button ? Button->Parent : nullptr;
     for (int I = 0; Bar && I < Bar->ControlCount; ++I)
-        if (auto* Each = As<TkelMenuButton>(Bar->Controls[I]); Each && Each->Visible && Each->Enabled)
+        if (auto* Each = As<TkelMenuButton>(Bar->Controls[I]); Each && Each->IsOnScreen() && Each->Enabled)
             Found.push_back(Each);
     std::ranges::sort(Found, [](const TkelMenuButton* A, const TkelMenuButton* B) {
         return A->Top != B->Top ? A->Top < B->Top : A->Left < B->Left;
@@ -66,6 +70,8 @@ void TMenuTracking::SetCurrent(TkelMenuButton* Button)
     TkelMenuButton* Before = std::exchange(FCurrent, Button);
     if (Before == Button)
         return;
+    if (!Before || !Button)
+        WatchActivation(Button != nullptr);
     if (Before)
         Before->Hot = false;
     if (FCurrent) {
@@ -77,6 +83,7 @@ void TMenuTracking::SetCurrent(TkelMenuButton* Button)
 void TMenuTracking::Leave()
 {
     FNext = nullptr;
+    FOpensNext = false;
     CloseMenu();
     if (!FTracking)
         SetCurrent(nullptr);
@@ -93,41 +100,48 @@ void TMenuTracking::Click(TkelMenuButton* Button)
             GoOnTo(Button);
         return;
     }
+    bool HasShown = std::exchange(FOpensNext, false); // a menu, before this one
+    bool Stays = false;
+    const TScopeExit AtEnd([&] {
+        FTracking = false;
+        FOpensNext = Stays;
+        if (!Stays)
+            Guarded(this, [this] { Leave(); }); // painting may fail
+    });
     FTracking = true;
     FNext = Button;
-    try {
-        while (FNext) {
-            SetCurrent(std::exchange(FNext, nullptr));
-            ShowMenu();
-        }
-    } catch (...) {
-        FTracking = false;
-        Leave();
-        throw;
+    while (FNext) {
+        Stays = false;
+        SetCurrent(std::exchange(FNext, nullptr));
+        const bool Shown = ShowMenu();
+        Stays = HasShown && !Shown && FCurrent;
+        HasShown |= Shown;
     }
-    FTracking = false;
-    Leave();
 }
 
-// The button, its menu or its form may be gone after OnClick, and when the menu closes.
-void TMenuTracking::ShowMenu()
+// False when the button has nothing to show. OnClick of a button without a menu is a command, and not raised here. The
+// button, its menu or its form may be gone after OnClick, and when the menu closes.
+bool TMenuTracking::ShowMenu()
 {
+    if (!FCurrent->Menu)
+        return false;
     FCurrent->TkelSpeedButton::Click();
     TPopupMenu* Menu = FCurrent ? FCurrent->Menu : nullptr;
-    if (!Menu)
-        return;
+    if (!Menu || !HasPlaceOnScreen(FCurrent))
+        return false;
     FSelectedMenu = nullptr;
     FOnSubMenu = false;
     GetCursorPos(&FPointer);
+    const TRaiseAtEnd ComesUp(FCurrent);
     FCurrent->Down = true;
     Menu->PopupComponent = FCurrent;
     const TPoint Place = FCurrent->DropPoint();
     Menu->Popup(Place.X, Place.Y);
     if (!FCurrent)
-        return;
+        return true;
     if (!FNext)
         DropPressOn(FCurrent);
-    FCurrent->Down = false;
+    return !FCurrent->Menu || GetMenuItemCount(FCurrent->Menu->Handle) > 0;
 }
 
 void TMenuTracking::CloseMenu()
@@ -139,8 +153,14 @@ void TMenuTracking::CloseMenu()
 // When the menu that is open has closed, the next one opens.
 void TMenuTracking::GoOnTo(TkelMenuButton* Button)
 {
-    FNext = Button;
-    CloseMenu();
+    if (FTracking) {
+        FNext = Button;
+        CloseMenu();
+        return;
+    }
+    SetCurrent(Button);
+    if (FOpensNext && Button->Menu)
+        OpenLater();
 }
 
 // By a message, as a hook must return before a menu can be shown.
@@ -154,8 +174,11 @@ bool TMenuTracking::WindowMessage(TMessage& Message)
 {
     if (Message.Msg == OpenCurrent) {
         TkelMenuButton* Button = std::exchange(FToOpen, nullptr);
-        if (Button && Button == FCurrent)
-            Button->Click();
+        if (!Button || Button != FCurrent)
+            return true;
+        if (!Button->Menu)
+            Leave();
+        Button->Click();
         return true;
     }
     if (Message.Msg == OpenLetter) {
@@ -190,12 +213,13 @@ void TMenuTracking::SubMenuCloses(uintptr_t Handle)
 // When a menu opens or closes the system tells of a move that was none: a menu opened by a key would go at once.
 void TMenuTracking::PointerMoved(const TPoint& Screen)
 {
-    if (!FTracking || !FCurrent || FNext || Screen == FPointer)
+    const bool Follows = FTracking || FOpensNext;
+    if (!Follows || !FCurrent || FNext || Screen == FPointer)
         return;
     FPointer = Screen;
     TCustomForm* Form = MenuFormOf(*FCurrent);
     for (TkelMenuButton* Button : FButtons) {
-        if (Button == FCurrent || !Button->Menu || !Button->Enabled || !IsAmongMenusOf(Form, *Button))
+        if (Button == FCurrent || !Button->Enabled || !IsAmongMenusOf(Form, *Button))
             continue;
         if (Button->IsOnScreen() && PointInRect(Button->ScreenToClient(Screen), Button->ClientRect)) {
             GoOnTo(Button);
@@ -206,6 +230,13 @@ void TMenuTracking::PointerMoved(const TPoint& Screen)
 
 // A press anywhere ends the keyboard mode, as it does in the system's menu bars. An open menu sees to itself.
 void TMenuTracking::ButtonPressed()
+{
+    if (FCurrent && !FTracking)
+        Leave();
+}
+
+// A menu that is open keeps the activation of its window; a window that its items open comes when it has closed.
+void TMenuTracking::OtherWindowActivated()
 {
     if (FCurrent && !FTracking)
         Leave();

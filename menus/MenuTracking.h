@@ -1,9 +1,10 @@
 // TMenuTracking: how the user goes through the menus of the menu buttons, with the mouse and with the keyboard. There
 // is one for the whole program.
 //
-// It is idle, in keyboard mode (a button is highlighted and no menu is open), or a menu is open. While there are menu
-// buttons, hooks see the mouse and the keyboard of the user-interface thread; what they decide is done by a message,
-// when the hook has returned.
+// It is idle, in keyboard mode (a button is highlighted and no menu is open), or a menu is open. When the user goes
+// from an open menu to a button that has nothing to show, that button is highlighted as in keyboard mode, and the next
+// one that the pointer or an arrow key comes to opens its menu. While there are menu buttons, hooks see the mouse and
+// the keyboard of the user-interface thread; what they decide is done by a message, when the hook has returned.
 #pragma once
 
 #include "vcl/graphics/Types.h"
@@ -33,6 +34,8 @@ public:
     // For the hooks. The pointer has moved to a place on the screen, or a button of the mouse is pressed.
     void PointerMoved(const TPoint& Screen);
     void ButtonPressed();
+    // Another window of the program is about to be the active one.
+    void OtherWindowActivated();
     // True when the key, as a keyboard hook is told of it, is used up.
     bool Key(uint16_t VirtualKey, intptr_t KeyData);
 
@@ -45,7 +48,7 @@ private:
     void SubMenuCloses(uintptr_t Handle);
     void OpenLater();
 
-    void ShowMenu();
+    bool ShowMenu();
     void CloseMenu();
     void GoOnTo(TkelMenuButton* Button);
     void SetCurrent(TkelMenuButton* Button);
@@ -72,6 +75,7 @@ private:
     HMENU FSelectedMenu = nullptr;     // where the open menu's selection is
     bool FOnSubMenu = false;           // it is an item with a submenu
     bool FTracking = false;
-    bool FAltAlone = false; // Alt is down, and nothing else has happened since
-    bool FAltUsed = false;  // Alt is down, and has opened a menu together with a letter
+    bool FOpensNext = false; // no menu is open, but was: the next button opens its own
+    bool FAltAlone = false;  // Alt is down, and nothing else has happened since
+    bool FAltUsed = false;   // Alt is down, and has opened a menu together with a letter
 };

@@ -1,4 +1,5 @@
 // The keyboard in menu bars.
+#include "menus/MenuBar.h"
 #include "menus/MenuButton.h"
 #include "menus/MenuForms.h"
 #include "menus/MenuTracking.h"
@@ -8,6 +9,7 @@
 #include "vcl/forms/Screen.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace {
 
@@ -19,7 +21,7 @@ constexpr intptr_t AltHeld = intptr_t{1} << 29;
 // The character of a key on the user's keyboard layout, without the modifiers; 0 when it has none.
 uint16_t CharOf(uint16_t VirtualKey)
 {
-    constexpr UINT KeepState = 4; // of the dead key that may be waiting for its letter
+    constexpr UINT KeepState = 4; // of a dead key that waits for its letter; ignored before Windows 10 1607
     const HKL Layout = GetKeyboardLayout(0);
     const BYTE NoneHeld[256] = {};
     wchar_t Char[8] = {};
@@ -52,17 +54,22 @@ TMenuItem* FindShortCut(TShortCut ShortCut)
 
 } // namespace
 
-// Where the keyboard begins in the active form: the reference button if it is there, else the youngest that is.
+// A button of the bar where the keyboard begins: in a menu bar of the active form, or of the child that is active in
+// it, or elsewhere when there is none. The reference button is taken if it is there, else the youngest that is.
 TkelMenuButton* TMenuTracking::Start() const
 {
     TCustomForm* Form = ActiveMenuForm();
-    const auto CanStart = [Form](const TkelMenuButton* Button) {
-        return Button && Button->IsOnScreen() && IsAmongMenusOf(Form, *Button);
+    const auto Rank = [Form](const TkelMenuButton* Button) {
+        if (!Button || !Button->IsOnScreen() || !IsAmongMenusOf(Form, *Button))
+            return 0;
+        const auto* Bar = As<TkelMenuBar>(Button->Parent);
+        return !Bar ? 1 : Bar->Owner == Form ? 3 : 2;
     };
-    if (CanStart(FReference))
-        return FReference;
-    const auto Found = std::find_if(FButtons.rbegin(), FButtons.rend(), CanStart);
-    return Found == FButtons.rend() ? nullptr : *Found;
+    TkelMenuButton* Best = FReference;
+    for (TkelMenuButton* Button : FButtons | std::views::reverse)
+        if (Rank(Button) > Rank(Best))
+            Best = Button;
+    return Rank(Best) > 0 ? Best : nullptr;
 }
 
 TkelMenuButton* TMenuTracking::FindByLetter(const TkelMenuButton* Bar, uint16_t Char) const
@@ -140,10 +147,10 @@ bool TMenuTracking::PressKey(uint16_t VirtualKey, intptr_t KeyData)
     }
     if (IsHeld(VK_CONTROL))
         return false;
-    const uint16_t Char = CharOf(VirtualKey);
+    // The character is asked for only when it matters: older systems forget a dead key that waits for its letter.
     if (FCurrent)
-        return Accelerator(Char);
-    return (KeyData & AltHeld) && LetterElsewhere(Char, KeyData);
+        return Accelerator(CharOf(VirtualKey));
+    return (KeyData & AltHeld) && LetterElsewhere(CharOf(VirtualKey), KeyData);
 }
 
 // Into a submenu and out of it the arrows belong to the menu.
@@ -162,10 +169,7 @@ bool TMenuTracking::Step(int Direction)
         return false;
     const auto Count = static_cast<ptrdiff_t>(Buttons.size());
     TkelMenuButton* Next = Buttons[static_cast<size_t>((Place - Buttons.begin() + Direction + Count) % Count)];
-    if (FTracking)
-        GoOnTo(Next);
-    else
-        SetCurrent(Next);
+    GoOnTo(Next);
     return true;
 }
 

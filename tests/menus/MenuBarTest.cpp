@@ -5,6 +5,7 @@
 #include "tests/menus/MenuScript.h"
 #include "toolbar/Tsy_toolbar.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 #include <gmock/gmock.h>
 
@@ -312,4 +313,60 @@ TEST_F(MenuBarTest, ANewBarIsCalledByItsClass)
     auto* Another = new TkelMenuBar(Main);
     EXPECT_EQ(Another->Caption, "TkelMenuBar" + std::to_string(Main->ComponentCount));
     EXPECT_FALSE(Another->ShowCaption) << "it is for the frame when the bar floats";
+}
+
+TEST_F(MenuBarTest, AChildWithoutAnIconShowsTheApplications)
+{
+    const auto Pixels = [](HICON Icon) {
+        TPixelImage Image(16, 16);
+        DrawIconEx(Image.DC(), 0, 0, Icon, 16, 16, 0, nullptr, DI_NORMAL);
+        return Image;
+    };
+    const auto Restore = [Before = CopyIcon(Application->Icon->Handle)] { Application->Icon->Handle = Before; };
+    const TScopeExit AtEnd(Restore);
+    Application->Icon->Handle = CopyIcon(LoadIconW(nullptr, IDI_WARNING));
+    auto* Child = As<TForm>(MaximizedChild());
+    ASSERT_TRUE(PumpUntil([&] { return ShowsChild(); }));
+    EXPECT_TRUE(SamePixels(Pixels(Bar->ChildIcon()->Icon->Handle), Pixels(Application->Icon->Handle)));
+    EXPECT_TRUE(SamePixels(Pixels(Bar->ChildIcon()->Icon->Handle), Pixels(Child->GetIconHandle())));
+    Child->Close();
+    ASSERT_TRUE(PumpUntil([&] { return !ShowsChild(); }));
+    MaximizedChild()->Icon->Handle = CopyIcon(LoadIconW(nullptr, IDI_QUESTION));
+    ASSERT_TRUE(PumpUntil([&] { return ShowsChild(); }));
+    EXPECT_TRUE(SamePixels(Pixels(Bar->ChildIcon()->Icon->Handle), Pixels(LoadIconW(nullptr, IDI_QUESTION))));
+}
+
+TEST_F(MenuBarTest, AFloatingBarShowsAChildThatIsMaximized)
+{
+    const auto ExpectInARow = [&] {
+        ASSERT_TRUE(PumpUntil([&] { return ShowsChild(); }));
+        EXPECT_LT(Bar->IconPanel()->Left, Bar->MinimizeButton()->Left);
+        EXPECT_LT(Bar->MinimizeButton()->Left, Bar->RestoreButton()->Left);
+        EXPECT_LT(Bar->RestoreButton()->Left, Bar->CloseButtonOfChild()->Left);
+        EXPECT_EQ(Bar->MinimizeButton()->Top, Bar->CloseButtonOfChild()->Top);
+    };
+    for (TkelDock* From : {Main->Dock, Main->Side}) {
+        Bar->DeleteFromDock();
+        Bar->Parent = From;
+        Bar->InsertToDock();
+        PumpMessages();
+        Bar->FloatToPos(200, 300);
+        ASSERT_TRUE(Bar->Floating);
+        auto* Child = MaximizedChild();
+        ExpectInARow();
+        Child->Close();
+        ASSERT_TRUE(PumpUntil([&] { return Main->MDIChildCount == 0 && !ShowsChild(); }));
+    }
+}
+
+TEST_F(MenuBarTest, TheChildMayTakeTheFormAlongWhenItIsClosed)
+{
+    TForm* Child = MaximizedChild();
+    ASSERT_TRUE(PumpUntil([&] { return ShowsChild(); }));
+    Child->OnClose = [&](TObject*, TCloseAction& Action) {
+        Action = caNone;
+        delete std::exchange(Bar, nullptr);
+    };
+    ClickOn(Bar->CloseButtonOfChild());
+    EXPECT_TRUE(PumpUntil([&] { return Bar == nullptr; }));
 }

@@ -1,4 +1,5 @@
 // Menu buttons under a real keyboard.
+#include "menus/MenuBar.h"
 #include "tests/menus/MenuButtonFixture.h"
 
 using testing::ElementsAre;
@@ -298,13 +299,75 @@ TEST_F(MenuButtonKeysTest, AnotherKeyEndsTheKeyboardModeAndGoesWhereItShould)
 
 TEST_F(MenuButtonKeysTest, AnotherFormEndsTheKeyboardMode)
 {
-    TypeKey(VK_F10);
-    ASSERT_TRUE(File->Hot);
     TForm Other(nullptr, 0);
     Other.SetBounds(550, 100, 200, 150);
     Other.Show();
-    ASSERT_TRUE(PumpUntil([&] { return Screen->ActiveCustomForm == &Other; }));
-    TypeKey(VK_RIGHT);
+    for (int I = 0; I < 2; ++I) {
+        Form->SetFocus();
+        ASSERT_TRUE(PumpUntil([&] { return Screen->ActiveCustomForm == Form.get(); }));
+        TypeKey(VK_F10);
+        ASSERT_TRUE(File->Hot);
+        Other.SetFocus();
+        ASSERT_TRUE(PumpUntil([&] { return Screen->ActiveCustomForm == &Other; }));
+        ExpectIdle();
+    }
+}
+
+TEST_F(MenuButtonKeysTest, TheKeyboardBeginsInTheMenuBar)
+{
+    auto* Menus = new TkelMenuBar(Form.get());
+    Menus->AutoSave = false;
+    Menus->Parent = Dock;
+    Menus->InsertToDock();
+    auto* First = AddButton("&Window", {"&Next"});
+    First->Parent = Menus;
+    auto* Last = AddButton("&Tools", {"&Options"});
+    PumpMessages();
+    ASSERT_EQ(Last->Parent, Bar) << "the youngest lies elsewhere";
+    TypeKey(VK_F10);
+    EXPECT_TRUE(First->Hot);
+    TypeKey(VK_ESCAPE);
+    Script.When(IsOpen(Last), Type(VK_ESCAPE));
+    ClickToOpen(Last);
+    EXPECT_TRUE(Script.IsDone());
+    TypeKey(VK_MENU);
+    EXPECT_TRUE(First->Hot) << "also after a menu elsewhere";
+    TypeKey(VK_ESCAPE);
+    Menus->HidePanel();
+    TypeKey(VK_F10);
+    EXPECT_TRUE(File->Hot) << "there is no bar";
+    TypeKey(VK_ESCAPE);
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonKeysTest, WhatIsNotOnTheScreenHasNoLetter)
+{
+    File->Menu->Items->Items[1]->Visible = false; // Save
+    Script.When(IsOpen(File), Type('S'));
+    Script.When(IsOpen(File), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    PumpMessages();
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_THAT(Chosen, ElementsAre());
+    Bar->HidePanel();
+    Script.When([] { return TWhileMenuOpen::IsOpen(); }, Type(VK_ESCAPE));
+    TypeKey('E', {ssAlt});
+    PumpMessages();
+    EXPECT_EQ(Script.StepsDone(), 2u) << "no menu has opened";
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonKeysTest, ATitleHasNoLetter)
+{
+    TMenuItem* Title = File->Menu->Items->Items[1];
+    Title->Caption = "-&Lines";
+    Title->OnClick = [&](TObject*) { Chosen.push_back("title"); };
+    Script.When(IsOpen(File), Type('L'));
+    Script.When(IsOpen(File), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    PumpMessages();
+    EXPECT_TRUE(Script.IsDone());
+    EXPECT_THAT(Chosen, ElementsAre());
     ExpectIdle();
 }
 

@@ -1,6 +1,7 @@
 // Menu buttons under a real mouse, in other places than a bar at the top, and what may go while their menus are open.
 #include "tests/menus/MenuButtonFixture.h"
 #include "tests/support/FormText.h"
+#include "tests/support/Reports.h"
 #include "toolbar/Flpfrm97.h"
 
 using testing::ElementsAre;
@@ -190,6 +191,128 @@ TEST_F(MenuButtonTest, AMenuOfAnotherKindOpensToo)
     Script.When([&] { return TMenuTracking::Get().Current() == Help && FindWindowW(L"#32768", nullptr); }, Type('A'));
     ClickToOpen(Help);
     EXPECT_TRUE(PumpUntil([&] { return !Chosen.empty(); }));
+    ExpectIdle();
+}
+
+// ---- menus with nothing in them
+
+TEST_F(MenuButtonTest, ThePointerGoesOnOverAnEmptyMenuToTheNext)
+{
+    Edit->Menu->Items->Clear();
+    Script.When(IsOpen(File), PointTo(Edit));
+    Script.When([&] { return TMenuTracking::Get().Current() == Edit && !TWhileMenuOpen::IsOpen(); }, PointTo(Help));
+    Script.When(PointingOpens(Help), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone() && !TMenuTracking::Get().IsTracking(); })) << Script.StepsDone();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, TheArrowsGoOnOverButtonsWithNothingToShow)
+{
+    int Clicks = 0;
+    Edit->Menu->Items->Clear();
+    Help->Menu = nullptr;
+    Help->OnClick = [&](TObject*) { ++Clicks; };
+    const auto IsShut = [](const TkelMenuButton* Button) {
+        return [=] { return TMenuTracking::Get().Current() == Button && !TWhileMenuOpen::IsOpen() && Button->Hot; };
+    };
+    Script.When(IsOpen(File), Type(VK_RIGHT));
+    Script.When(IsShut(Edit), Type(VK_RIGHT));
+    Script.When(IsShut(Help), Type(VK_RIGHT));
+    Script.When(IsOpen(File), Type(VK_LEFT));
+    Script.When(IsShut(Help), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone() && !TMenuTracking::Get().IsTracking(); })) << Script.StepsDone();
+    PumpMessages();
+    EXPECT_EQ(Clicks, 0) << "nobody has clicked it";
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, ThePointerGoesOnOverAButtonWithoutAMenu)
+{
+    Edit->Menu = nullptr;
+    Script.When(IsOpen(File), PointTo(Edit));
+    Script.When([&] { return TMenuTracking::Get().Current() == Edit && !TWhileMenuOpen::IsOpen(); }, PointTo(Help));
+    Script.When(PointingOpens(Help), Type(VK_ESCAPE));
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil([&] { return Script.IsDone() && !TMenuTracking::Get().IsTracking(); })) << Script.StepsDone();
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, OverAnEmptyMenuAPressElsewhereLeaves)
+{
+    Edit->Menu->Items->Clear();
+    const auto IsShut = [&] { return TMenuTracking::Get().Current() == Edit && !TWhileMenuOpen::IsOpen(); };
+    Script.When(IsOpen(File), Type(VK_RIGHT));
+    ClickToOpen(File);
+    EXPECT_TRUE(PumpUntil(IsShut));
+    MovePointerTo(Form.get(), 200, 200);
+    ClickButton();
+    ExpectIdle();
+    PointTo(Help)();
+    PumpMessages();
+    EXPECT_FALSE(TWhileMenuOpen::IsOpen());
+    ClickOn(Edit);
+    ExpectIdle();
+}
+
+TEST_F(MenuButtonTest, AButtonOutsideOfAllWindowsOpensNothing)
+{
+    TReports Reports;
+    File->OnClick = [&](TObject*) { File->Parent = nullptr; };
+    ClickToOpen(File);
+    EXPECT_THAT(Reports.Texts(), ElementsAre());
+    ExpectIdle();
+}
+
+// ---- what fails
+
+class TFailingButton : public TkelMenuButton {
+public:
+    using TkelMenuButton::TkelMenuButton;
+    bool Fails = false;
+
+protected:
+    void Paint() override
+    {
+        if (std::exchange(Fails, false))
+            throw EInvalidOperation("cannot paint");
+        TkelMenuButton::Paint();
+    }
+};
+
+TEST_F(MenuButtonTest, WhatFailsInAHookIsReported)
+{
+    TReports Reports;
+    auto* Failing = new TFailingButton(Form.get());
+    Failing->Left = -1;
+    Failing->Align = alLeft;
+    Failing->Menu = File->Menu;
+    Failing->Parent = Bar;
+    PumpMessages();
+    Failing->Left = -1;
+    Failing->Fails = true;
+    TypeKey(VK_F10);
+    PumpMessages();
+    EXPECT_FALSE(Failing->Fails);
+    EXPECT_THAT(Reports.Texts(), ElementsAre(testing::HasSubstr("cannot paint")));
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
+    Failing->Fails = true;
+    MovePointerTo(Form.get(), 200, 200);
+    TypeKey(VK_F10);
+    Failing->Fails = true;
+    ClickButton();
+    EXPECT_EQ(Reports.Texts().size(), 3u);
+    EXPECT_EQ(TMenuTracking::Get().Current(), nullptr);
+}
+
+TEST_F(MenuButtonTest, AfterAnOnClickThatFailsTheButtonIsIdle)
+{
+    TReports Reports;
+    File->OnClick = [](TObject*) { throw EInvalidOperation("no"); };
+    ClickToOpen(File);
+    EXPECT_THAT(Reports.Texts(), ElementsAre(testing::HasSubstr("no")));
     ExpectIdle();
 }
 
