@@ -310,11 +310,7 @@ HDC TControl::GetDeviceContext(HWND& Window)
 
 AnsiString TControl::AccessibleName() const
 {
-    AnsiString Name;
-    for (char C : GetText())
-        if (C != '&')
-            Name += C;
-    return Name;
+    return ShownText(GetText());
 }
 
 int TControl::AccessibleRole() const

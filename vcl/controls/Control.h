@@ -6,6 +6,7 @@
 #include "vcl/controls/ControlTypes.h"
 #include "vcl/controls/Messages.h"
 #include "vcl/controls/SizeConstraints.h"
+#include "vcl/graphics/Accelerator.h"
 #include "vcl/graphics/Color.h"
 #include "vcl/graphics/Font.h"
 
@@ -332,5 +333,3 @@ private:
 TWinControl* FindControl(HWND Window);
 // The control under a screen position: the deepest visible one, disabled ones only with AllowDisabled.
 TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled);
-// True when Char is the accelerator (the letter behind a single &) of Caption; case does not matter.
-bool IsAccel(uint16_t Char, const AnsiString& Caption);

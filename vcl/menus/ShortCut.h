@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vcl/classes/InputTypes.h"
+#include "vcl/graphics/Accelerator.h"
 
 #include <string_view>
 
@@ -20,10 +21,3 @@ TShortCut TextToShortCut(std::string_view Text);
 
 // The shortcut that a WM_KEYDOWN, WM_SYSKEYDOWN or CN_ form of these means now.
 TShortCut KeyMessageToShortCut(const TMessage& Message);
-
-// ---- accelerators: the letter behind a single &
-
-// The letter in upper case, or empty.
-AnsiString GetHotkey(std::string_view Caption);
-// Caption without its accelerator mark; "&&" stays.
-AnsiString StripHotkey(std::string_view Caption);
