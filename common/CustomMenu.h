@@ -5,7 +5,7 @@
 #pragma once
 
 #include "common/MenuStyle.h"
-#include "common/WindowProcHook.h"
+#include "vcl/controls/WindowProcHook.h"
 
 #include <vector>
 

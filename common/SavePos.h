@@ -7,7 +7,7 @@
 #pragma once
 
 #include "common/FormPosition.h"
-#include "common/WindowProcHook.h"
+#include "vcl/controls/WindowProcHook.h"
 #include "vcl/menus/UtilityWindow.h"
 
 class TkelSavePos : public TComponent {

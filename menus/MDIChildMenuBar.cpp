@@ -37,9 +37,8 @@ TkelMDIChildMenuBar::TkelMDIChildMenuBar(TComponent* AOwner) : TkelMenuBar(AOwne
 {
     NumberCaption();
     auto* Form = As<TCustomForm>(AOwner);
-    if (!Form || IsDesigning())
-        return;
-    FHook.Install(Form, {this, &TkelMDIChildMenuBar::FormWndProc});
+    if (Form && !IsDesigning())
+        FHook.Install(Form, {this, &TkelMDIChildMenuBar::FormWndProc});
 }
 
 void TkelMDIChildMenuBar::Loaded()

@@ -4,8 +4,8 @@
 // that form, and the form must own a TkelMenuBar; else the buttons stay where they are.
 #pragma once
 
-#include "common/WindowProcHook.h"
 #include "menus/MenuBar.h"
+#include "vcl/controls/WindowProcHook.h"
 
 class TCustomForm;
 
