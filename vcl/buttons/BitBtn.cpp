@@ -1,9 +1,12 @@
 #include "vcl/buttons/BitBtn.h"
 
 #include "vcl/buttons/ButtonFace.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/CustomForm.h"
+#include "vcl/graphics/SavedContext.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 void TBitBtn::Describe(TClassBuilder<TBitBtn>& Class)
 {
@@ -60,11 +63,14 @@ void TBitBtn::WMLButtonDblClk(TMessage& Message)
 void TBitBtn::CNDrawItem(TMessage& Message)
 {
     auto& Item = *reinterpret_cast<DRAWITEMSTRUCT*>(Message.LParam);
-    int Saved = SaveDC(Item.hDC);
+    const TSavedContext Saved(Item.hDC);
+    const TStillThere Still(this);
+    const TScopeExit End([&] {
+        if (Still)
+            FCanvas.Handle = nullptr;
+    });
     FCanvas.Handle = Item.hDC;
     DrawButton(ClientRect, Item.itemState & ODS_SELECTED, Item.itemState & ODS_FOCUS);
-    FCanvas.Handle = nullptr;
-    RestoreDC(Item.hDC, Saved);
     Message.Result = 1;
 }
 

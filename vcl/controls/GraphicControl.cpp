@@ -1,6 +1,8 @@
 #include "vcl/controls/GraphicControl.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 void TGraphicControl::Describe(TClassBuilder<TGraphicControl>& Class)
 {
@@ -34,29 +36,26 @@ void TGraphicControl::WMPaint(TMessage& Message)
         return;
     }
     TControlCanvas Passing(this);
-    FCanvas = &Passing;
-    FCanvasPasses = true;
-    const auto Return = [this] {
+    const TStillThere Still(this);
+    const TScopeExit Return([&] {
+        if (!Still)
+            return;
         FCanvas = nullptr;
         FCanvasPasses = false;
-    };
-    try {
-        PaintOn(Passing, DC);
-    } catch (...) {
-        Return();
-        throw;
-    }
-    Return();
+    });
+    FCanvas = &Passing;
+    FCanvasPasses = true;
+    PaintOn(Passing, DC);
 }
 
 void TGraphicControl::PaintOn(TControlCanvas& Canvas, HDC DC)
 {
+    // The canvas goes with the control.
+    const TStillThere Still(this);
+    const TScopeExit End([&] {
+        if (Still)
+            Canvas.SetHandle(nullptr);
+    });
     Canvas.SetHandle(DC);
-    try {
-        Paint();
-    } catch (...) {
-        Canvas.SetHandle(nullptr);
-        throw;
-    }
-    Canvas.SetHandle(nullptr);
+    Paint();
 }

@@ -1,11 +1,13 @@
 #include "vcl/controls/WinControl.h"
 
 #include "vcl/classes/Reader.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/graphics/Brush.h"
 #include "vcl/system/Guard.h"
 #include "vcl/system/Scope.h"
+#include "vcl/graphics/SavedContext.h"
 
 TWinControl::TWinControl(TComponent* AOwner) : TControl(AOwner)
 {}
@@ -121,7 +123,7 @@ void TWinControl::PaintControls(HDC DC, const TRect& Clip)
 
 void TWinControl::PaintTo(HDC DC, int X, int Y)
 {
-    int Saved = SaveDC(DC);
+    const TSavedContext Saved(DC);
     OffsetViewportOrgEx(DC, X, Y, nullptr);
     IntersectClipRect(DC, 0, 0, GetWidth(), GetHeight());
     if (GetWindowLongW(GetHandle(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE) {
@@ -130,13 +132,14 @@ void TWinControl::PaintTo(HDC DC, int X, int Y)
         OffsetViewportOrgEx(DC, Edge.Left, Edge.Top, nullptr);
         IntersectClipRect(DC, 0, 0, Edge.Width(), Edge.Height());
     }
+    const TStillThere Still(this);
     auto Target = reinterpret_cast<uintptr_t>(DC);
     Perform(WM_ERASEBKGND, Target, static_cast<intptr_t>(Target));
-    Perform(WM_PAINT, Target);
-    for (TWinControl* Child : FWindows)
-        if (Child->GetVisible())
+    if (Still)
+        Perform(WM_PAINT, Target);
+    for (size_t I = 0; Still && I < FWindows.size(); ++I)
+        if (TWinControl* Child = FWindows[I]; Child->GetVisible())
             Child->PaintTo(DC, Child->GetLeft(), Child->GetTop());
-    RestoreDC(DC, Saved);
 }
 
 void TWinControl::ReadState(TReader& Reader)

@@ -1,9 +1,28 @@
 #include "vcl/controls/WindowPainter.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/PaintBuffer.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/system/Scope.h"
 
 namespace {
+
+// BeginPaint to EndPaint.
+class TPaintSession {
+public:
+    explicit TPaintSession(HWND Window) : FWindow(Window), FDC(BeginPaint(Window, &FPaint)) {}
+    ~TPaintSession() { EndPaint(FWindow, &FPaint); }
+    TPaintSession(const TPaintSession&) = delete;
+
+    HDC DC() const { return FDC; }
+    // What must be painted.
+    TRect Area() const { return FPaint.rcPaint; }
+
+private:
+    PAINTSTRUCT FPaint{};
+    HWND FWindow;
+    HDC FDC;
+};
 
 // What a context is clipped to, to be selected again. The region that holds it is made once; only painting inside
 // painting makes another.
@@ -36,15 +55,13 @@ private:
 
 void TWindowPainter::Paint(TWinControl& Window)
 {
-    PAINTSTRUCT Paint;
-    HDC Screen = BeginPaint(Window.FHandle, &Paint);
-    TRect Clip = Paint.rcPaint;
-    if (!Clip.IsEmpty()) {
-        TPaintBuffer Buffer(Clip);
-        PaintInto(Window, Buffer.DC(), Clip);
-        Buffer.CopyTo(Screen);
-    }
-    EndPaint(Window.FHandle, &Paint);
+    const TPaintSession Session(Window.FHandle);
+    const TRect Clip = Session.Area();
+    if (Clip.IsEmpty())
+        return;
+    TPaintBuffer Buffer(Clip);
+    PaintInto(Window, Buffer.DC(), Clip);
+    Buffer.CopyTo(Session.DC());
 }
 
 bool TWindowPainter::PaintAlone(TControl& Control)
@@ -57,7 +74,10 @@ bool TWindowPainter::PaintAlone(TControl& Control)
     if (!IntersectRect(Area, Area, Client))
         return true;
     TPaintBuffer Buffer(Area);
+    const TStillThere Still(&Parent);
     PaintControl(Control, Buffer.DC(), nullptr);
+    if (!Still)
+        return true;
     HDC Screen = GetDC(Parent.FHandle);
     Buffer.CopyTo(Screen);
     ReleaseDC(Parent.FHandle, Screen);
@@ -99,10 +119,14 @@ size_t TWindowPainter::FindCover(const TWinControl& Window, const TRect& Clip)
 
 void TWindowPainter::PaintInto(TWinControl& Window, HDC DC, const TRect& Clip)
 {
+    const TStillThere Still(&Window);
     size_t First = FindCover(Window, Clip);
     if (First == Window.FGraphics.size()) {
         Window.Perform(WM_ERASEBKGND, reinterpret_cast<uintptr_t>(DC), reinterpret_cast<intptr_t>(DC));
-        Window.PaintWindow(DC);
+        if (Still)
+            Window.PaintWindow(DC);
+        if (!Still)
+            return;
         First = 0;
     }
     PaintControls(Window, DC, First, Clip);
@@ -111,8 +135,9 @@ void TWindowPainter::PaintInto(TWinControl& Window, HDC DC, const TRect& Clip)
 void TWindowPainter::PaintControls(TWinControl& Window, HDC DC, size_t First, const TRect& Clip)
 {
     TClipRegion Whole(DC);
+    const TStillThere Still(&Window);
     // By index and with the size asked for each time: a control's Paint may change the list.
-    for (size_t I = First; I < Window.FGraphics.size(); ++I) {
+    for (size_t I = First; Still && I < Window.FGraphics.size(); ++I) {
         TControl& Control = *Window.FGraphics[I];
         TRect Common;
         bool Shown = Control.FVisible || (Control.IsDesigning() && !Control.FControlStyle.Contains(csNoDesignVisible));
@@ -132,11 +157,13 @@ void TWindowPainter::PaintControl(TControl& Control, HDC DC, HRGN Clip)
     GetBrushOrgEx(DC, &BrushOrigin);
     OffsetViewportOrgEx(DC, Control.FLeft, Control.FTop, &Origin);
     IntersectClipRect(DC, 0, 0, Control.FWidth, Control.FHeight);
+    const TScopeExit Restore([&] {
+        SetMapMode(DC, MapMode);
+        SetTextAlign(DC, TextAlign);
+        SetStretchBltMode(DC, StretchMode);
+        SetBrushOrgEx(DC, BrushOrigin.x, BrushOrigin.y, nullptr);
+        SetViewportOrgEx(DC, Origin.x, Origin.y, nullptr);
+        SelectClipRgn(DC, Clip);
+    });
     Control.Perform(WM_PAINT, reinterpret_cast<uintptr_t>(DC));
-    SetMapMode(DC, MapMode);
-    SetTextAlign(DC, TextAlign);
-    SetStretchBltMode(DC, StretchMode);
-    SetBrushOrgEx(DC, BrushOrigin.x, BrushOrigin.y, nullptr);
-    SetViewportOrgEx(DC, Origin.x, Origin.y, nullptr);
-    SelectClipRgn(DC, Clip);
 }
