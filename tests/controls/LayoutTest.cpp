@@ -145,3 +145,99 @@ TEST_F(LayoutTest, OnCanResizeMayRefuseOrCorrect)
     Probe->Width = 57;
     EXPECT_EQ(Probe->Width, 50);
 }
+
+namespace {
+
+// Counts how often its children are laid out.
+class TCountingBox : public TCustomControl {
+    VCL_CLASS(TCountingBox, TCustomControl)
+public:
+    explicit TCountingBox(TComponent* AOwner) : TCustomControl(AOwner) { SetBounds(0, 0, 200, 200); }
+    static inline int Layouts = 0; // of all, as they do not outlive what is tested
+
+protected:
+    void AlignControls(TControl* Control, TRect& Rect) override
+    {
+        ++Layouts;
+        TCustomControl::AlignControls(Control, Rect);
+    }
+};
+
+void TCountingBox::Describe(TClassBuilder<TCountingBox>&)
+{}
+
+// Takes only even widths.
+class TEvenBox : public TCustomControl {
+    VCL_CLASS(TEvenBox, TCustomControl)
+public:
+    explicit TEvenBox(TComponent* AOwner) : TCustomControl(AOwner) {}
+
+protected:
+    bool CanResize(int& NewWidth, int& NewHeight) override
+    {
+        if (!TCustomControl::CanResize(NewWidth, NewHeight))
+            return false;
+        NewWidth = NewWidth / 2 * 2;
+        return NewHeight < 100;
+    }
+};
+
+void TEvenBox::Describe(TClassBuilder<TEvenBox>&)
+{}
+
+} // namespace
+
+TEST_F(LayoutTest, ADeletedParentLaysNothingOut)
+{
+    auto* Box = Add<TCountingBox>(&Window, 0, 0, 200, 200);
+    for (int I = 0; I < 20; ++I)
+        Add<TBox>(Box, 0, 0, 20, 20)->Align = I % 2 ? alTop : alLeft;
+    Window.Open();
+    TCountingBox::Layouts = 0;
+    delete Box;
+    EXPECT_EQ(TCountingBox::Layouts, 0);
+}
+
+TEST_F(LayoutTest, AnOverriddenCanResizeIsAskedWithoutAnEvent)
+{
+    for (const bool WithWindow : {false, true}) {
+        auto* Box = Add<TEvenBox>(&Window, 0, 0, 20, 20);
+        if (WithWindow)
+            Window.Open();
+        Box->Width = 31;
+        EXPECT_EQ(Box->Width, 30);
+        Box->Height = 120;
+        EXPECT_EQ(Box->Height, 20);
+        int Asked = 0;
+        Box->OnCanResize = [&](TObject*, int&, int&, bool&) { ++Asked; };
+        Box->Width = 41;
+        EXPECT_EQ(Box->Width, 40);
+        EXPECT_GT(Asked, 0);
+    }
+}
+
+// A handler may delete the control that is being placed, one that is still to come, or the parent.
+TEST_F(LayoutTest, HandlersMayDeleteWhatIsBeingLaidOut)
+{
+    for (const int Victim : {0, 1, 2, 3}) {
+        SCOPED_TRACE(Victim);
+        auto* Box = Add<TBox>(&Window, 0, 0, 100, 100);
+        TControl* Controls[] = {Add<TProbe>(Box, 0, 0, 20, 20), Add<TBox>(Box, 0, 20, 20, 20),
+                                Add<TProbe>(Box, 0, 40, 20, 20)};
+        for (TControl* Control : Controls)
+            Control->Align = alTop;
+        Window.Open();
+        bool Deleted = false;
+        Controls[1]->OnResize = [&](TObject*) {
+            if (std::exchange(Deleted, true))
+                return;
+            if (Victim < 3)
+                delete Controls[Victim];
+            else
+                delete std::exchange(Box, nullptr);
+        };
+        Box->SetBounds(0, 0, 150, 100);
+        EXPECT_TRUE(Deleted);
+        delete Box;
+    }
+}

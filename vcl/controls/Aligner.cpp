@@ -1,9 +1,12 @@
 #include "vcl/controls/Aligner.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/ControlExtras.h"
 #include "vcl/controls/WinControl.h"
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -23,23 +26,27 @@ int SortKey(const TControl& Control, TAlign Side)
 
 void TAligner::Align(TWinControl& Parent, TControl* Moved, TRect& Rect)
 {
-    TRect Client = Rect;
-    std::vector<TControl*> Controls;
+    const int Count = Parent.GetControlCount();
+    const auto IsPlaced = [](const TControl& Control) {
+        return TakesPart(Control) && (Control.FAlign != alNone || Control.FAnchorRules);
+    };
     bool Any = false;
-    Controls.reserve(Parent.GetControlCount());
-    for (int I = 0; I < Parent.GetControlCount(); ++I) {
-        TControl* Control = Parent.GetControls(I);
-        if (!TakesPart(*Control))
-            continue;
-        Controls.push_back(Control);
-        Any |= Control->FAlign != alNone || Control->FAnchorRules;
-    }
+    for (int I = 0; I < Count && !Any; ++I)
+        Any = IsPlaced(*Parent.GetControls(I));
     if (!Any)
         return;
+
+    const TRect Client = Rect;
+    const auto Refs = std::make_unique<TComponentRef<TControl>[]>(Count);
+    size_t Placed = 0;
+    for (int I = 0; I < Count; ++I)
+        if (TControl* Control = Parent.GetControls(I); IsPlaced(*Control))
+            Refs[Placed++] = Control;
+    const TControls Controls(Refs.get(), Placed);
     for (TAlign Side : {alTop, alBottom, alLeft, alRight, alClient})
         AlignSide(Controls, Side, Moved, Rect);
     for (TControl* Control : Controls)
-        if (Control->FAlign == alNone && Control->FAnchorRules && Control != Moved)
+        if (Control && Control->FAlign == alNone && Control->FAnchorRules && Control != Moved)
             Anchor(*Control, Client);
 }
 
@@ -48,45 +55,45 @@ bool TAligner::TakesPart(const TControl& Control)
     return Control.FVisible || (Control.IsDesigning() && !Control.FControlStyle.Contains(csNoDesignVisible));
 }
 
-void TAligner::AlignSide(const std::vector<TControl*>& Controls, TAlign Side, TControl* Moved, TRect& Rect)
+void TAligner::AlignSide(TControls Controls, TAlign Side, TControl* Moved, TRect& Rect)
 {
     struct TEntry {
         int Key;
         size_t Order;
-        TControl* Control;
+        const TComponentRef<TControl>* Control;
     };
     std::vector<TEntry> Entries;
     for (size_t I = 0; I < Controls.size(); ++I)
-        if (Controls[I]->FAlign == Side)
-            Entries.push_back({SortKey(*Controls[I], Side), Controls[I] == Moved ? 0 : I + 1, Controls[I]});
+        if (TControl* Control = Controls[I]; Control && Control->FAlign == Side)
+            Entries.push_back({SortKey(*Control, Side), Control == Moved ? 0 : I + 1, &Controls[I]});
     std::sort(Entries.begin(), Entries.end(),
               [](const TEntry& A, const TEntry& B) { return A.Key != B.Key ? A.Key < B.Key : A.Order < B.Order; });
     for (const TEntry& Entry : Entries)
-        Place(*Entry.Control, Side, Rect);
+        if (TControl* Control = *Entry.Control)
+            Place(*Control, Side, Rect);
 }
 
 void TAligner::Place(TControl& Control, TAlign Side, TRect& Rect)
 {
     int Width = std::max(Rect.Width(), 0);
     int Height = std::max(Rect.Height(), 0);
+    const TStillThere Still(&Control);
     switch (Side) {
-    case alTop:
-        Control.SetBounds(Rect.Left, Rect.Top, Width, Control.FHeight);
-        Rect.Top += Control.FHeight;
-        break;
-    case alBottom:
-        Control.SetBounds(Rect.Left, Rect.Bottom - Control.FHeight, Width, Control.FHeight);
-        Rect.Bottom -= Control.FHeight;
-        break;
-    case alLeft:
-        Control.SetBounds(Rect.Left, Rect.Top, Control.FWidth, Height);
-        Rect.Left += Control.FWidth;
-        break;
-    case alRight:
-        Control.SetBounds(Rect.Right - Control.FWidth, Rect.Top, Control.FWidth, Height);
-        Rect.Right -= Control.FWidth;
-        break;
+    case alTop: Control.SetBounds(Rect.Left, Rect.Top, Width, Control.FHeight); break;
+    case alBottom: Control.SetBounds(Rect.Left, Rect.Bottom - Control.FHeight, Width, Control.FHeight); break;
+    case alLeft: Control.SetBounds(Rect.Left, Rect.Top, Control.FWidth, Height); break;
+    case alRight: Control.SetBounds(Rect.Right - Control.FWidth, Rect.Top, Control.FWidth, Height); break;
     default: Control.SetBounds(Rect.Left, Rect.Top, Width, Height);
+    }
+    // The rest is for the others: the size that the control has taken is not always the one that it was given.
+    if (!Still)
+        return;
+    switch (Side) {
+    case alTop: Rect.Top += Control.FHeight; break;
+    case alBottom: Rect.Bottom -= Control.FHeight; break;
+    case alLeft: Rect.Left += Control.FWidth; break;
+    case alRight: Rect.Right -= Control.FWidth; break;
+    default: break;
     }
 }
 

@@ -1,7 +1,10 @@
 // TAligner: lays the children of a control out by their Align and Anchors.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/ControlTypes.h"
+
+#include <span>
 
 class TAligner {
 public:
@@ -11,7 +14,9 @@ public:
 
 private:
     static bool TakesPart(const TControl& Control);
-    static void AlignSide(const std::vector<TControl*>& Controls, TAlign Side, TControl* Moved, TRect& Rect);
+    // Placing a control runs handlers, which may delete any of them.
+    using TControls = std::span<const TComponentRef<TControl>>;
+    static void AlignSide(TControls Controls, TAlign Side, TControl* Moved, TRect& Rect);
     static void Place(TControl& Control, TAlign Side, TRect& Rect);
     static void Anchor(TControl& Control, const TRect& Client);
 };

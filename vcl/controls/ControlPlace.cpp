@@ -1,4 +1,5 @@
 // Place, size, alignment and anchors of TControl.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/ControlExtras.h"
 #include "vcl/controls/WinControl.h"
 
@@ -22,36 +23,39 @@ void TControl::SetBounds(int ALeft, int ATop, int AWidth, int AHeight)
     Invalidate();
     if (IsLoading())
         return;
+    const TStillThere Still(this);
     Perform(WM_WINDOWPOSCHANGED);
-    RequestAlign();
-    if (Resized)
+    if (Still)
+        RequestAlign();
+    if (Still && Resized)
         Resize();
 }
 
 bool TControl::CheckNewSize(int& NewWidth, int& NewHeight)
 {
-    if (!FExtras)
-        return true;
-    if (FExtras->OnCanResize || FExtras->OnConstrainedResize) {
-        int Width = NewWidth;
-        int Height = NewHeight;
-        if (!CanResize(Width, Height))
-            return false;
-        NewWidth = Width;
-        NewHeight = Height;
-    }
-    if (FExtras->Constraints)
+    const TStillThere Still(this);
+    int Width = NewWidth;
+    int Height = NewHeight;
+    if (!CanResize(Width, Height) || !Still)
+        return false;
+    NewWidth = Width;
+    NewHeight = Height;
+    if (FExtras && FExtras->Constraints)
         FExtras->Constraints->Apply(NewWidth, NewHeight);
     return true;
 }
 
 bool TControl::CanResize(int& NewWidth, int& NewHeight)
 {
+    if (!FExtras)
+        return true;
+    const TStillThere Still(this);
     bool Result = true;
-    if (FExtras && FExtras->OnCanResize)
-        FExtras->OnCanResize(this, NewWidth, NewHeight, Result);
-    if (!Result || !FExtras || !FExtras->OnConstrainedResize)
-        return Result;
+    FExtras->OnCanResize(this, NewWidth, NewHeight, Result);
+    if (!Result || !Still)
+        return false;
+    if (!FExtras->OnConstrainedResize)
+        return true;
     int MinWidth = 0, MinHeight = 0, MaxWidth = 0, MaxHeight = 0;
     FExtras->OnConstrainedResize(this, MinWidth, MinHeight, MaxWidth, MaxHeight);
     NewWidth = std::max(MaxWidth > 0 ? std::min(NewWidth, MaxWidth) : NewWidth, MinWidth);

@@ -5,9 +5,9 @@
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/graphics/Brush.h"
+#include "vcl/graphics/SavedContext.h"
 #include "vcl/system/Guard.h"
 #include "vcl/system/Scope.h"
-#include "vcl/graphics/SavedContext.h"
 
 TWinControl::TWinControl(TComponent* AOwner) : TControl(AOwner)
 {}
@@ -26,7 +26,8 @@ void TWinControl::BeforeDestruction()
 {
     if (TFormLink* Form = ParentFormLink())
         Form->DefocusControl(this, true);
-    // Children go with their parent, whoever owns them.
+    // Children go with their parent, whoever owns them; nothing is laid out for those that still wait.
+    DisableAlign();
     while (GetControlCount() > 0)
         delete GetControls(GetControlCount() - 1);
     inherited::BeforeDestruction();

@@ -1,7 +1,9 @@
 // Children of TWinControl and their layout.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/Aligner.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/WinControl.h"
+#include "vcl/system/Scope.h"
 
 #include <algorithm>
 
@@ -110,7 +112,8 @@ TControl* TWinControl::ControlAtPos(const TPoint& Pos, bool AllowDisabled, bool 
 
 void TWinControl::Broadcast(TMessage& Message)
 {
-    for (int I = 0; I < GetControlCount() && Message.Result == 0; ++I) {
+    const TStillThere Still(this);
+    for (int I = 0; Still && I < GetControlCount() && Message.Result == 0; ++I) {
         TControl* Control = GetControls(I);
         Message.Result = Control->Perform(Message.Msg, Message.WParam, Message.LParam);
     }
@@ -118,7 +121,8 @@ void TWinControl::Broadcast(TMessage& Message)
 
 void TWinControl::NotifyControls(uint32_t Msg)
 {
-    for (int I = 0; I < GetControlCount(); ++I)
+    const TStillThere Still(this);
+    for (int I = 0; Still && I < GetControlCount(); ++I)
         GetControls(I)->Perform(Msg);
 }
 
@@ -177,23 +181,22 @@ void TWinControl::AlignControl(TControl* Control)
         FAlignNeeded = true;
         return;
     }
-    DisableAlign();
-    bool Outer = std::exchange(FAligning, true);
-    try {
+    const TStillThere Still(this);
+    {
+        DisableAlign();
+        const bool Outer = std::exchange(FAligning, true);
+        const TScopeExit End([&] {
+            if (!Still)
+                return;
+            FAligning = Outer;
+            InvalidatePending();
+            FAlignNeeded = false; // what the placing itself asked for has been done
+            --FAlignLevel;
+        });
         TRect Rect = GetClientRect();
         AlignControls(Control, Rect);
-    } catch (...) {
-        FAligning = Outer;
-        FAlignNeeded = false;
-        --FAlignLevel;
-        InvalidatePending();
-        throw;
     }
-    FAligning = Outer;
-    InvalidatePending();
-    FAlignNeeded = false; // what the placing itself asked for has been done
-    --FAlignLevel;
-    if (GetAutoSize() && GetControlCount() > 0)
+    if (Still && GetAutoSize() && GetControlCount() > 0)
         AdjustSize();
 }
 
@@ -228,11 +231,14 @@ void TWinControl::Realign()
 
 void TWinControl::ScrollBy(int DeltaX, int DeltaY)
 {
+    const TStillThere Still(this);
     DisableAlign();
-    for (TControl* Control : FGraphics)
+    for (int I = 0; Still && I < GetControlCount(); ++I) {
+        TControl* Control = GetControls(I);
         Control->SetBounds(Control->FLeft + DeltaX, Control->FTop + DeltaY, Control->FWidth, Control->FHeight);
-    for (TWinControl* Window : FWindows)
-        Window->SetBounds(Window->FLeft + DeltaX, Window->FTop + DeltaY, Window->FWidth, Window->FHeight);
+    }
+    if (!Still)
+        return;
     FAlignNeeded = false;
     EnableAlign();
 }
