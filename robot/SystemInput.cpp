@@ -4,13 +4,14 @@ namespace {
 
 void (*MessageLoop)() = nullptr;
 
-void SendMouse(DWORD Flags, const TPoint& Place = {})
+void SendMouse(DWORD Flags, const TPoint& Place = {}, int Data = 0)
 {
     INPUT Input = {};
     Input.type = INPUT_MOUSE;
     Input.mi.dwFlags = Flags;
     Input.mi.dx = Place.x;
     Input.mi.dy = Place.y;
+    Input.mi.mouseData = static_cast<DWORD>(Data);
     SendInput(1, &Input, sizeof(Input));
 }
 
@@ -93,6 +94,16 @@ void SendButton(TMouseButton Button, bool Down)
     constexpr DWORD DownFlags[] = {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_MIDDLEDOWN};
     constexpr DWORD UpFlags[] = {MOUSEEVENTF_LEFTUP, MOUSEEVENTF_RIGHTUP, MOUSEEVENTF_MIDDLEUP};
     SendMouse((Down ? DownFlags : UpFlags)[Button]);
+}
+
+void SendExtraButton(bool Down)
+{
+    SendMouse(Down ? MOUSEEVENTF_XDOWN : MOUSEEVENTF_XUP, {}, XBUTTON1);
+}
+
+void SendWheel(int Delta, bool Horizontal)
+{
+    SendMouse(Horizontal ? MOUSEEVENTF_HWHEEL : MOUSEEVENTF_WHEEL, {}, Delta);
 }
 
 void SendKeyState(uint16_t Key, bool Down)

@@ -24,6 +24,10 @@ TPoint FarCorner();
 // These handle no messages: what they lead to may have a message loop of its own, such as a menu's.
 void SendMove(const TPoint& Screen);
 void SendButton(TMouseButton Button, bool Down);
+// The first of the extra buttons ("back").
+void SendExtraButton(bool Down);
+// WHEEL_DELTA is one notch, away from the user or (Horizontal) to the right.
+void SendWheel(int Delta, bool Horizontal = false);
 void SendKeyState(uint16_t Key, bool Down);
 // A character that needs no key of the keyboard's layout.
 void SendLetter(wchar_t Letter);

@@ -125,3 +125,60 @@ TEST_F(SpeedButtonInputTest, PanelsAreClickedToo)
     ClickButton();
     EXPECT_TRUE(PumpUntil([&] { return DoubleClicks == 1; }));
 }
+
+// ---- the mouse is taken from a pressed button
+
+TEST_F(SpeedButtonInputTest, AButtonThatLosesTheMouseComesUp)
+{
+    TSpeedButton* A = AddButton(10);
+    TSpeedButton* B = AddButton(80);
+    Show();
+    const auto Pressed = [&] { return (A->AccessibleState() & STATE_SYSTEM_PRESSED) != 0; };
+    const std::function<void()> Losses[] = {[&] { A->MouseCapture = false; }, [&] { B->MouseCapture = true; },
+                                            [] { ReleaseCapture(); }, [&] { Form->Perform(WM_CANCELMODE); }};
+    for (const auto& Lose : Losses) {
+        MovePointerTo(A, 5, 5);
+        PressButton();
+        ASSERT_TRUE(PumpUntil(Pressed));
+        Lose();
+        EXPECT_FALSE(Pressed());
+        B->MouseCapture = false;
+        ClickButton(mbRight);
+        ReleaseButton();
+        PumpMessages();
+        EXPECT_TRUE(Clicked.empty());
+    }
+    ClickButton();
+    EXPECT_TRUE(PumpUntil([&] { return Clicked.size() == 1; }));
+}
+
+TEST_F(SpeedButtonInputTest, AButtonThatGetsAnotherParentWhilePressedComesUp)
+{
+    TSpeedButton* A = AddButton(10);
+    A->GroupIndex = 1;
+    auto* Panel = Add<TPanel>();
+    Panel->SetBounds(10, 50, 200, 60);
+    Show();
+    MovePointerTo(A, 5, 5);
+    PressButton();
+    A->Parent = Panel;
+    EXPECT_EQ(A->AccessibleState() & STATE_SYSTEM_PRESSED, 0);
+    EXPECT_EQ(GetCapture(), nullptr);
+    MovePointerTo(A, 5, 5);
+    ReleaseButton();
+    PumpMessages();
+    EXPECT_TRUE(Clicked.empty());
+    EXPECT_FALSE(A->Down);
+}
+
+TEST_F(SpeedButtonInputTest, OnlyTheLeftButtonEndsAPress)
+{
+    TSpeedButton* A = AddButton(10);
+    Show();
+    MovePointerTo(A, 5, 5);
+    PressButton();
+    ClickButton(mbRight);
+    EXPECT_TRUE(Clicked.empty());
+    ReleaseButton();
+    EXPECT_TRUE(PumpUntil([&] { return Clicked.size() == 1; }));
+}

@@ -15,5 +15,9 @@ void ReleaseButton(TMouseButton Button = mbLeft);
 // Press and release.
 void ClickButton(TMouseButton Button = mbLeft);
 
+void ClickExtraButton();
+// By WHEEL_DELTA for each notch, away from the user or (Horizontal) to the right.
+void TurnWheel(int Delta, bool Horizontal = false);
+
 // A virtual key down and up, with the modifiers of Shift (ssShift, ssAlt, ssCtrl) held.
 void TypeKey(uint16_t Key, TShiftState Shift = {});

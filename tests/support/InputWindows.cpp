@@ -38,6 +38,20 @@ void ClickButton(TMouseButton Button)
     ReleaseButton(Button);
 }
 
+void ClickExtraButton()
+{
+    SendExtraButton(true);
+    PumpMessages();
+    SendExtraButton(false);
+    PumpMessages();
+}
+
+void TurnWheel(int Delta, bool Horizontal)
+{
+    SendWheel(Delta, Horizontal);
+    PumpMessages();
+}
+
 void TypeKey(uint16_t Key, TShiftState Shift)
 {
     SendKey(Key, Shift);

@@ -1,5 +1,7 @@
-// Fails a test that leaves objects or system handles behind, or frees some that it did not make.
+// Fails a test that leaves objects, system handles or windows behind, or frees some that it did not make.
 #pragma once
+
+#include "tests/support/SystemCounts.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -12,4 +14,5 @@ public:
 private:
     int64_t FObjects = 0;
     int64_t FHandles = 0;
+    TSystemCounts FSystem;
 };

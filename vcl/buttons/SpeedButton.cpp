@@ -1,5 +1,6 @@
 #include "vcl/buttons/SpeedButton.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/graphics/DitherBrush.h"
 #include "vcl/system/ClassBuilder.h"
@@ -23,6 +24,7 @@ void TSpeedButton::Describe(TClassBuilder<TSpeedButton>& Class)
     Class.PublishAll("Visible", "OnClick", "OnDblClick", "OnMouseDown", "OnMouseMove", "OnMouseUp");
 
     Class.Message<&Self::WMLButtonDblClk>(WM_LBUTTONDBLCLK);
+    Class.Message<&Self::WMCaptureChanged>(WM_CAPTURECHANGED);
     Class.Message<&Self::CMEnabledChanged>(CM_ENABLEDCHANGED);
     Class.Message<&Self::CMButtonPressed>(CM_BUTTONPRESSED);
     Class.Message<&Self::CMDialogChar>(CM_DIALOGCHAR);
@@ -100,8 +102,10 @@ bool TSpeedButton::Inside(int X, int Y) const
 
 void TSpeedButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    const TStillThere Still(this);
     inherited::MouseDown(Button, Shift, X, Y);
-    if (Button != mbLeft || !Enabled)
+    // A handler that takes the mouse away has ended the press.
+    if (!Still || Button != mbLeft || !Enabled || !ControlState.Contains(csLButtonDown))
         return;
     if (!FDown) {
         FState = bsDown;
@@ -112,11 +116,11 @@ void TSpeedButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, int 
 
 void TSpeedButton::MouseMove(TShiftState Shift, int X, int Y)
 {
+    const TStillThere Still(this);
     inherited::MouseMove(Shift, X, Y);
-    if (!FDragging)
+    if (!Still || !FDragging)
         return;
-    TButtonState Raised = FDown ? bsExclusive : bsUp;
-    TButtonState NewState = Inside(X, Y) && !FDown ? bsDown : Raised;
+    TButtonState NewState = Inside(X, Y) && !FDown ? bsDown : Raised();
     if (FState == NewState)
         return;
     FState = NewState;
@@ -125,8 +129,9 @@ void TSpeedButton::MouseMove(TShiftState Shift, int X, int Y)
 
 void TSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    const TStillThere Still(this);
     inherited::MouseUp(Button, Shift, X, Y);
-    if (!FDragging)
+    if (!Still || !FDragging || Button != mbLeft)
         return;
     FDragging = false;
     bool Clicked = Inside(X, Y);
@@ -138,11 +143,23 @@ void TSpeedButton::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
         SetDown(!FDown);
         Invalidate();
     } else {
-        FState = FDown ? bsExclusive : bsUp;
+        FState = Raised();
         Invalidate();
     }
     if (Clicked)
         Click();
+    if (Still)
+        UpdateTracking();
+}
+
+void TSpeedButton::WMCaptureChanged(TMessage& Message)
+{
+    Inherited(Message);
+    if (!FDragging)
+        return;
+    FDragging = false;
+    FState = Raised();
+    Invalidate();
     UpdateTracking();
 }
 
@@ -153,15 +170,17 @@ void TSpeedButton::Click()
 
 void TSpeedButton::WMLButtonDblClk(TWMMouse& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
-    if (FDown)
+    if (Still && FDown)
         DblClick();
 }
 
 void TSpeedButton::CMMouseEnter(TMessage& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
-    if (!FFlat || FMouseInControl || !Enabled || DragMode == dmAutomatic)
+    if (!Still || !FFlat || FMouseInControl || !Enabled || DragMode == dmAutomatic)
         return;
     HWND Captured = GetCapture();
     if (Captured && !MouseCapture)
@@ -172,8 +191,9 @@ void TSpeedButton::CMMouseEnter(TMessage& Message)
 
 void TSpeedButton::CMMouseLeave(TMessage& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
-    if (!FFlat || !FMouseInControl || FDragging)
+    if (!Still || !FFlat || !FMouseInControl || FDragging)
         return;
     FMouseInControl = false;
     Repaint();
@@ -307,11 +327,13 @@ void TSpeedButton::GlyphChanged(TObject*)
 
 void TSpeedButton::CMEnabledChanged(TMessage& Message)
 {
+    const TStillThere Still(this);
     if (!Enabled)
         FMouseInControl = false;
     else
         UpdateTracking();
-    Inherited(Message);
+    if (Still)
+        Inherited(Message);
 }
 
 void TSpeedButton::CMDialogChar(TCMDialogChar& Message)

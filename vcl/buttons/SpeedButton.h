@@ -72,6 +72,7 @@ protected:
 
 private:
     void WMLButtonDblClk(TWMMouse& Message);
+    void WMCaptureChanged(TMessage& Message);
     void CMEnabledChanged(TMessage& Message);
     void CMButtonPressed(TMessage& Message);
     void CMDialogChar(TCMDialogChar& Message);
@@ -85,6 +86,7 @@ private:
     void UpdateExclusive();
     void UpdateTracking();
     void UpdateOpaque();
+    TButtonState Raised() const { return FDown ? bsExclusive : bsUp; }
     void GlyphChanged(TObject* Sender);
 
     TButtonGlyph FGlyph;
@@ -94,7 +96,7 @@ private:
     TButtonLayout FLayout = blGlyphLeft;
     bool FAllowAllUp = false;
     bool FDown = false;
-    bool FDragging = false;
+    bool FDragging = false; // pressed, and the button is still held
     bool FFlat = false;
     bool FTransparent = true;
     bool FMouseInControl = false;

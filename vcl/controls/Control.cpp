@@ -72,6 +72,7 @@ void TControl::Describe(TClassBuilder<TControl>& Class)
     Class.Message<&Self::WMMButtonUp>(WM_MBUTTONUP);
     Class.Message<&Self::WMMouseWheel>(WM_MOUSEWHEEL);
     Class.Message<&Self::WMCancelMode>(WM_CANCELMODE);
+    Class.Message<&Self::WMCaptureChanged>(WM_CAPTURECHANGED);
     Class.Message<&Self::WMContextMenu>(WM_CONTEXTMENU);
     Class.Message<&Self::CMParentFontChanged>(CM_PARENTFONTCHANGED);
     Class.Message<&Self::CMParentColorChanged>(CM_PARENTCOLORCHANGED);
@@ -115,6 +116,13 @@ void TControl::SetParent(TWinControl* Value)
     for (TControl* Control = Value; Control; Control = Control->FParent)
         if (Control == this)
             throw EInvalidOperation("A control cannot have itself as its parent");
+    if (FParent && !As<TWinControl>(this) && GetMouseCapture()) {
+        // The old parent's window would get the rest of the press.
+        const TStillThere Still(this);
+        SetMouseCapture(false);
+        if (!Still)
+            return;
+    }
     if (FParent)
         FParent->RemoveControl(this);
     if (Value) {
@@ -183,13 +191,6 @@ void TControl::Loaded()
     UpdateAnchorRules();
     if (FAutoSize)
         AdjustSize();
-}
-
-void TControl::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && FExtras && FExtras->PopupMenu == Component)
-        FExtras->PopupMenu = nullptr;
 }
 
 void TControl::SetName(const AnsiString& Value)

@@ -239,7 +239,6 @@ protected:
     void AdjustSize();
 
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
     void ReadState(TReader& Reader) override;
     void DefineProperties(TFiler& Filer) override;
     virtual void VisibleChanging() {}
@@ -285,6 +284,7 @@ private:
     void WMMButtonUp(TWMMouse& Message);
     void WMMouseWheel(TMessage& Message);
     void WMCancelMode(TMessage& Message);
+    void WMCaptureChanged(TMessage& Message);
     void WMContextMenu(TMessage& Message);
     void CMParentFontChanged(TMessage& Message);
     void CMParentColorChanged(TMessage& Message);
@@ -331,5 +331,7 @@ private:
 
 // The control that Window belongs to, or nullptr.
 TWinControl* FindControl(HWND Window);
+// The same, or the control that a window which is no control's lies in: the edit in a combo box, for instance.
+TWinControl* FindEnclosingControl(HWND Window);
 // The control under a screen position: the deepest visible one, disabled ones only with AllowDisabled.
 TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled);

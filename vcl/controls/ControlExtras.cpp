@@ -71,11 +71,8 @@ TPopupMenu* TControl::GetPopupMenu() const
 
 void TControl::SetPopupMenu(TPopupMenu* Value)
 {
-    if (GetPopupMenu() == Value)
-        return;
-    Extras().PopupMenu = Value;
-    if (Value)
-        Value->FreeNotification(this);
+    if (GetPopupMenu() != Value)
+        Extras().PopupMenu = Value;
 }
 
 // ---- dragging

@@ -1,15 +1,15 @@
 // What few controls have: kept behind one pointer so that a control stays small.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/Control.h"
-
-class TPopupMenu;
+#include "vcl/menus/PopupMenu.h"
 
 struct TControlExtras {
     AnsiString Hint;
     AnsiString HelpKeyword;
     std::unique_ptr<TSizeConstraints> Constraints;
-    TPopupMenu* PopupMenu = nullptr;
+    TComponentRef<TPopupMenu> PopupMenu;
     TRect ExplicitBounds; // what designers note beside the bounds of an aligned control; Right and Bottom are the size
     THelpContext HelpContext = 0;
     THelpType HelpType = htContext;

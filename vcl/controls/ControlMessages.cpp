@@ -1,4 +1,5 @@
 // Messages and mouse events of TControl.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/ControlExtras.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/Mouse.h"
@@ -61,17 +62,22 @@ void TControl::SetMouseCapture(bool Value)
 
 void TControl::ButtonDown(TWMMouse& Message, TMouseButton Button, bool Double)
 {
+    const TStillThere Still(this);
     Inherited(Message);
+    if (!Still)
+        return;
     TShiftState Shift = KeysToShiftState(Message.Keys());
     if (Button == mbLeft) {
         if (FControlStyle.Contains(csCaptureMouse))
             SetMouseCapture(true);
-        if (FControlStyle.Contains(csClickEvents)) {
+        if (Still && FControlStyle.Contains(csClickEvents)) {
             if (Double)
                 DblClick();
             else
                 SetControlFlag(csClicked, true);
         }
+        if (!Still)
+            return;
     }
     if (Double)
         Shift << ssDouble;
@@ -81,15 +87,19 @@ void TControl::ButtonDown(TWMMouse& Message, TMouseButton Button, bool Double)
 
 void TControl::ButtonUp(TWMMouse& Message, TMouseButton Button)
 {
+    const TStillThere Still(this);
     Inherited(Message);
+    if (!Still)
+        return;
     if (Button == mbLeft) {
+        const bool Clicked = FControlState.Contains(csClicked) && GetClientRect().Contains(Message.Pos);
+        SetControlFlag(csClicked, false);
         if (FControlStyle.Contains(csCaptureMouse))
-            SetMouseCapture(false);
-        if (FControlState.Contains(csClicked)) {
-            SetControlFlag(csClicked, false);
-            if (GetClientRect().Contains(Message.Pos))
-                Click();
-        }
+            TMouse::GiveBack(this);
+        if (Still && Clicked)
+            Click();
+        if (!Still)
+            return;
     }
     if (!FControlStyle.Contains(csNoStdEvents))
         MouseUp(Button, KeysToShiftState(Message.Keys()), Message.XPos, Message.YPos);
@@ -97,9 +107,11 @@ void TControl::ButtonUp(TWMMouse& Message, TMouseButton Button)
 
 void TControl::WMLButtonDown(TWMMouse& Message)
 {
+    const TStillThere Still(this);
     if (TWinControl* Form = ParentFormControl())
         Form->Perform(CM_CANCELMODE, 0, reinterpret_cast<intptr_t>(this));
-    ButtonDown(Message, mbLeft, false);
+    if (Still)
+        ButtonDown(Message, mbLeft, false);
 }
 
 void TControl::WMRButtonDown(TWMMouse& Message)
@@ -144,8 +156,9 @@ void TControl::WMMButtonUp(TWMMouse& Message)
 
 void TControl::WMMouseMove(TWMMouse& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
-    if (!FControlStyle.Contains(csNoStdEvents))
+    if (Still && !FControlStyle.Contains(csNoStdEvents))
         MouseMove(KeysToShiftState(Message.Keys()), Message.XPos, Message.YPos);
 }
 
@@ -153,23 +166,33 @@ void TControl::WMMouseWheel(TMessage& Message)
 {
     TShiftState Shift = KeysToShiftState(static_cast<unsigned>(Message.WParamLo()));
     int Delta = static_cast<int16_t>(Message.WParamHi());
-    if (DoMouseWheel(Shift, Delta, {Message.LParamLo(), Message.LParamHi()}))
+    const TStillThere Still(this);
+    const bool Handled = DoMouseWheel(Shift, Delta, {Message.LParamLo(), Message.LParamHi()});
+    if (Handled || !Still)
         Message.Result = 1;
-    else if (FParent)
+    else if (FParent && !As<TWinControl>(this))
         Message.Result = FParent->Perform(WM_MOUSEWHEEL, Message.WParam, Message.LParam);
     else
-        Inherited(Message);
+        Inherited(Message); // a window scrolls, or the system sends the message on to the parent's window
 }
 
 void TControl::WMCancelMode(TMessage& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
-    if (!GetMouseCapture())
-        return;
-    SetMouseCapture(false);
-    // A release far outside, so that what was begun with the press is given up.
-    if (FControlState.Contains(csLButtonDown))
+    // A release outside of the control, so that what was begun with the press is given up.
+    if (Still && GetMouseCapture() && FControlState.Contains(csLButtonDown))
         Perform(WM_LBUTTONUP, 0, -1);
+    if (Still && GetMouseCapture())
+        SetMouseCapture(false);
+}
+
+// Somebody else has the mouse now: the press is over, and its release, if it should ever come here, is no click.
+void TControl::WMCaptureChanged(TMessage& Message)
+{
+    SetControlFlag(csLButtonDown, false);
+    SetControlFlag(csClicked, false);
+    Inherited(Message);
 }
 
 void TControl::WMContextMenu(TMessage& Message)
@@ -184,7 +207,12 @@ void TControl::WMContextMenu(TMessage& Message)
         return;
     }
     bool Handled = false;
+    const TStillThere Still(this);
     DoContextPopup(Local, Handled);
+    if (!Still) {
+        Message.Result = 1;
+        return;
+    }
     TPopupMenu* Menu = Handled ? nullptr : GetPopupMenu();
     if (Menu && Menu->AutoPopup) {
         Menu->PopupComponent = this;

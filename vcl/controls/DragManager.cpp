@@ -1,5 +1,6 @@
 #include "vcl/controls/DragManager.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/DragObject.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/Mouse.h"
@@ -253,7 +254,7 @@ void TDragManager::TDrag::ReleaseMouse()
     }
     // A control that captures the mouse for its press gives it back itself.
     if (FSource && IsWaiting() && !FSource->GetControlStyle().Contains(csCaptureMouse))
-        FSource->SetMouseCapture(false);
+        TMouse::GiveBack(FSource);
 }
 
 void TDragManager::TDrag::Finish(bool Drop)
@@ -339,10 +340,11 @@ bool TDragManager::HandleMessage(TWinControl& Window, const TMessage& Message)
     const auto Drag = Current;
     if (!Drag)
         return false;
+    const TStillThere Still(&Window);
     // Sent by the system to what is being disabled, and to what has the mouse.
     if (Message.Msg == WM_CANCELMODE && Window.ContainsControl(Drag->Source())) {
         End(false);
-        return false;
+        return !Still;
     }
     if (Drag->IsDragging() && Message.Msg == WM_KEYDOWN && Message.WParam == VK_ESCAPE) {
         MSG Character;
@@ -359,11 +361,11 @@ bool TDragManager::HandleMessage(TWinControl& Window, const TMessage& Message)
         Try(Drag, [&] { Drag->Start(); });
         return true;
     case WM_LBUTTONUP:
-    case WM_RBUTTONUP: End(false); return false;
+    case WM_RBUTTONUP: End(false); return !Still;
     case WM_CAPTURECHANGED:
         if (reinterpret_cast<HWND>(Message.LParam) != Window.GetHandle())
             End(false);
-        return false;
+        return !Still;
     default: return false;
     }
 }

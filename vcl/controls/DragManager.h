@@ -17,7 +17,8 @@ public:
     static void End(bool Drop);
     // The control being dragged or about to be, or nullptr.
     static TControl* Source();
-    // Looks at the messages of all windowed controls; true for one that the drag has used up.
+    // Looks at the messages of all windowed controls; true for one that the drag has used up, or whose window
+    // is gone now.
     static bool HandleMessage(TWinControl& Window, const TMessage& Message);
     // A control or a drag object is going away: dragging it ends without further events, dropping on it becomes
     // impossible.

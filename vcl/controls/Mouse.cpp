@@ -1,5 +1,6 @@
 #include "vcl/controls/Mouse.h"
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/WinControl.h"
 
@@ -7,6 +8,9 @@
 
 TControl* TMouse::Hot = nullptr;
 TControl* TMouse::Capture = nullptr;
+HWND TMouse::Foreign = nullptr;
+
+// ---- capture
 
 TControl* TMouse::CaptureControl()
 {
@@ -18,27 +22,53 @@ TControl* TMouse::CaptureControl()
 
 void TMouse::SetCaptureControl(TControl* Control)
 {
-    Capture = nullptr;
-    if (!Control) {
-        ReleaseCapture();
-        return;
-    }
     auto* Window = As<TWinControl>(Control);
-    if (!Window) {
+    const bool Windowless = Control && !Window;
+    if (Windowless)
         Window = Control->GetParent();
-        if (!Window)
-            return;
-    }
-    SetCapture(Window->GetHandle());
-    if (Window != Control)
-        Capture = Control;
+    if (Control && !Window)
+        return;
+    HWND Handle = Window ? Window->GetHandle() : nullptr;
+
+    // Windows are told of their loss here, and may delete controls.
+    const TComponentRef<TControl> New(Windowless ? Control : nullptr);
+    const TComponentRef<TControl> Before(std::exchange(Capture, nullptr));
+    if (Handle)
+        SetCapture(Handle);
+    else
+        ReleaseCapture();
+    if (New && !Capture && GetCapture() == Handle)
+        Capture = New;
+    if (Before && Before.Get() != Control)
+        TellLost(Before, Handle);
+}
+
+void TMouse::GiveBack(TControl* Control)
+{
+    if (CaptureControl() != Control)
+        return;
+    Capture = nullptr;
+    ReleaseCapture();
 }
 
 void TMouse::CaptureChanged(HWND NewOwner)
 {
     if (Capture && (!Capture->GetParent() || Capture->GetParent()->FHandle != NewOwner))
-        Capture = nullptr;
+        TellLost(std::exchange(Capture, nullptr), NewOwner);
 }
+
+void TMouse::WindowGone(const TWinControl& Control)
+{
+    if (Capture && Capture->GetParent() == &Control)
+        TellLost(std::exchange(Capture, nullptr), nullptr);
+}
+
+void TMouse::TellLost(TControl* Control, HWND NewOwner)
+{
+    Control->Perform(WM_CAPTURECHANGED, 0, reinterpret_cast<intptr_t>(NewOwner));
+}
+
+// ---- the control under the pointer
 
 void TMouse::SetHotControl(TControl* Control)
 {
@@ -48,14 +78,14 @@ void TMouse::SetHotControl(TControl* Control)
 
 void TMouse::SetHotControl(TControl* Control, TControl* Owner)
 {
-    TControl* Old = Hot;
-    if (Old == Control)
+    if (Hot == Control)
         return;
-    Hot = Control;
-    // What the pointer passes over while another control has the mouse is not told.
+    const TComponentRef<TControl> Old(std::exchange(Hot, Control));
+    // What the pointer passes over while another control has the mouse is not told. A control that a handler deletes
+    // is hot no more.
     if (Old && (!Owner || Owner == Old))
         Old->Perform(CM_MOUSELEAVE);
-    if (Hot == Control && Control && (!Owner || Owner == Control))
+    if (Control && Hot == Control && (!Owner || Owner == Control))
         Control->Perform(CM_MOUSEENTER);
     TFormHost::Get().HotControlChanged(Old, Hot);
 }
@@ -66,10 +96,34 @@ void TMouse::UpdateHotControl()
     SetHotControl(GetCursorPos(&Screen) ? FindDragTarget(Screen, true) : nullptr);
 }
 
+void TMouse::FollowOverForeignWindow(const MSG& Message)
+{
+    if (Message.message == WM_MOUSEMOVE && !FindControl(Message.hwnd) && FindEnclosingControl(Message.hwnd)) {
+        if (Foreign != Message.hwnd)
+            RequestLeave(Message.hwnd);
+        Foreign = Message.hwnd;
+        UpdateHotControl();
+    } else if (Message.message == WM_MOUSELEAVE && Foreign == Message.hwnd) {
+        Foreign = nullptr;
+        // The control's own window has not been asked to tell when the pointer was over it already.
+        POINT Screen;
+        HWND Now = GetCursorPos(&Screen) ? WindowFromPoint(Screen) : nullptr;
+        if (FindControl(Now))
+            RequestLeave(Now);
+        UpdateHotControl();
+    }
+}
+
+void TMouse::RequestLeave(HWND Window)
+{
+    TRACKMOUSEEVENT Track{sizeof(TRACKMOUSEEVENT), TME_LEAVE, Window, 0};
+    TrackMouseEvent(&Track);
+}
+
 void TMouse::Forget(TControl* Control)
 {
     if (Capture == Control)
-        SetCaptureControl(nullptr);
+        GiveBack(Control);
     if (Hot == Control) {
         Hot = nullptr;
         TFormHost::Get().HotControlChanged(Control, nullptr);

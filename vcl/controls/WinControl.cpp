@@ -3,6 +3,7 @@
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/StillThere.h"
 #include "vcl/controls/FormHost.h"
+#include "vcl/controls/WindowClass.h"
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/graphics/Brush.h"
 #include "vcl/graphics/SavedContext.h"
@@ -18,8 +19,11 @@ TWinControl::~TWinControl()
     while (GetControlCount() > 0)
         RemoveControl(GetControls(GetControlCount() - 1));
     TControl::SetParent(nullptr);
-    if (FHandle)
-        DestroyWindowHandle();
+    if (!FHandle)
+        return;
+    // Half of the object is gone: the system's class alone hears of the end.
+    TWindowClass::ReturnToSystem(FHandle, FDefWndProc);
+    DestroyWindow(FHandle);
 }
 
 void TWinControl::BeforeDestruction()

@@ -145,6 +145,7 @@ protected:
     virtual void CreateWindowHandle(const TCreateParams& Params);
     virtual void CreateHandle();
     virtual void DestroyWnd();
+    // While the window goes, the control hears of WM_DESTROY and WM_NCDESTROY only.
     virtual void DestroyWindowHandle();
     void DestroyHandle();
     // Destroys the window and creates it again with new parameters, keeping text, focus and children.
@@ -229,6 +230,7 @@ private:
     void InvalidateArea(const TRect& Area, bool Erase);
     void InvalidatePending();
     void UpdateBounds();
+    bool TakesMessage(TMessage& Message);
     bool IsControlMouseMsg(TWMMouse& Message);
     bool IsControlContextMenu(TMessage& Message);
     void TrackPointer(const TPoint& Pos, bool Captured);
@@ -257,6 +259,7 @@ private:
     bool FShowing = false;
     bool FCreateVisible = false;
     bool FMovesOver = false; // to a new parent, window and all
+    bool FWindowGoes = false;
     bool FCtl3D = true;
     bool FParentCtl3D = true;
     bool FDoubleBuffered = false;

@@ -1,4 +1,5 @@
 // Focus, tab order and keys of TWinControl.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/DragManager.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/WinControl.h"
@@ -159,17 +160,19 @@ void TWinControl::KeyUp(uint16_t& Key, TShiftState Shift)
     OnKeyUp(this, Key, Shift);
 }
 
+// True when the key is used up, or the control gone.
 bool TWinControl::DoKey(TWMKey& Message, void (TWinControl::*Handler)(uint16_t&, TShiftState))
 {
+    const TStillThere Still(this);
     TFormLink* Form = ParentFormLink();
-    if (Form && Form->WantKey(this, Message))
+    if ((Form && Form->WantKey(this, Message)) || !Still)
         return true;
     if (GetControlStyle().Contains(csNoStdEvents))
         return false;
     uint16_t Key = Message.CharCode;
     (this->*Handler)(Key, KeyDataToShiftState(Message.KeyData()));
     Message.CharCode = Key;
-    return Key == 0;
+    return Key == 0 || !Still;
 }
 
 void TWinControl::WMKeyDown(TWMKey& Message)
@@ -186,14 +189,15 @@ void TWinControl::WMKeyUp(TWMKey& Message)
 
 void TWinControl::WMChar(TWMKey& Message)
 {
+    const TStillThere Still(this);
     TFormLink* Form = ParentFormLink();
-    if (Form && Form->WantKey(this, Message))
+    if ((Form && Form->WantKey(this, Message)) || !Still)
         return;
     if (!GetControlStyle().Contains(csNoStdEvents)) {
         auto Key = static_cast<char16_t>(Message.CharCode);
         KeyPress(Key);
         Message.CharCode = Key;
-        if (Key == 0)
+        if (Key == 0 || !Still)
             return;
     }
     Inherited(Message);

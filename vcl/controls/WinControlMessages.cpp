@@ -1,4 +1,5 @@
 // The messages of TWinControl.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/ControlCanvas.h"
 #include "vcl/controls/DragManager.h"
 #include "vcl/controls/FormHost.h"
@@ -78,6 +79,11 @@ void TWinControl::Describe(TClassBuilder<TWinControl>& Class)
 void TWinControl::MainWndProc(TMessage& Message)
 {
     const HWND Window = FHandle;
+    // Handlers of focus, size and the like may not run for a window, and perhaps a control, that is on its way out.
+    if (FWindowGoes && Message.Msg != WM_DESTROY && Message.Msg != WM_NCDESTROY) {
+        TWinControl::DefaultHandler(Message);
+        return;
+    }
     try {
         if (TWndMethod& Hook = FWindowProc)
             Hook(Message);
@@ -100,44 +106,47 @@ void TWinControl::DefaultHandler(TMessage& Message)
 
 void TWinControl::WndProc(TMessage& Message)
 {
+    const TStillThere Still(this);
+    if (!TakesMessage(Message) && Still)
+        inherited::WndProc(Message);
+}
+
+// What must be done before the handlers; true when there is nothing left for them. This control may be gone then.
+bool TWinControl::TakesMessage(TMessage& Message)
+{
     if (TDragManager::HandleMessage(*this, Message))
-        return;
+        return true;
     switch (Message.Msg) {
     case WM_SETFOCUS: {
         TFormLink* Form = ParentFormLink();
-        if (Form && !Form->SetFocusedControl(this))
-            return;
-        break;
+        return Form && !Form->SetFocusedControl(this);
     }
-    case WM_KILLFOCUS:
-        if (GetControlState().Contains(csFocusing))
-            return;
-        break;
+    case WM_KILLFOCUS: return GetControlState().Contains(csFocusing);
     case WM_CANCELMODE:
         if (GetCapture() == FHandle) {
             TControl* Owner = TMouse::CaptureControl();
             if (Owner && Owner->GetParent() == this)
                 Owner->Perform(WM_CANCELMODE);
         }
-        break;
-    case WM_CAPTURECHANGED: TMouse::CaptureChanged(reinterpret_cast<HWND>(Message.LParam)); break;
-    case WM_MOUSELEAVE: TMouse::UpdateHotControl(); break;
-    case WM_CONTEXTMENU:
-        if (IsControlContextMenu(Message))
-            return;
-        break;
-    default:
-        if (Message.Msg >= WM_MOUSEFIRST && Message.Msg <= WM_MOUSELAST && Message.Msg != WM_MOUSEWHEEL) {
-            HWND Window = FHandle;
-            if (!IsControlMouseMsg(static_cast<TWMMouse&>(Message)))
-                break;
-            // The system asks for a context menu then. This control may be gone already.
-            if (Message.Msg == WM_RBUTTONUP && Message.Result == 0)
-                DefWindowProcW(Window, Message.Msg, Message.WParam, Message.LParam);
-            return;
-        }
+        return false;
+    case WM_CAPTURECHANGED: TMouse::CaptureChanged(reinterpret_cast<HWND>(Message.LParam)); return false;
+    case WM_MOUSELEAVE: TMouse::UpdateHotControl(); return false;
+    case WM_CONTEXTMENU: return IsControlContextMenu(Message);
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL: return false; // these come with the focus, not with the pointer
+    default: break;
     }
-    inherited::WndProc(Message);
+    if (Message.Msg < WM_MOUSEFIRST || Message.Msg > WM_MOUSELAST)
+        return false;
+    HWND Window = FHandle;
+    if (!IsControlMouseMsg(static_cast<TWMMouse&>(Message)))
+        return false;
+    // What a windowless control has not answered is the window's: the system makes other messages of these, such as
+    // WM_CONTEXTMENU and WM_APPCOMMAND.
+    const bool MayLeadOn = Message.Msg == WM_RBUTTONUP || Message.Msg == WM_XBUTTONUP;
+    if (MayLeadOn && Message.Result == 0)
+        Message.Result = DefWindowProcW(Window, Message.Msg, Message.WParam, Message.LParam);
+    return true;
 }
 
 // ---- mouse
@@ -156,23 +165,27 @@ bool TWinControl::IsControlContextMenu(TMessage& Message)
 
 bool TWinControl::IsControlMouseMsg(TWMMouse& Message)
 {
-    TPoint Pos = Message.Pos;
-    TControl* Target = nullptr;
-    const bool Captured = GetCapture() == FHandle;
-    if (Captured) {
-        TControl* Owner = TMouse::CaptureControl();
-        if (Owner && Owner->FParent == this)
-            Target = Owner;
-    } else {
-        Target = ControlAtPos(Pos, false);
-    }
-    if (Message.Msg == WM_MOUSEMOVE)
+    const TPoint Pos = Message.Pos;
+    bool Captured = GetCapture() == FHandle;
+    if (Message.Msg == WM_MOUSEMOVE) {
+        const TStillThere Still(this);
+        const TControl* Before = TMouse::HotControl();
         TrackPointer(Pos, Captured);
-    else if (Message.Msg != WM_LBUTTONUP && Message.Msg != WM_RBUTTONUP && Message.Msg != WM_MBUTTONUP)
+        if (!Still)
+            return true;
+        if (TMouse::HotControl() != Before)
+            Captured = GetCapture() == FHandle; // handlers have run
+    } else if (Message.Msg != WM_LBUTTONUP && Message.Msg != WM_RBUTTONUP && Message.Msg != WM_MBUTTONUP) {
         TFormHost::Get().CancelHint();
+    }
+    TControl* Target = nullptr;
+    if (!Captured)
+        Target = ControlAtPos(Pos, false);
+    else if (TControl* Owner = TMouse::CaptureControl(); Owner && Owner->FParent == this)
+        Target = Owner;
     if (!Target)
         return false;
-    // The target may be deleted by what it does.
+    // What the target does may delete it, and this control.
     int X = Pos.X - Target->FLeft;
     int Y = Pos.Y - Target->FTop;
     Message.Result = Target->Perform(Message.Msg, Message.WParam, MAKELPARAM(X, Y));
@@ -194,10 +207,8 @@ void TWinControl::TrackPointer(const TPoint& Pos, bool Captured)
     if (Before == Now)
         return;
     // Asked for anew whenever the pointer comes from elsewhere: the request ends when it is answered.
-    if (!Before || (Before != this && Before->FParent != this)) {
-        TRACKMOUSEEVENT Track{sizeof(TRACKMOUSEEVENT), TME_LEAVE, FHandle, 0};
-        TrackMouseEvent(&Track);
-    }
+    if (!Before || (Before != this && Before->FParent != this))
+        TMouse::RequestLeave(FHandle);
     // The mouse would not have come here if another window had it.
     TMouse::SetHotControl(Now, nullptr);
 }
@@ -248,10 +259,12 @@ void TWinControl::WMPaint(TMessage& Message)
         TWindowPainter::Paint(*this);
         return;
     }
+    const TStillThere Still(this);
     TRect Clip;
     GetClipBox(DC, &Clip);
     PaintWindow(DC);
-    PaintControls(DC, Clip);
+    if (Still)
+        PaintControls(DC, Clip);
 }
 
 void TWinControl::WMEraseBkgnd(TMessage& Message)
@@ -320,23 +333,26 @@ void TWinControl::CNCtlColor(TMessage& Message)
 
 void TWinControl::WMSize(TWMSize& Message)
 {
+    const TStillThere Still(this);
     UpdateBounds();
     Inherited(Message);
-    Realign();
-    if (!IsLoading() && !GetControlState().Contains(csCreating))
+    if (Still)
+        Realign();
+    if (Still && !IsLoading() && !GetControlState().Contains(csCreating))
         Resize();
 }
 
 void TWinControl::WMWindowPosChanged(TWMWindowPosChanged& Message)
 {
     if (FHandle && Message.LParam) {
+        const TStillThere Still(this);
         UINT Flags = Message.WindowPos().flags;
         bool Moved = !(Flags & SWP_NOMOVE);
         bool Resized = !(Flags & SWP_NOSIZE);
         if (Moved || Resized)
             UpdateBounds();
         Inherited(Message);
-        if ((Moved || Resized) && !IsLoading())
+        if (Still && (Moved || Resized) && !IsLoading())
             RequestAlign();
     }
 }
@@ -354,10 +370,12 @@ void TWinControl::CMRecreateWnd(TMessage&)
 {
     if (!FHandle)
         return;
+    const TStillThere Still(this);
     bool HadFocus = Focused();
     DestroyHandle();
-    UpdateControlState();
-    if (HadFocus && FHandle)
+    if (Still)
+        UpdateControlState();
+    if (Still && HadFocus && FHandle)
         ::SetFocus(FHandle);
 }
 
@@ -371,19 +389,23 @@ void TWinControl::CMShowingChanged(TMessage&)
 
 void TWinControl::CMVisibleChanged(TMessage&)
 {
+    const TStillThere Still(this);
     if (!GetVisible())
         if (TFormLink* Form = ParentFormLink())
             Form->DefocusControl(this, false);
-    RequestAlign();
-    UpdateControlState();
+    if (Still)
+        RequestAlign();
+    if (Still)
+        UpdateControlState();
 }
 
 void TWinControl::CMEnabledChanged(TMessage&)
 {
+    const TStillThere Still(this);
     if (!GetEnabled())
         if (TFormLink* Form = ParentFormLink())
             Form->DefocusControl(this, false);
-    if (FHandle && !IsDesigning())
+    if (Still && FHandle && !IsDesigning())
         EnableWindow(FHandle, GetEnabled());
 }
 
@@ -438,9 +460,10 @@ void TWinControl::CMBroadcast(TMessage& Message)
 
 void TWinControl::WMSysColorChange(TMessage& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
     // Once for each top window; it passes it on to its controls.
-    if (!GetParent())
+    if (Still && !GetParent())
         Perform(CM_SYSCOLORCHANGE);
 }
 
@@ -452,7 +475,10 @@ void TWinControl::CMSysColorChange(TMessage&)
 
 void TWinControl::WMFontChange(TMessage& Message)
 {
+    const TStillThere Still(this);
     Inherited(Message);
-    Perform(CM_FONTCHANGE);
-    NotifyControls(CM_FONTCHANGE);
+    if (Still)
+        Perform(CM_FONTCHANGE);
+    if (Still)
+        NotifyControls(CM_FONTCHANGE);
 }

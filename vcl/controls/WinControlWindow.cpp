@@ -1,7 +1,9 @@
 // The life of a control's window.
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/Mouse.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/controls/WindowClass.h"
+#include "vcl/system/Scope.h"
 
 #include <algorithm>
 
@@ -95,13 +97,20 @@ void TWinControl::CreateWindowHandle(const TCreateParams& Params)
 
 void TWinControl::DestroyWindowHandle()
 {
+    const TStillThere Still(this);
+    TMouse::WindowGone(*this);
+    if (!Still || !FHandle)
+        return;
     SetControlFlag(csDestroyingHandle, true);
-    // From here on no message may reach an object that is half gone.
-    HWND Window = std::exchange(FHandle, nullptr);
+    SetControlFlag(csLButtonDown, false);
+    SetControlFlag(csClicked, false);
     FShowing = false;
-    TMouse::CaptureChanged(nullptr);
-    SetWindowLongPtrW(Window, GWLP_USERDATA, 0);
-    DestroyWindow(Window);
+    FWindowGoes = true;
+    DestroyWindow(FHandle);
+    if (!Still)
+        return;
+    FWindowGoes = false;
+    FHandle = nullptr;
     SetControlFlag(csDestroyingHandle, false);
 }
 
@@ -114,11 +123,13 @@ void TWinControl::DestroyWnd()
 
 void TWinControl::DestroyHandle()
 {
-    if (!FHandle)
+    if (!FHandle || FWindowGoes)
         return;
-    for (TWinControl* Child : FWindows)
-        Child->DestroyHandle();
-    DestroyWnd();
+    const TStillThere Still(this);
+    for (size_t I = 0; Still && I < FWindows.size(); ++I)
+        FWindows[I]->DestroyHandle();
+    if (Still)
+        DestroyWnd();
 }
 
 void TWinControl::SetParent(TWinControl* Value)
@@ -126,16 +137,17 @@ void TWinControl::SetParent(TWinControl* Value)
     const TWinControl* Before = GetParent();
     const bool MovesOver =
         FHandle && Before && Value && Before->FShowing && Value->FShowing && !FormLink() && !IsDestroying();
+    const TStillThere Still(this);
     const bool Outer = std::exchange(FMovesOver, MovesOver);
-    try {
-        inherited::SetParent(Value);
-    } catch (...) {
+    TScopeExit End([&] {
+        if (!Still)
+            return;
         FMovesOver = Outer;
-        if (!GetParent())
+        // A new parent that has refused it leaves the window nowhere.
+        if (!GetParent() && Value)
             DestroyHandle();
-        throw;
-    }
-    FMovesOver = Outer;
+    });
+    inherited::SetParent(Value);
 }
 
 void TWinControl::TakeWindow(TWinControl& Child)
@@ -176,8 +188,11 @@ void TWinControl::UpdateShowing()
             FCreateVisible = GetParent() && !IsWindowVisible(GetParent()->GetHandle());
             CreateHandle();
         }
-        for (size_t I = 0; I < FWindows.size(); ++I)
+        const TStillThere Still(this);
+        for (size_t I = 0; Still && I < FWindows.size(); ++I)
             FWindows[I]->UpdateShowing();
+        if (!Still)
+            return;
     }
     if (FHandle && FShowing != Show) {
         FShowing = Show;

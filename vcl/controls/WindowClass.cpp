@@ -45,6 +45,12 @@ HWND TWindowClass::CreateWindowFor(TWinControl& Control, const TCreateParams& Pa
     return Window;
 }
 
+void TWindowClass::ReturnToSystem(HWND Window, WNDPROC Procedure)
+{
+    SetWindowLongPtrW(Window, GWLP_USERDATA, 0);
+    SetWindowLongPtrW(Window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure));
+}
+
 TWinControl* TWindowClass::ControlOf(HWND Window)
 {
     // Other programs' windows answer 0 here, and a foreign class another procedure.
@@ -73,10 +79,18 @@ TWinControl* FindControl(HWND Window)
     return TWindowClass::ControlOf(Window);
 }
 
+TWinControl* FindEnclosingControl(HWND Window)
+{
+    for (; Window; Window = GetAncestor(Window, GA_PARENT))
+        if (TWinControl* Control = FindControl(Window))
+            return Control;
+    return nullptr;
+}
+
 TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled)
 {
     // WindowFromPoint passes over disabled windows, so their parents are asked.
-    TWinControl* Window = FindControl(WindowFromPoint(Pos));
+    TWinControl* Window = FindEnclosingControl(WindowFromPoint(Pos));
     if (!Window)
         return nullptr;
     TControl* Target = Window;

@@ -11,6 +11,8 @@ public:
     // Registers Params' class when it is not yet, and creates the window for Control. Raises EOSError when the system
     // refuses.
     static HWND CreateWindowFor(TWinControl& Control, const TCreateParams& Params);
+    // Control has no part in the window any more: from here on it is one of the class that Procedure belongs to.
+    static void ReturnToSystem(HWND Window, WNDPROC Procedure);
     // The control of a window of ours; nullptr for every other window.
     static TWinControl* ControlOf(HWND Window);
 

@@ -1,6 +1,7 @@
 // The message loop of TApplication, and its exceptions.
 #include "vcl/forms/Application.h"
 
+#include "vcl/controls/Mouse.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/HintController.h"
@@ -81,6 +82,7 @@ void TApplication::Dispatch(MSG& Msg)
         return;
     if (Msg.message == WM_MOUSEMOVE || Msg.message == WM_NCMOUSEMOVE)
         FHints->PointerMoved(Msg.pt);
+    TMouse::FollowOverForeignWindow(Msg);
     const TCustomForm* Main = FMainForm;
     if (Main && Main->FMdiFrame && Main->FMdiFrame->TranslateKey(Msg))
         return;
@@ -93,15 +95,6 @@ void TApplication::Dispatch(MSG& Msg)
 // ---- keys
 
 namespace {
-
-// Ours, or the one that a foreign window lies in.
-TWinControl* ControlOf(HWND Window)
-{
-    for (; Window; Window = GetAncestor(Window, GA_PARENT))
-        if (TWinControl* Control = FindControl(Window))
-            return Control;
-    return nullptr;
-}
 
 bool PopupMenusWant(TWinControl* Control, TShortCut ShortCut)
 {
@@ -134,7 +127,7 @@ bool TApplication::IsKeyMessage(MSG& Msg)
 {
     if (Msg.message < WM_KEYFIRST || Msg.message > WM_KEYLAST || GetCapture())
         return false;
-    TWinControl* Control = ControlOf(Msg.hwnd);
+    TWinControl* Control = FindEnclosingControl(Msg.hwnd);
     if (!Control || Control->ComponentState.Contains(csDesigning))
         return false;
     if (Msg.message == WM_KEYDOWN || Msg.message == WM_SYSKEYDOWN) {
@@ -142,7 +135,7 @@ bool TApplication::IsKeyMessage(MSG& Msg)
         if (IsShortCut(Control, Message))
             return true;
         // A handler may have closed the form.
-        Control = ControlOf(Msg.hwnd);
+        Control = FindEnclosingControl(Msg.hwnd);
         if (!Control)
             return true;
     }

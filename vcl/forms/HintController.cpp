@@ -1,5 +1,6 @@
 #include "vcl/forms/HintController.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Screen.h"
@@ -74,11 +75,11 @@ THintController::~THintController()
 
 void THintController::HotControlChanged(TControl* Old, TControl* New)
 {
-    TControl* Owner = HintControlOf(New);
+    const TComponentRef<TControl> Owner(HintControlOf(New));
     // What the OnHint handler of a form needs may be gone already while that is being deleted.
     if (!IsInDestroyed(Old))
         FApplication.Hint = GetLongHint(HintOf(New));
-    if (Owner && Owner == FControl && FPhase != hpNone && FPhase != hpHidden)
+    if (Owner && Owner.Get() == FControl.Get() && FPhase != hpNone && FPhase != hpHidden)
         return;
     const bool WasShowing = FPhase == hpShowing;
     Cancel();
@@ -164,9 +165,13 @@ void THintController::Activate(const TPoint& Pos)
 
 bool THintController::Ask(THintInfo& Info) const
 {
+    const TControl* Asked = Info.HintControl;
+    const TStillThere Still(Info.HintControl);
     bool CanShow = Info.HintControl->Perform(CM_HINTSHOW, 0, reinterpret_cast<intptr_t>(&Info)) == 0;
+    if (!Still)
+        return false;
     FApplication.OnShowHint(Info.HintStr, CanShow, Info);
-    return CanShow && Info.HintControl;
+    return CanShow && Info.HintControl && (Still || Info.HintControl != Asked);
 }
 
 void THintController::Show(const THintInfo& Info)

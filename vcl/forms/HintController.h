@@ -1,6 +1,7 @@
 // THintController: when which hint shows. It follows the pointer from control to control and owns the hint window.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/HintInfo.h"
 #include "vcl/forms/HintWindow.h"
 
@@ -36,8 +37,8 @@ private:
 
     TApplication& FApplication;
     std::unique_ptr<THintWindow> FWindow;
-    TControl* FControl = nullptr; // only compared with
-    TRect FCursorRect;            // on the screen
+    TComponentRef<TControl> FControl;
+    TRect FCursorRect; // on the screen
     TPhase FPhase = hpNone;
     bool FTimerRuns = false;
     bool FReshow = false;

@@ -57,6 +57,15 @@ void TCustomEdit::CreateParams(TCreateParams& Params)
     }
 }
 
+// An edit of one line has nothing to scroll, but not every system's edit leaves the wheel to the parent then.
+void TCustomEdit::DefaultHandler(TMessage& Message)
+{
+    if (Message.Msg == WM_MOUSEWHEEL && HandleAllocated() && !IsMultiLine())
+        Message.Result = DefWindowProcW(Handle, Message.Msg, Message.WParam, Message.LParam);
+    else
+        inherited::DefaultHandler(Message);
+}
+
 void TCustomEdit::CreateWnd()
 {
     FCreating = true;

@@ -9,6 +9,7 @@ class TCustomEdit : public TWinControl {
     VCL_CLASS(TCustomEdit, TWinControl)
 public:
     explicit TCustomEdit(TComponent* AOwner);
+    void DefaultHandler(TMessage& Message) override;
 
     // Entering the control by keyboard selects all of its text.
     bool AutoSelect = true;
