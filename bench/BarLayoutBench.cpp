@@ -3,7 +3,7 @@
 #include "bench/Bench.h"
 #include "bench/ButtonForms.h"
 
-void BarLayoutBench()
+FIGURE(bar_layout)
 {
     TBarForm Bars(1, 100);
     Bars.Form->Show();

@@ -92,7 +92,7 @@ double LoadForm(TMemoryStream& Stream)
 
 } // namespace
 
-void BarRecordsBench()
+FIGURE(bar_records)
 {
     TBarForm Form(BarCount, 10);
     std::vector<std::wstring> Paths;

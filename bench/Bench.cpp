@@ -7,6 +7,28 @@
 #include <exception>
 #include <string_view>
 
+namespace {
+
+struct TFigure {
+    std::string_view Name;
+    void (*Measure)();
+};
+
+// All that FIGURE has defined.
+std::vector<TFigure>& Figures()
+{
+    static std::vector<TFigure> All;
+    return All;
+}
+
+} // namespace
+
+bool AddFigure(const char* Name, void (*Measure)())
+{
+    Figures().push_back({Name, Measure});
+    return true;
+}
+
 double TStopwatch::Microseconds() const
 {
     LARGE_INTEGER Now, Frequency;
@@ -44,29 +66,8 @@ void PrintFigure(const char* Name, double Value, const char* Unit, double Baseli
 
 int main(int Count, char** Arguments)
 {
-    const struct {
-        std::string_view Name;
-        void (*Measure)();
-    } Figures[] = {
-        {"glyph_draw", &GlyphDrawBench},
-        {"buttons_open", &ButtonsOpenBench},
-        {"buttons_repaint", &ButtonsRepaintBench},
-        {"hot_track", &HotTrackBench},
-        {"buttons_memory", &ButtonsMemoryBench},
-        {"form_load", &FormLoadBench},
-        {"drag_step", &DragStepBench},
-        {"float_dock", &FloatDockBench},
-        {"bar_records", &BarRecordsBench},
-        {"bar_layout", &BarLayoutBench},
-        {"menu_open", &MenuOpenBench},
-        {"menu_switch", &MenuSwitchBench},
-        {"menu_draw", &MenuDrawBench},
-        {"hook_cost", &HookCostBench},
-        {"startup", &StartupBench},
-        {"folder_menu", &FolderMenuBench},
-    };
     try {
-        for (const auto& Figure : Figures)
+        for (const TFigure& Figure : Figures())
             if (Count == 1 || std::find(Arguments + 1, Arguments + Count, Figure.Name) != Arguments + Count)
                 Figure.Measure();
         return EXIT_SUCCESS;

@@ -28,20 +28,11 @@ TMeasure Compare(const std::function<double()>& Subject, const std::function<dou
 // One line: name value unit baseline ratio. Without a baseline (0) there are dashes in place of the last two.
 void PrintFigure(const char* Name, double Value, const char* Unit, double Baseline = 0);
 
-// The figures.
-void GlyphDrawBench();
-void ButtonsOpenBench();
-void ButtonsRepaintBench();
-void HotTrackBench();
-void ButtonsMemoryBench();
-void FormLoadBench();
-void DragStepBench();
-void FloatDockBench();
-void BarRecordsBench();
-void BarLayoutBench();
-void MenuOpenBench();
-void MenuSwitchBench();
-void MenuDrawBench();
-void HookCostBench();
-void StartupBench();
-void FolderMenuBench();
+// Defines the function that measures the figure Name, or several that are measured together, and adds it to those that
+// the program runs: FIGURE(glyph_draw) { ... }
+#define FIGURE(Name)                                                                                                   \
+    static void Measure_##Name();                                                                                      \
+    [[maybe_unused]] static const bool Added_##Name = AddFigure(#Name, &Measure_##Name);                               \
+    static void Measure_##Name()
+
+bool AddFigure(const char* Name, void (*Measure)());

@@ -32,7 +32,7 @@ double PrivateBytes()
 } // namespace
 
 // The first forms bring what all share; then many buttons are compared with few on as many panels.
-void ButtonsMemoryBench()
+FIGURE(buttons_memory)
 {
     constexpr int Many = 1000, Few = 50;
     TMemoryStream FewStream, ManyStream;

@@ -3,7 +3,7 @@
 #include "bench/Bench.h"
 #include "bench/ButtonForms.h"
 
-void ButtonsOpenBench()
+FIGURE(buttons_open)
 {
     TMemoryStream Stream;
     WriteButtonForm(Stream);

@@ -26,7 +26,7 @@ double MedianStep(const TStep& Step)
 
 } // namespace
 
-void DragStepBench()
+FIGURE(drag_step)
 {
     TBarForm Bars(8, 10);
     // As long as the dock, so that no row has room for another.

@@ -41,7 +41,7 @@ double BareWindow(HWND Parent)
 
 } // namespace
 
-void FloatDockBench()
+FIGURE(float_dock)
 {
     TBarForm Bars(1, 20);
     Bars.Form->Show();

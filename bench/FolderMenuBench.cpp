@@ -34,7 +34,7 @@ double Ask(const AnsiString& Folder, const std::vector<AnsiString>& Paths)
 
 } // namespace
 
-void FolderMenuBench()
+FIGURE(folder_menu)
 {
     const TTestFolder Folder;
     for (int I = 0; I < 1000; ++I)

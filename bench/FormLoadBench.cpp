@@ -36,7 +36,7 @@ void WriteMixedForm(TMemoryStream& Stream)
 
 } // namespace
 
-void FormLoadBench()
+FIGURE(form_load)
 {
     TMemoryStream Stream;
     WriteMixedForm(Stream);

@@ -3,7 +3,7 @@
 #include "bench/ButtonForms.h"
 #include "toolbar/Glyphs.h"
 
-void GlyphDrawBench()
+FIGURE(glyph_draw)
 {
     constexpr int Draws = 500;
     TForm Form(nullptr);

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-void HookCostBench()
+FIGURE(hook_cost)
 {
     constexpr int Moves = 10000;
     TComponent Owner(nullptr);

@@ -30,7 +30,7 @@ double StepOver(HWND Window, HWND Bar)
 
 } // namespace
 
-void HotTrackBench()
+FIGURE(hot_track)
 {
     TMemoryStream Stream;
     WriteButtonForm(Stream);

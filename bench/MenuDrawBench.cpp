@@ -30,7 +30,7 @@ double PerDraw(const std::function<void(int Index)>& Draw)
 
 } // namespace
 
-void MenuDrawBench()
+FIGURE(menu_draw)
 {
     TForm Form(nullptr);
     Form.SetBounds(10, 10, 300, 600);

@@ -3,7 +3,7 @@
 #include "bench/BenchMenus.h"
 #include "bench/MenuTimer.h"
 
-void MenuOpenBench()
+FIGURE(menu_open)
 {
     constexpr int ItemCount = 30;
     TBenchMenu Menu(nullptr, ItemCount);

@@ -6,7 +6,7 @@
 #include "menus/MenuButton.h"
 #include "vcl/forms/Application.h"
 
-void MenuSwitchBench()
+FIGURE(menu_switch)
 {
     constexpr int ItemCount = 10;
     constexpr int Switches = 30;

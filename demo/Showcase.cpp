@@ -8,7 +8,7 @@
 //     demo --restored FOLDER N is the second half of the tour, after N pictures
 //
 //     demo --startup           prints how many microseconds it took from the start of the process to the first painted
-//                              window
+//                              window, how many child windows that has, and how many tool buttons
 #include "demo/Main.h"
 #include "demo/MenuTour.h"
 #include "demo/Tour.h"
@@ -33,6 +33,25 @@ uint64_t Microseconds(const FILETIME& Time)
     return ((uint64_t{Time.dwHighDateTime} << 32) | Time.dwLowDateTime) / 10;
 }
 
+int ButtonsIn(TWinControl* Parent)
+{
+    int Count = 0;
+    for (int I = 0; I < Parent->ControlCount; ++I) {
+        TControl* Control = Parent->Controls[I];
+        if (As<TkelSpeedButton>(Control))
+            ++Count;
+        if (auto* Inner = As<TWinControl>(Control))
+            Count += ButtonsIn(Inner);
+    }
+    return Count;
+}
+
+BOOL CALLBACK CountWindow(HWND, LPARAM Count)
+{
+    ++*reinterpret_cast<int*>(Count);
+    return TRUE;
+}
+
 void PrintStartup(TMainForm* Form)
 {
     Form->Show();
@@ -41,7 +60,10 @@ void PrintStartup(TMainForm* Form)
     FILETIME Started, Exit, Kernel, User, Now;
     GetSystemTimeAsFileTime(&Now);
     GetProcessTimes(GetCurrentProcess(), &Started, &Exit, &Kernel, &User);
-    std::printf("%llu\n", static_cast<unsigned long long>(Microseconds(Now) - Microseconds(Started)));
+    int Windows = 0;
+    EnumChildWindows(Form->Handle, &CountWindow, reinterpret_cast<LPARAM>(&Windows));
+    std::printf("%llu %d %d\n", static_cast<unsigned long long>(Microseconds(Now) - Microseconds(Started)), Windows,
+                ButtonsIn(Form));
 }
 
 // Runs this program once more and waits for it. Raises an Exception when it fails.
