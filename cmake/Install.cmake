@@ -33,6 +33,9 @@ foreach(tool formconv glyphpack)
         install(TARGETS ${tool})
     endif()
 endforeach()
+if(TARGET formcheck)
+    install(TARGETS formcheck)
+endif()
 
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/TessaryConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(

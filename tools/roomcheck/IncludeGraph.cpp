@@ -15,10 +15,11 @@ std::string Place(const std::string& File, int Line)
     return File + ":" + std::to_string(Line) + ": ";
 }
 
+// The programs of the documentation are projects of their own.
 bool IsSkippedFolder(const fs::path& Folder)
 {
     const std::string Name = Folder.filename().string();
-    return Name.starts_with(".") || Name.starts_with("build");
+    return Name.starts_with(".") || Name.starts_with("build") || Name == "docs";
 }
 
 bool IsSource(const fs::path& File)

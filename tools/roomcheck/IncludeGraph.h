@@ -8,7 +8,7 @@
 
 class TIncludeGraph {
 public:
-    // Reads every .h and .cpp below Root, but not in folders whose name starts with a dot or with "build".
+    // Reads every .h and .cpp below Root, but not in folders whose name starts with a dot or with "build" or is "docs".
     explicit TIncludeGraph(const std::filesystem::path& Root);
 
     // What breaks a rule, as "FILE:LINE: message", sorted by file. Rooms are folders, the lowest

@@ -104,11 +104,13 @@ TEST_F(IncludeGraph, SameHeaderByTwoWaysIsNoCycle)
     EXPECT_THAT(Errors(), IsEmpty());
 }
 
-TEST_F(IncludeGraph, BuildFoldersAndHiddenFoldersAreNotRead)
+TEST_F(IncludeGraph, BuildFoldersHiddenFoldersAndProjectsInDocsAreNotRead)
 {
     File("build/A.h", "#include \"nowhere.h\"\n");
     File("build-2/A.h", "#include \"nowhere.h\"\n");
     File(".git/A.h", "#include \"nowhere.h\"\n");
+    File("docs/program/A.h", "");
+    File("docs/program/A.cpp", "#include \"A.h\"\n#include <windows.h>\n");
     File("top/notes.txt", "#include \"nowhere.h\"\n");
     EXPECT_THAT(Errors(), IsEmpty());
 }
