@@ -39,15 +39,7 @@ TCustomLabeledEdit::TCustomLabeledEdit(TComponent* AOwner) : TCustomEdit(AOwner)
     FEditLabel = new TBoundLabel(this);
     FEditLabel->Name = "SubLabel";
     FEditLabel->Caption = "";
-    FEditLabel->FreeNotification(this);
     FEditLabel->FocusControl = this;
-}
-
-void TCustomLabeledEdit::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FEditLabel)
-        FEditLabel = nullptr;
 }
 
 void TCustomLabeledEdit::PlaceLabel()

@@ -37,9 +37,6 @@ public:
     void SetName(const AnsiString& Value) override;
     AnsiString AccessibleName() const override;
 
-protected:
-    void Notification(TComponent* Component, TOperation Operation) override;
-
 private:
     friend class TBoundLabel;
 
@@ -47,7 +44,7 @@ private:
     void CMVisibleChanged(TMessage& Message);
     void PlaceLabel();
 
-    TBoundLabel* FEditLabel = nullptr;
+    TComponentRef<TBoundLabel> FEditLabel;
     int FLabelSpacing = 3;
     TLabelPosition FLabelPosition = lpAbove;
 };

@@ -95,12 +95,13 @@ void TCustomRadioGroup::UpdateButtons()
     }
     while (FButtons.size() < Count)
         FButtons.push_back(new TGroupButton(this));
-    FUpdating = true;
-    for (size_t I = 0; I < Count; ++I) {
-        FButtons[I]->Caption = FItems[static_cast<int>(I)];
-        FButtons[I]->Checked = static_cast<int>(I) == FItemIndex;
+    {
+        TScopedValue Updating(FUpdating, true);
+        for (size_t I = 0; I < Count; ++I) {
+            FButtons[I]->Caption = FItems[static_cast<int>(I)];
+            FButtons[I]->Checked = static_cast<int>(I) == FItemIndex;
+        }
     }
-    FUpdating = false;
     ArrangeButtons();
     Invalidate();
 }

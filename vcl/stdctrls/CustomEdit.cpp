@@ -2,6 +2,7 @@
 
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 #include "vcl/system/Utf.h"
 
 void TCustomEdit::Describe(TClassBuilder<TCustomEdit>& Class)
@@ -68,9 +69,10 @@ void TCustomEdit::DefaultHandler(TMessage& Message)
 
 void TCustomEdit::CreateWnd()
 {
-    FCreating = true;
-    inherited::CreateWnd();
-    FCreating = false;
+    {
+        TScopedValue Creating(FCreating, true);
+        inherited::CreateWnd();
+    }
     // 0 is sent too: it is the most there can be, while an edit that is told nothing stops at some 30,000 characters.
     SendMessageW(Handle, EM_LIMITTEXT, FMaxLength, 0);
     if (FPasswordChar)

@@ -5,6 +5,7 @@
 #include "vcl/graphics/DisabledText.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
+#include "vcl/system/Scope.h"
 
 void TCustomLabel::Describe(TClassBuilder<TCustomLabel>& Class)
 {
@@ -84,10 +85,14 @@ void TCustomLabel::AdjustBounds()
     if (IsLoading() || !AutoSize)
         return;
     TRect Text = ClientRect;
-    FMeasuring = true;
-    DoDrawText(Text, TextFlags() | DT_CALCRECT);
+    bool OnCanvas = false;
+    {
+        TScopedValue Measuring(FMeasuring, true);
+        DoDrawText(Text, TextFlags() | DT_CALCRECT);
+        OnCanvas = !FMeasuring;
+    }
     // Nothing is to be drawn on the context that the canvas got.
-    if (!std::exchange(FMeasuring, false))
+    if (OnCanvas)
         TControlCanvas::FreeHandles();
     int NewLeft = FAlignment == taRightJustify ? Left + Width - Text.Right : Left;
     SetBounds(NewLeft, Top, Text.Right, Text.Bottom);
@@ -121,8 +126,6 @@ void TCustomLabel::SetAlignment(TAlignment Value)
 void TCustomLabel::SetFocusControl(TWinControl* Value)
 {
     FFocusControl = Value;
-    if (Value)
-        Value->FreeNotification(this);
 }
 
 void TCustomLabel::SetLayout(TTextLayout Value)
@@ -163,13 +166,6 @@ void TCustomLabel::Loaded()
 {
     inherited::Loaded();
     AdjustBounds();
-}
-
-void TCustomLabel::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FFocusControl)
-        FFocusControl = nullptr;
 }
 
 void TCustomLabel::CMTextChanged(TMessage&)

@@ -1,6 +1,7 @@
 // TCustomLabel: text on a form, which can belong to another control.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/GraphicControl.h"
 #include "vcl/stdctrls/StdTypes.h"
 
@@ -53,7 +54,6 @@ protected:
     void Paint() override;
     HDC GetDeviceContext(HWND& Window) override;
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
 
 private:
     void CMTextChanged(TMessage& Message);
@@ -62,10 +62,10 @@ private:
 
     unsigned TextFlags() const;
 
-    TWinControl* FFocusControl = nullptr;
+    TComponentRef<TWinControl> FFocusControl;
     TAlignment FAlignment = taLeftJustify;
     TTextLayout FLayout = tlTop;
     bool FShowAccelChar = true;
     bool FWordWrap = false;
-    bool FMeasuring = false; // and the canvas has not asked for a context yet
+    bool FMeasuring = false; // the text is being measured and the canvas has not asked for a context yet
 };

@@ -64,8 +64,6 @@ void TCustomStaticText::SetBorderStyle(TStaticBorderStyle Value)
 void TCustomStaticText::SetFocusControl(TWinControl* Value)
 {
     FFocusControl = Value;
-    if (Value)
-        Value->FreeNotification(this);
 }
 
 void TCustomStaticText::SetShowAccelChar(bool Value)
@@ -89,13 +87,6 @@ void TCustomStaticText::Loaded()
 {
     inherited::Loaded();
     AdjustBounds();
-}
-
-void TCustomStaticText::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FFocusControl)
-        FFocusControl = nullptr;
 }
 
 void TCustomStaticText::CMDialogChar(TCMDialogChar& Message)

@@ -1,6 +1,7 @@
 // TCustomStaticText: a label with a window of its own.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/stdctrls/StdTypes.h"
 
@@ -31,7 +32,6 @@ public:
 protected:
     void CreateParams(TCreateParams& Params) override;
     void Loaded() override;
-    void Notification(TComponent* Component, TOperation Operation) override;
 
 private:
     void CMDialogChar(TCMDialogChar& Message);
@@ -39,7 +39,7 @@ private:
     void CMTextChanged(TMessage& Message);
     void AdjustBounds();
 
-    TWinControl* FFocusControl = nullptr;
+    TComponentRef<TWinControl> FFocusControl;
     TAlignment FAlignment = taLeftJustify;
     TStaticBorderStyle FBorderStyle = sbsNone;
     bool FShowAccelChar = true;
