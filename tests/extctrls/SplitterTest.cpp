@@ -98,6 +98,44 @@ TEST_F(SplitterTest, ASmallSizeSnapsShutOrStopsAtTheMinimum)
     EXPECT_EQ(Side->Width, 400 - 4 - 30);
 }
 
+// Docks without bars are such controls: aligned to an edge, and nowhere to be seen.
+TEST_F(SplitterTest, ControlsWithoutExtentAreNoNeighbours)
+{
+    for (TAlign Align : {alLeft, alRight, alTop, alBottom}) {
+        SCOPED_TRACE(Align);
+        Form = std::make_unique<TForm>(nullptr);
+        Form->SetBounds(100, 100, 400, 300);
+        std::vector<TPanel*> Empty;
+        for (TAlign Side : {alTop, alBottom, alLeft, alRight}) {
+            Empty.push_back(Add<TPanel>());
+            Empty.back()->Align = Side;
+            Empty.back()->SetBounds(0, 0, 0, 0);
+        }
+        Arrange(Align);
+        // Between the panel and the splitter, and at the form's edge.
+        Empty[0]->SetBounds(Side->Left, Side->Top + 1, Empty[0]->Width, Empty[0]->Height);
+        const bool Sideways = Align == alLeft || Align == alRight;
+        const int Towards = Align == alLeft || Align == alTop ? 1 : -1;
+        DragBy(Sideways ? 30 * Towards : 0, Sideways ? 0 : 30 * Towards);
+        EXPECT_EQ(Sideways ? Side->Width : Side->Height, 130);
+        for (const TPanel* Panel : Empty)
+            EXPECT_EQ(std::min(Panel->Width, Panel->Height), 0);
+    }
+}
+
+TEST_F(SplitterTest, WhatItHasClosedItOpensAgainBeforeItResizesAnother)
+{
+    auto* Edge = Add<TPanel>();
+    Edge->Align = alLeft;
+    Edge->Width = 40;
+    Arrange(alLeft);
+    DragBy(-90, 0);
+    ASSERT_EQ(Side->Width, 0);
+    DragBy(80, 0);
+    EXPECT_EQ(Side->Width, 80);
+    EXPECT_EQ(Edge->Width, 40);
+}
+
 TEST_F(SplitterTest, TheHandlerMayRefuseOrChangeTheSize)
 {
     Arrange(alLeft);

@@ -64,8 +64,17 @@ int TSplitter::SizeOf(const TControl* Control) const
     return SplitsSideways() ? Control->Width : Control->Height;
 }
 
+// Was closed by this splitter and still lies at the same side, without extent.
+bool TSplitter::IsClosed(const TControl* Control) const
+{
+    return Control && Control->Parent == Parent && Control->Align == Align && Control->Visible && Control->Enabled &&
+           SizeOf(Control) == 0;
+}
+
 TControl* TSplitter::FindNeighbour() const
 {
+    if (IsClosed(FClosed))
+        return FClosed;
     TPoint P(Left, Top);
     switch (Align) {
     case alLeft: P.X = Left - 1; break;
@@ -78,13 +87,7 @@ TControl* TSplitter::FindNeighbour() const
         TControl* Control = Parent->Controls[I];
         if (Control == this || !Control->Visible || !Control->Enabled)
             continue;
-        TRect R = Control->BoundsRect;
-        // A control that was closed is still beside the splitter, perhaps on its other side.
-        if (R.Width() == 0)
-            InflateRect(R, Width + 1, 0);
-        if (R.Height() == 0)
-            InflateRect(R, 0, Height + 1);
-        if (R.Contains(P))
+        if (Control->BoundsRect.Contains(P))
             return Control;
     }
     return nullptr;
@@ -112,7 +115,6 @@ void TSplitter::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
     FControl = FindNeighbour();
     if (!FControl)
         return;
-    FControl->FreeNotification(this);
     FDownPos = TPoint(X, Y);
     FindMaxSize();
     FOldSize = FNewSize = SizeOf(FControl);
@@ -200,6 +202,8 @@ void TSplitter::ApplySize()
     default: break;
     }
     Parent->EnableAlign();
+    if (FNewSize == 0)
+        FClosed = FControl;
     Update();
 }
 
@@ -214,13 +218,6 @@ void TSplitter::WMCancelMode(TMessage& Message)
 {
     StopSizing();
     Inherited(Message);
-}
-
-void TSplitter::Notification(TComponent* Component, TOperation Operation)
-{
-    inherited::Notification(Component, Operation);
-    if (Operation == opRemove && Component == FControl)
-        StopSizing();
 }
 
 // Drawn over everything in the parent; a second call takes it away.

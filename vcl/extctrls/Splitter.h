@@ -1,13 +1,15 @@
 // TSplitter: the bar between two parts of a form that changes their sizes.
 #pragma once
 
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/GraphicControl.h"
 
 VCL_ENUM(TResizeStyle, rsNone, rsLine, rsUpdate, rsPattern);
 // NewSize is the size that the control beside the splitter is about to get.
 using TCanResizeSplitEvent = TEvent<void(TObject* Sender, int& NewSize, bool& Accept)>;
 
-// Resizes the aligned control that lies beside it, on the side that it is aligned to.
+// Resizes the aligned control that lies beside it, on the side that it is aligned to. A control without extent, such as
+// an empty dock, is none that it finds there; what the splitter itself has closed it can open again.
 class TSplitter : public TGraphicControl {
     VCL_CLASS(TSplitter, TGraphicControl)
 public:
@@ -36,12 +38,12 @@ protected:
     void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
     void MouseMove(TShiftState Shift, int X, int Y) override;
     void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override;
-    void Notification(TComponent* Component, TOperation Operation) override;
 
 private:
     void WMCancelMode(TMessage& Message);
 
     bool SplitsSideways() const { return Align == alLeft || Align == alRight; }
+    bool IsClosed(const TControl* Control) const;
     TControl* FindNeighbour() const;
     void FindMaxSize();
     void Drag(int X, int Y);
@@ -50,7 +52,8 @@ private:
     void InvertLine();
     int SizeOf(const TControl* Control) const;
 
-    TControl* FControl = nullptr; // while the button is down
+    TComponentRef<TControl> FControl{this, &TSplitter::StopSizing}; // while the button is down
+    TComponentRef<TControl> FClosed;                                // what this splitter has closed last
     TPoint FDownPos;
     int FMaxSize = 0;
     int FOldSize = 0;
