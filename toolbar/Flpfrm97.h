@@ -1,8 +1,11 @@
-// TFPForm97: the frame of a floating tool bar, a small window that stays on top.
+// TFPForm97: the frame of a floating tool bar, a small window that stays on top. Its window belongs to that of the form
+// the bar comes from: it shows only while that one does, and is minimized with it.
 //
 // Its caption takes the mouse as its inside does, and the bar is dragged by it.
 #pragma once
 
+#include "common/WindowProcHook.h"
+#include "vcl/classes/ComponentRef.h"
 #include "vcl/forms/Form.h"
 
 class TkelToolBar;
@@ -20,10 +23,15 @@ public:
 
     // Becomes the frame of Bar, with its caption and as large as it takes. The bar comes here by itself.
     void CarryBar(TkelToolBar& Bar, bool Resizable, bool CloseBox);
-    // The mouse, closing and resizing no longer concern the bar.
-    void ForgetBar() { FToolBar = nullptr; }
+    // The mouse, closing and resizing no longer concern the bar, nor its form this frame.
+    void ForgetBar();
+    // Shows the frame as soon as the form does. Without a form that is at once.
+    void ShowWithForm();
     // Where the bar begins, seen from where it would with a caption of CapSize and no border; in pixels.
     TPoint BarOffset() const;
+
+protected:
+    void CreateParams(TCreateParams& Params) override;
 
 private:
     friend class TClassBuilder<TFPForm97>;
@@ -36,8 +44,15 @@ private:
     void FormMouseUp(TObject* Sender, TMouseButton Button, TShiftState Shift, int X, int Y);
     void FormResize(TObject* Sender);
 
+    void FormWndProc(TMessage& Message, const TWndMethod& Next);
+    void FormGone() { FFormHook.Forget(); }
+    HWND FormWindow() const;
+    void SetOwnerWindow(HWND Window);
+
     void WMNCHitTest(TMessage& Message);
     void WMGetMinMaxInfo(TMessage& Message);
 
     TkelToolBar* FToolBar = nullptr;
+    TComponentRef<TCustomForm> FForm{this, &TFPForm97::FormGone};
+    TWindowProcHook FFormHook;
 };

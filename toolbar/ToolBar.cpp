@@ -83,6 +83,7 @@ void TkelToolBar::Loaded()
     });
     inherited::Loaded();
     SortControls();
+    FUpright = Axis().IsVertical();
     if (FAutoSave && !IsDesigning())
         RestoreToolBarPosition(this);
     if (!IsHere)
@@ -211,7 +212,7 @@ void TkelToolBar::ShowPanel()
         return;
     Show();
     if (FFloating)
-        FFrame->Show();
+        FFrame->ShowWithForm();
     else
         InsertToDock();
 }

@@ -232,7 +232,7 @@ void TkelToolBar::EnterFrame()
 {
     const bool WasVisible = Visible;
     if (WasVisible) {
-        FFrame->Show();
+        FFrame->ShowWithForm();
         Hide();
     }
     SetBounds(0, 0, Width, Height);

@@ -541,6 +541,82 @@ TEST_F(ToolBarDragTest, WithoutAllowResizeAFrameHasNoEdgesToPull)
     EXPECT_NE(Hit, HTRIGHT);
 }
 
+// ---- frames and the form that their bars come from
+
+TEST_F(ToolBarDragTest, AFrameBelongsToTheFormsWindow)
+{
+    TTestBar* Bar = FloatingBar();
+    EXPECT_EQ(Bar->Frame->Owner, nullptr);
+    EXPECT_EQ(GetWindow(Bar->Frame->Handle, GW_OWNER), Form->Handle);
+    EXPECT_NE(GetWindowLongW(Bar->Frame->Handle, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+}
+
+TEST_F(ToolBarDragTest, AFrameIsMinimizedWithTheForm)
+{
+    TTestBar* Bar = FloatingBar();
+    for (int Time = 1; Time <= 2; ++Time) {
+        ShowWindow(Form->Handle, SW_MINIMIZE);
+        EXPECT_TRUE(PumpUntil([&] { return !IsWindowVisible(Bar->Frame->Handle); })) << Time;
+        EXPECT_TRUE(Bar->Visible);
+        ShowWindow(Form->Handle, SW_RESTORE);
+        EXPECT_TRUE(PumpUntil([&] { return IsWindowVisible(Bar->Frame->Handle) != 0; })) << Time;
+    }
+}
+
+TEST_F(ToolBarDragTest, AFrameIsClosedAndShownWithTheForm)
+{
+    TTestBar* Bar = FloatingBar();
+    Form->Close();
+    EXPECT_FALSE(IsWindowVisible(Bar->Frame->Handle));
+    EXPECT_TRUE(Bar->Visible);
+    Show();
+    EXPECT_TRUE(IsWindowVisible(Bar->Frame->Handle));
+    Bar->HidePanel();
+    Form->Close();
+    Show();
+    EXPECT_FALSE(IsWindowVisible(Bar->Frame->Handle)) << "a bar that the user has closed stays closed";
+}
+
+TEST_F(ToolBarDragTest, ABarOfAFormThatDoesNotShowIsNotToBeSeen)
+{
+    TTestBar* Bar = InsertBar(Top, "Bar", 0, 100);
+    Bar->FloatToPos(700, 300);
+    EXPECT_FALSE(Bar->Frame->Showing);
+    Show();
+    EXPECT_TRUE(IsWindowVisible(Bar->Frame->Handle));
+    EXPECT_EQ(GetWindow(Bar->Frame->Handle, GW_OWNER), Form->Handle);
+}
+
+TEST_F(ToolBarDragTest, AFrameOutlivesAWindowOfTheForm)
+{
+    TTestBar* Bar = FloatingBar();
+    const HWND Frame = Bar->Frame->Handle;
+    Form->Perform(CM_RECREATEWND);
+    PumpMessages();
+    EXPECT_EQ(Bar->Frame->Handle, Frame);
+    EXPECT_TRUE(IsWindow(Frame));
+    EXPECT_TRUE(IsWindowVisible(Frame));
+    EXPECT_EQ(GetWindow(Frame, GW_OWNER), Form->Handle);
+}
+
+TEST_F(ToolBarDragTest, ABarMayOutliveTheFormThatItComesFrom)
+{
+    auto* Bar = new TTestBar(nullptr);
+    Bar->Caption = "Bar";
+    Bar->Parent = Top;
+    Bar->SetBounds(0, 0, 100, 26);
+    Bar->InsertToDock();
+    Show();
+    Bar->FloatToPos(700, 300);
+    Form.reset();
+    PumpMessages();
+    EXPECT_TRUE(Bar->Floating);
+    delete Bar;
+    PumpMessages();
+    EXPECT_EQ(Screen->FormCount, 0);
+    Form = std::make_unique<TForm>(nullptr);
+}
+
 // ---- positions
 
 TEST_F(ToolBarDragTest, FloatToPosPlacesTheFrame)
