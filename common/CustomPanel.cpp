@@ -281,7 +281,7 @@ void TkelCustomPanel::Paint()
         Canvas->Brush->Color = Color;
         Canvas->FillRect(R);
     }
-    if (FShowCaption)
+    if (DrawsCaption())
         DrawCaption(R);
 }
 

@@ -85,6 +85,8 @@ protected:
     void DrawBevel(TRect& R, TColor ULColor, TSides Sides, int Width, TColor LRColor);
 
     void Paint() override;
+    // A descendant may leave the caption out.
+    virtual bool DrawsCaption() const { return FShowCaption; }
     void AlignControls(TControl* Control, TRect& Rect) override;
     void AdjustClientRect(TRect& Rect) const override;
     void CreateParams(TCreateParams& Params) override;

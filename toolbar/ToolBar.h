@@ -93,8 +93,10 @@ public:
     const std::vector<TControl*>& Items() const { return FItems; }
     // Finds the order anew, from where the controls lie. Controls at the same place keep the order they were added in.
     void SortControls();
-    // Turns each item to the direction of the bar: what was at the far end stays there, the others follow from the near
-    // end in their order. Items keep the length they take of the bar. Nothing happens where bars have no direction.
+    // Turns each item that lies across the bar: what was at the far end stays there, the others follow from the near
+    // end in their order. Items keep the length they take of the bar. Items that are not aligned to an edge are left
+    // alone, unless the bar has turned since: those with alNone then turn, too. Nothing happens where bars have no
+    // direction.
     void CorrectAlign();
     TkelTBDragBox* GetDragBox() const { return FDragBox; }
     PROPERTY_READ(TkelTBDragBox*, DragBox);
@@ -126,6 +128,8 @@ protected:
     void NumberCaption();
     void Loaded() override;
     void Paint() override;
+    // A bar with items shows no caption in the gaps between them.
+    bool DrawsCaption() const override { return FItems.size() <= 1 && inherited::DrawsCaption(); }
     void AlignControls(TControl* Control, TRect& Rect) override;
     void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
     void MouseMove(TShiftState Shift, int X, int Y) override;
@@ -187,6 +191,7 @@ private:
     TPoint FAnchor; // where in the bar the drag began
     TPoint FReach;  // from the pointer to the dock it has put the bar into from outside
     std::vector<TControl*> FItems;
+    bool FUpright = false; // the items lie as in a vertical bar
     bool FFloating = false;
     bool FAutoSave = true;
     bool FCloseBox = true; // of the floating frame; not to be changed

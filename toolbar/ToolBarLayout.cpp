@@ -69,9 +69,11 @@ void TkelToolBar::CorrectAlign()
 // All at once: the layout would mix up what is turned already and what is not.
 void TkelToolBar::TurnItems(bool Vertical)
 {
+    const bool HasTurned = std::exchange(FUpright, Vertical) != Vertical;
     DisableAlign();
     for (TControl* Item : FItems)
-        Turn(*Item, Vertical);
+        if (Item->Align != alClient && (Item->Align != alNone || HasTurned))
+            Turn(*Item, Vertical);
     EnableAlign();
 }
 
@@ -119,6 +121,7 @@ void TkelToolBar::InsertToDock()
     SetDockedLook(true);
     if (Axis.IsVertical() ? Width > Height : Height > Width)
         TurnTo(Axis.IsVertical());
+    FUpright = Axis.IsVertical();
     PlaceDragBox();
     EnableAlign();
     const int Place = Axis.Thickness(*InDock);

@@ -20,17 +20,18 @@ using testing::ElementsAre;
 
 TEST_F(EditTest, PublishesItsPropertiesInOrder)
 {
-    EXPECT_THAT(
-        PublishedFrom(TEdit::StaticClass(), "Anchors"),
-        ElementsAre("Anchors = [akLeft,akTop]", "AutoSelect = True", "AutoSize = True", "BiDiMode = bdLeftToRight",
-                    "BorderStyle = bsSingle", "CharCase = ecNormal", "Color = clWindow", "Constraints", "Ctl3D",
-                    "DragCursor = crDrag", "DragKind = dkDrag", "DragMode = dmManual", "Enabled = True", "Font",
-                    "HideSelection = True", "ImeMode = imDontCare", "ImeName", "MaxLength = 0", "OEMConvert = False",
-                    "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
-                    "ParentShowHint = True", "PasswordChar = 0", "PopupMenu", "ReadOnly = False", "ShowHint",
-                    "TabOrder = -1", "TabStop = True", "Text", "Visible = True", "OnChange", "OnClick",
-                    "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter", "OnExit",
-                    "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnStartDrag"));
+    EXPECT_THAT(PublishedFrom(TEdit::StaticClass(), "Align"),
+                ElementsAre("Align = alNone", "Anchors = [akLeft,akTop]", "AutoSelect = True", "AutoSize = True",
+                            "BiDiMode = bdLeftToRight", "BorderStyle = bsSingle", "CharCase = ecNormal",
+                            "Color = clWindow", "Constraints", "Ctl3D", "DragCursor = crDrag", "DragKind = dkDrag",
+                            "DragMode = dmManual", "Enabled = True", "Font", "HideSelection = True",
+                            "ImeMode = imDontCare", "ImeName", "MaxLength = 0", "OEMConvert = False",
+                            "ParentBiDiMode = True", "ParentColor = False", "ParentCtl3D = True", "ParentFont = True",
+                            "ParentShowHint = True", "PasswordChar = 0", "PopupMenu", "ReadOnly = False", "ShowHint",
+                            "TabOrder = -1", "TabStop = True", "Text", "Visible = True", "OnChange", "OnClick",
+                            "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter",
+                            "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp",
+                            "OnStartDrag"));
 }
 
 TEST_F(EditTest, IsAsHighAsALineAndItsBorder)

@@ -277,7 +277,7 @@ protected:
 TEST_F(ComboBoxTest, PublishesItsPropertiesInOrder)
 {
     EXPECT_THAT(PublishedFrom(TComboBox::StaticClass(), "AutoComplete"),
-                ElementsAre("AutoComplete = True", "AutoDropDown = False", "Style = csDropDown",
+                ElementsAre("AutoComplete = True", "AutoDropDown = False", "Style = csDropDown", "Align = alNone",
                             "Anchors = [akLeft,akTop]", "BiDiMode = bdLeftToRight", "CharCase = ecNormal",
                             "Color = clWindow", "Constraints", "Ctl3D", "DragCursor = crDrag", "DragKind = dkDrag",
                             "DragMode = dmManual", "DropDownCount = 8", "Enabled = True", "Font",

@@ -1,5 +1,7 @@
 // The items of a bar: their order, and how they turn with it.
+#include "tests/support/PaintToBitmap.h"
 #include "tests/toolbar/DockFixture.h"
+#include "vcl/stdctrls/Edit.h"
 
 #include <gmock/gmock.h>
 
@@ -157,8 +159,8 @@ TEST_F(ToolBarItemsTest, InAHorizontalDockItemsComeToLieFromTheLeft)
         TAlign Before;
         TAlign After;
         int Left;
-    } Cases[] = {{alLeft, alLeft, 5}, {alRight, alRight, 5},  {alBottom, alRight, 70},
-                 {alTop, alLeft, 70}, {alClient, alLeft, 70}, {alNone, alLeft, 70}};
+    } Cases[] = {{alLeft, alLeft, 5}, {alRight, alRight, 5},   {alBottom, alRight, 70},
+                 {alTop, alLeft, 70}, {alClient, alClient, 5}, {alNone, alNone, 5}};
     for (const auto& Case : Cases) {
         TkelTBButton* Item = NewItem(Bar, "", Case.Before, 5, 70);
         Bar->CorrectAlign();
@@ -177,7 +179,8 @@ TEST_F(ToolBarItemsTest, InAVerticalDockItemsComeToLieFromTheTop)
         TAlign After;
         int Top;
     } Cases[] = {{alTop, alTop, 5},   {alBottom, alBottom, 5}, {alRight, alBottom, 70},
-                 {alLeft, alTop, 70}, {alClient, alTop, 70},   {alNone, alTop, 70}};
+                 {alLeft, alTop, 70}, {alClient, alClient, 5}, {alNone, alNone, 5}};
+    Bar->CorrectAlign(); // it has turned
     for (const auto& Case : Cases) {
         TkelTBButton* Item = NewItem(Bar, "", Case.Before, 70, 5);
         Bar->CorrectAlign();
@@ -241,6 +244,47 @@ TEST_F(ToolBarTurningTest, ABarThatComesBackLooksAsBefore)
     EXPECT_EQ(Place(Combo), "82,2 33x22");
     EXPECT_EQ(Place(Last), "176,2 22x22");
     EXPECT_EQ(Place(LastButOne), "154,2 22x22");
+}
+
+// As somebody designs it who has never heard of alignment.
+TEST_F(ToolBarTurningTest, AnEditThatIsNotAlignedKeepsItsSizeInAHorizontalBar)
+{
+    TTestBar* Bar = NewBar(Horizontal, "Bar", 0, 0, 200);
+    auto* Edit = new TEdit(Form.get());
+    Edit->AutoSize = false;
+    Edit->SetBounds(14, 3, 121, 20);
+    Edit->Parent = Bar;
+    Bar->SortControls();
+    Show();
+    Bar->HidePanel();
+    Bar->CorrectAlign();
+    Bar->ShowPanel();
+    EXPECT_EQ(Place(Edit), "14,3 121x20");
+    Bar->FloatToPos(300, 300);
+    EXPECT_EQ(Place(Edit), "14,3 121x20");
+
+    Bar->Parent = Vertical;
+    Bar->InsertToDock();
+    EXPECT_EQ(Edit->Align, alTop);
+    EXPECT_EQ(Edit->Height, 121);
+    Bar->DeleteFromDock();
+    Bar->Parent = Horizontal;
+    Bar->InsertToDock();
+    EXPECT_EQ(Edit->Align, alLeft);
+    EXPECT_EQ(Edit->Width, 121);
+}
+
+TEST_F(ToolBarTurningTest, ABarWithItemsShowsNoCaption)
+{
+    TTestBar* Bar = NewBar(Horizontal, "Bar", 0, 0, 200);
+    Show();
+    const TPixelImage WithCaption = PaintToBitmap(Bar);
+    TkelTBButton* Button = NewButton(Bar, alRight);
+    const TPixelImage WithButton = PaintToBitmap(Bar);
+    Bar->Caption = "";
+    EXPECT_TRUE(SamePixels(PaintToBitmap(Bar), WithButton));
+    delete Button;
+    EXPECT_FALSE(SamePixels(PaintToBitmap(Bar), WithCaption)) << "an empty bar shows its caption";
 }
 
 TEST_F(ToolBarTurningTest, LeavingAVerticalDockMakesABarHorizontal)
