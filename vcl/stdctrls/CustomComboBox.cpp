@@ -38,25 +38,10 @@ void TCustomComboBox::Describe(TClassBuilder<TCustomComboBox>& Class)
     Class.Message<&Self::CMEnter>(CM_ENTER);
 }
 
-namespace {
-
-constexpr TWindowStrings::TMessages ComboMessages = {
-    .Add = CB_ADDSTRING,
-    .Insert = CB_INSERTSTRING,
-    .Delete = CB_DELETESTRING,
-    .Reset = CB_RESETCONTENT,
-    .GetCount = CB_GETCOUNT,
-    .GetText = CB_GETLBTEXT,
-    .GetTextLength = CB_GETLBTEXTLEN,
-    .GetData = CB_GETITEMDATA,
-    .SetData = CB_SETITEMDATA,
-    .GetSelected = CB_GETCURSEL,
-    .SetSelected = CB_SETCURSEL,
-};
-
-} // namespace
-
-TCustomComboBox::TCustomComboBox(TComponent* AOwner) : TWinControl(AOwner), FItems(this, ComboMessages), FCanvas(this)
+TCustomComboBox::TCustomComboBox(TComponent* AOwner)
+    : TWinControl(AOwner),
+      FItems(this, TWindowStrings::ComboBoxMessages),
+      FCanvas(this)
 {
     ControlStyle = TControlStyle{csCaptureMouse, csSetCaption, csDoubleClicks, csFixedHeight, csReflector};
     SetBounds(0, 0, 145, 25);

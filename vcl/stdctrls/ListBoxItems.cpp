@@ -6,25 +6,7 @@
 void TListBoxItems::Describe(TClassBuilder<TListBoxItems>&)
 {}
 
-namespace {
-
-constexpr TWindowStrings::TMessages ListMessages = {
-    .Add = LB_ADDSTRING,
-    .Insert = LB_INSERTSTRING,
-    .Delete = LB_DELETESTRING,
-    .Reset = LB_RESETCONTENT,
-    .GetCount = LB_GETCOUNT,
-    .GetText = LB_GETTEXT,
-    .GetTextLength = LB_GETTEXTLEN,
-    .GetData = LB_GETITEMDATA,
-    .SetData = LB_SETITEMDATA,
-    .GetSelected = LB_GETCURSEL,
-    .SetSelected = LB_SETCURSEL,
-};
-
-} // namespace
-
-TListBoxItems::TListBoxItems(TCustomListBox* List) : TWindowStrings(List, ListMessages), FList(List)
+TListBoxItems::TListBoxItems(TCustomListBox* List) : TWindowStrings(List, ListBoxMessages), FList(List)
 {}
 
 void TListBoxItems::CheckOwn() const

@@ -2,7 +2,10 @@
 #pragma once
 
 #include "vcl/classes/StringList.h"
+#include "vcl/system/Utf.h"
 #include "vcl/system/WindowsApi.h"
+
+#include <vector>
 
 class TWinControl;
 
@@ -23,6 +26,8 @@ public:
         UINT GetSelected;
         UINT SetSelected;
     };
+    static const TMessages ListBoxMessages;
+    static const TMessages ComboBoxMessages;
 
     TWindowStrings(TWinControl* Control, const TMessages& Messages) : FControl(Control), FMessages(Messages)
     {
@@ -44,17 +49,36 @@ public:
     void MoveToWindow();
     void MoveFromWindow();
     // Sorts what is kept while there is no window; a window sorts by its style.
-    void SetSorted(bool Value) { FKept.Sorted = Value; }
+    void SetSorted(bool Value) { Kept().Sorted = Value; }
+
+    // The number that goes with an item; -1 when there is no such item. Objects is the same as pointers, unless a
+    // descendant gives it another meaning.
+    intptr_t GetData(int Index) const;
+    // Nothing happens when there is no such item.
+    void SetData(int Index, intptr_t Data);
 
 protected:
     void SetUpdateState(bool Updating) override;
+    // False when there is no such item.
+    bool ReadText(int Index, AnsiString& Text) const;
+    bool IsInWindow() const { return FInWindow; }
 
 private:
+    struct TMovedItem {
+        TWideString Text;
+        intptr_t Data;
+    };
+
     intptr_t Send(UINT Msg, uintptr_t WParam = 0, intptr_t LParam = 0) const;
+    intptr_t Ask(UINT Msg, uintptr_t WParam = 0, intptr_t LParam = 0) const;
+    TWideString WindowText(int Index, intptr_t Length) const;
     int Store(UINT Msg, int Index, const AnsiString& S);
+    TStringList& Kept() const;
 
     TWinControl* FControl;
     const TMessages& FMessages;
-    TStringList FKept;
+    mutable TStringList FKept; // what there is without a window
+    // What the last window had, as long as nobody asks for it.
+    mutable std::vector<TMovedItem> FMoved;
     bool FInWindow = false;
 };
