@@ -1,9 +1,9 @@
 #include "controls/OfficeEdit.h"
 
-#include "toolbar/SolidFill.h"
 #include "vcl/classes/StillThere.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/graphics/Handle.h"
+#include "vcl/graphics/SolidFill.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
 #include "vcl/system/Scope.h"
