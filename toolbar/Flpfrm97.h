@@ -4,8 +4,8 @@
 // Its caption takes the mouse as its inside does, and the bar is dragged by it.
 #pragma once
 
-#include "common/WindowProcHook.h"
 #include "vcl/classes/ComponentRef.h"
+#include "vcl/controls/WindowProcHook.h"
 #include "vcl/forms/Form.h"
 
 class TkelToolBar;

@@ -38,6 +38,12 @@ bool HasPrinter()
 
 class FontComboBoxTest : public TFormTest {
 protected:
+    static void SetUpTestSuite()
+    {
+        TFormTest::SetUpTestSuite();
+        Printer(); // the program's one
+    }
+
     // A face that is listed.
     AnsiString AnyFace()
     {
