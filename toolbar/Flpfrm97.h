@@ -45,7 +45,6 @@ private:
     void FormResize(TObject* Sender);
 
     void FormWndProc(TMessage& Message, const TWndMethod& Next);
-    void FormGone() { FFormHook.Forget(); }
     HWND FormWindow() const;
     void SetOwnerWindow(HWND Window);
 
@@ -53,6 +52,6 @@ private:
     void WMGetMinMaxInfo(TMessage& Message);
 
     TkelToolBar* FToolBar = nullptr;
-    TComponentRef<TCustomForm> FForm{this, &TFPForm97::FormGone};
+    TComponentRef<TCustomForm> FForm;
     TWindowProcHook FFormHook;
 };
