@@ -159,7 +159,7 @@ void TWinControl::ReadState(TReader& Reader)
         inherited::ReadState(Reader);
         Failed.Dismiss();
     }
-    FixupTabList();
+    FTabList.TakeReadPlaces();
     if (GetParent())
         Perform(CM_PARENTCTL3DCHANGED);
     UpdateControlState();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vcl/controls/Control.h"
+#include "vcl/controls/TabList.h"
 #include "vcl/system/Utf.h"
 
 #include <vector>
@@ -187,6 +188,7 @@ private:
     friend class TControl;
     friend class TAligner;
     friend class TMouse;
+    friend class TTabList;
     friend class TWindowPainter;
     friend class TWindowClass;
 
@@ -238,8 +240,6 @@ private:
     bool SystemPaints() const;
     void TakeWindow(TWinControl& Child);
     void RestoreWindowOrder(TWinControl* Control);
-    void FixupTabList();
-    void MoveInTabList(TTabOrder Value);
     bool DoKey(TWMKey& Message, void (TWinControl::*Handler)(uint16_t&, TShiftState));
 
     HWND FHandle = nullptr;
@@ -247,7 +247,7 @@ private:
     WNDPROC FDefWndProc = nullptr;
     std::vector<TControl*> FGraphics;
     std::vector<TWinControl*> FWindows;
-    std::vector<TWinControl*> FTabList;
+    TTabList FTabList;
     std::unique_ptr<TBrush> FBrush;
     int FAlignLevel = 0;
     bool FAligning = false;

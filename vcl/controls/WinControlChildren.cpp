@@ -59,7 +59,7 @@ void TWinControl::Insert(TControl* Control)
 {
     if (auto* Window = As<TWinControl>(Control)) {
         FWindows.push_back(Window);
-        FTabList.push_back(Window);
+        FTabList.Add(Window);
     } else {
         FGraphics.push_back(Control);
     }
@@ -76,7 +76,7 @@ void TWinControl::Remove(TControl* Control)
     };
     if (auto* Window = As<TWinControl>(Control)) {
         Drop(FWindows, Window);
-        Drop(FTabList, Window);
+        FTabList.Remove(Window);
     } else {
         Drop(FGraphics, Control);
     }

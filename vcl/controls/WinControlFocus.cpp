@@ -46,11 +46,7 @@ void TWinControl::SetTabStop(bool Value)
 
 TTabOrder TWinControl::GetTabOrder() const
 {
-    TWinControl* Parent = GetParent();
-    if (!Parent)
-        return -1;
-    auto& List = Parent->FTabList;
-    return static_cast<TTabOrder>(std::find(List.begin(), List.end(), this) - List.begin());
+    return GetParent() ? GetParent()->FTabList.PlaceOf(this) : -1;
 }
 
 void TWinControl::SetTabOrder(TTabOrder Value)
@@ -58,45 +54,13 @@ void TWinControl::SetTabOrder(TTabOrder Value)
     // While the parent is read its children come in their own order; the places are taken when all are there.
     if (GetControlState().Contains(csReadingState))
         FReadTabOrder = Value;
-    else
-        MoveInTabList(Value);
-}
-
-void TWinControl::MoveInTabList(TTabOrder Value)
-{
-    TWinControl* Parent = GetParent();
-    if (!Parent || Value < 0)
-        return;
-    auto& List = Parent->FTabList;
-    std::erase(List, this);
-    List.insert(List.begin() + std::min<size_t>(static_cast<size_t>(Value), List.size()), this);
-}
-
-void TWinControl::FixupTabList()
-{
-    // Those with a place take it; the others fill the gaps in their order.
-    std::vector<TWinControl*> Placed(FTabList.size());
-    std::vector<TWinControl*> Others;
-    for (TWinControl* Control : FTabList) {
-        TTabOrder Place = std::exchange(Control->FReadTabOrder, -1);
-        if (Place >= 0 && static_cast<size_t>(Place) < Placed.size() && !Placed[Place])
-            Placed[Place] = Control;
-        else
-            Others.push_back(Control);
-    }
-    size_t Next = 0;
-    for (TWinControl*& Slot : Placed)
-        if (!Slot)
-            Slot = Others[Next++];
-    FTabList = std::move(Placed);
+    else if (GetParent() && Value >= 0)
+        GetParent()->FTabList.Move(this, Value);
 }
 
 void TWinControl::GetTabOrderList(std::vector<TWinControl*>& List) const
 {
-    for (TWinControl* Control : FTabList) {
-        List.push_back(Control);
-        Control->GetTabOrderList(List);
-    }
+    FTabList.AppendAll(List);
 }
 
 TWinControl* TWinControl::FindNextControl(TWinControl* CurControl, bool GoForward, bool CheckTabStop,
