@@ -161,9 +161,7 @@ void TControl::SetZOrder(bool TopMost)
 {
     if (!FParent)
         return;
-    auto& Siblings = FParent->FGraphics;
-    std::erase(Siblings, this);
-    Siblings.insert(TopMost ? Siblings.end() : Siblings.begin(), this);
+    FParent->FChildren.MoveToEnd(this, TopMost);
     InvalidateControl(FVisible, true);
 }
 

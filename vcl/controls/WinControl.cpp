@@ -142,8 +142,8 @@ void TWinControl::PaintTo(HDC DC, int X, int Y)
     Perform(WM_ERASEBKGND, Target, static_cast<intptr_t>(Target));
     if (Still)
         Perform(WM_PAINT, Target);
-    for (size_t I = 0; Still && I < FWindows.size(); ++I)
-        if (TWinControl* Child = FWindows[I]; Child->GetVisible())
+    for (size_t I = 0; Still && I < FChildren.Windows().size(); ++I)
+        if (TWinControl* Child = FChildren.Windows()[I]; Child->GetVisible())
             Child->PaintTo(DC, Child->GetLeft(), Child->GetTop());
 }
 

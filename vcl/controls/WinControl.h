@@ -1,6 +1,7 @@
 // TWinControl: a control with a window of its own, which can hold other controls and have the input focus.
 #pragma once
 
+#include "vcl/controls/ChildList.h"
 #include "vcl/controls/Control.h"
 #include "vcl/controls/TabList.h"
 #include "vcl/system/Utf.h"
@@ -51,10 +52,10 @@ public:
     // ---- children
 
     // Windowless controls come first, in the order they are drawn; then windowed ones, the lowest first.
-    int GetControlCount() const { return static_cast<int>(FGraphics.size() + FWindows.size()); }
+    int GetControlCount() const { return FChildren.Count(); }
     PROPERTY_READ(int, ControlCount);
     // Raises EListError when Index is out of range.
-    TControl* GetControls(int Index) const;
+    TControl* GetControls(int Index) const { return FChildren.At(Index); }
     PROPERTY_INDEXED_READ(TControl*, Controls);
     void InsertControl(TControl* Control);
     void RemoveControl(TControl* Control);
@@ -225,8 +226,6 @@ private:
     void CMExit(TMessage& Message);
     void CMSysColorChange(TMessage& Message);
 
-    void Insert(TControl* Control);
-    void Remove(TControl* Control);
     void AlignControl(TControl* Control);
     void UpdateShowing();
     void InvalidateArea(const TRect& Area, bool Erase);
@@ -245,8 +244,7 @@ private:
     HWND FHandle = nullptr;
     HWND FParentWindow = nullptr;
     WNDPROC FDefWndProc = nullptr;
-    std::vector<TControl*> FGraphics;
-    std::vector<TWinControl*> FWindows;
+    TChildList FChildren;
     TTabList FTabList;
     std::unique_ptr<TBrush> FBrush;
     int FAlignLevel = 0;

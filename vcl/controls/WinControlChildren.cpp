@@ -6,21 +6,15 @@
 #include "vcl/system/Scope.h"
 
 #include <algorithm>
-
-TControl* TWinControl::GetControls(int Index) const
-{
-    if (Index < 0 || Index >= GetControlCount())
-        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
-    size_t Place = static_cast<size_t>(Index);
-    if (Place < FGraphics.size())
-        return FGraphics[Place];
-    return FWindows[Place - FGraphics.size()];
-}
+#include <ranges>
 
 void TWinControl::InsertControl(TControl* Control)
 {
     Perform(CM_CONTROLLISTCHANGE, reinterpret_cast<uintptr_t>(Control), 1);
-    Insert(Control);
+    FChildren.Add(Control);
+    if (auto* Window = As<TWinControl>(Control))
+        FTabList.Add(Window);
+    Control->FParent = this;
     if (!Control->GetControlState().Contains(csReadingState)) {
         Control->Perform(CM_PARENTCOLORCHANGED);
         Control->Perform(CM_PARENTSHOWHINTCHANGED);
@@ -49,38 +43,13 @@ void TWinControl::RemoveControl(TControl* Control)
     } else if (FHandle) {
         Control->InvalidateControl(Control->GetVisible(), false);
     }
-    Remove(Control);
+    FChildren.Remove(Control);
+    if (auto* Window = As<TWinControl>(Control))
+        FTabList.Remove(Window);
+    Control->FParent = nullptr;
     Perform(CM_CONTROLLISTCHANGE, reinterpret_cast<uintptr_t>(Control), 0);
     if (!IsDestroying())
         Realign();
-}
-
-void TWinControl::Insert(TControl* Control)
-{
-    if (auto* Window = As<TWinControl>(Control)) {
-        FWindows.push_back(Window);
-        FTabList.Add(Window);
-    } else {
-        FGraphics.push_back(Control);
-    }
-    Control->FParent = this;
-}
-
-void TWinControl::Remove(TControl* Control)
-{
-    // Mostly the youngest goes first.
-    auto Drop = [](auto& List, auto* Item) {
-        auto Found = std::find(List.rbegin(), List.rend(), Item);
-        if (Found != List.rend())
-            List.erase(std::next(Found).base());
-    };
-    if (auto* Window = As<TWinControl>(Control)) {
-        Drop(FWindows, Window);
-        FTabList.Remove(Window);
-    } else {
-        Drop(FGraphics, Control);
-    }
-    Control->FParent = nullptr;
 }
 
 bool TWinControl::ContainsControl(const TControl* Control) const
@@ -101,12 +70,12 @@ TControl* TWinControl::ControlAtPos(const TPoint& Pos, bool AllowDisabled, bool 
         return (AllowDisabled || Control->GetEnabled() || Control->IsDesigning()) && Control->HitTest(Local);
     };
     if (AllowWinControls)
-        for (auto Child = FWindows.rbegin(); Child != FWindows.rend(); ++Child)
-            if (Hit(*Child))
-                return *Child;
-    for (auto Child = FGraphics.rbegin(); Child != FGraphics.rend(); ++Child)
-        if (Hit(*Child))
-            return *Child;
+        for (TWinControl* Child : FChildren.Windows() | std::views::reverse)
+            if (Hit(Child))
+                return Child;
+    for (TControl* Child : FChildren.Graphics() | std::views::reverse)
+        if (Hit(Child))
+            return Child;
     return nullptr;
 }
 
@@ -135,29 +104,18 @@ void TWinControl::GetChildren(const TGetChildProc& Proc, TComponent* Root)
 
 void TWinControl::SetChildOrder(TComponent* Child, int Order)
 {
-    auto Move = [](auto& List, auto* Item, int Place) {
-        std::erase(List, Item);
-        List.insert(List.begin() + std::clamp(Place, 0, static_cast<int>(List.size())), Item);
-    };
-    if (auto* Window = As<TWinControl>(Child)) {
-        if (Window->GetParent() != this)
-            return;
-        Move(FWindows, Window, Order - static_cast<int>(FGraphics.size()));
-        if (Window->FHandle)
-            RestoreWindowOrder(Window);
-    } else if (auto* Control = As<TControl>(Child)) {
-        if (Control->GetParent() == this)
-            Move(FGraphics, Control, Order);
-    }
+    auto* Control = As<TControl>(Child);
+    if (!Control || Control->GetParent() != this)
+        return;
+    FChildren.Move(Control, Order);
+    if (auto* Window = As<TWinControl>(Child); Window && Window->FHandle)
+        RestoreWindowOrder(Window);
 }
 
 void TWinControl::SetZOrder(bool TopMost)
 {
-    if (TWinControl* Parent = GetParent()) {
-        auto& Siblings = Parent->FWindows;
-        std::erase(Siblings, this);
-        Siblings.insert(TopMost ? Siblings.end() : Siblings.begin(), this);
-    }
+    if (TWinControl* Parent = GetParent())
+        Parent->FChildren.MoveToEnd(this, TopMost);
     if (FHandle)
         SetWindowPos(FHandle, TopMost ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }

@@ -245,7 +245,7 @@ void TWinControl::CMCursorChanged(TMessage&)
 
 bool TWinControl::SystemPaints() const
 {
-    return !PaintsItself() && FGraphics.empty();
+    return !PaintsItself() && FChildren.Graphics().empty();
 }
 
 void TWinControl::WMPaint(TMessage& Message)

@@ -126,8 +126,8 @@ void TWinControl::DestroyHandle()
     if (!FHandle || FWindowGoes)
         return;
     const TStillThere Still(this);
-    for (size_t I = 0; Still && I < FWindows.size(); ++I)
-        FWindows[I]->DestroyHandle();
+    for (size_t I = 0; Still && I < FChildren.Windows().size(); ++I)
+        FChildren.Windows()[I]->DestroyHandle();
     if (Still)
         DestroyWnd();
 }
@@ -189,8 +189,8 @@ void TWinControl::UpdateShowing()
             CreateHandle();
         }
         const TStillThere Still(this);
-        for (size_t I = 0; Still && I < FWindows.size(); ++I)
-            FWindows[I]->UpdateShowing();
+        for (size_t I = 0; Still && I < FChildren.Windows().size(); ++I)
+            FChildren.Windows()[I]->UpdateShowing();
         if (!Still)
             return;
     }
@@ -202,16 +202,8 @@ void TWinControl::UpdateShowing()
 
 void TWinControl::RestoreWindowOrder(TWinControl* Control)
 {
-    // Directly below the next sibling that has a window; on top when there is none.
-    HWND Above = HWND_TOP;
-    auto Place = std::find(FWindows.begin(), FWindows.end(), Control);
-    for (auto Next = Place; Next != FWindows.end() && ++Next != FWindows.end();) {
-        if ((*Next)->FHandle) {
-            Above = (*Next)->FHandle;
-            break;
-        }
-    }
-    if (Above != HWND_TOP)
+    // Directly below the next sibling that has a window; it is on top already when there is none.
+    if (HWND Above = FChildren.WindowAbove(Control))
         SetWindowPos(Control->FHandle, Above, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 

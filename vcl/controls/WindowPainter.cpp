@@ -93,12 +93,12 @@ bool TWindowPainter::IsCovered(const TControl& Control)
         return Other.FVisible && IntersectRect(Common, Bounds, Other.GetBoundsRect());
     };
     bool Above = false;
-    for (const TControl* Sibling : Parent.FGraphics) {
+    for (const TControl* Sibling : Parent.FChildren.Graphics()) {
         if (Above && Covers(*Sibling))
             return true;
         Above |= Sibling == &Control;
     }
-    for (const TWinControl* Sibling : Parent.FWindows)
+    for (const TWinControl* Sibling : Parent.FChildren.Windows())
         if (Covers(*Sibling))
             return true;
     return false;
@@ -106,22 +106,22 @@ bool TWindowPainter::IsCovered(const TControl& Control)
 
 size_t TWindowPainter::FindCover(const TWinControl& Window, const TRect& Clip)
 {
-    for (size_t I = Window.FGraphics.size(); I-- > 0;) {
-        const TControl& Control = *Window.FGraphics[I];
+    for (size_t I = Window.FChildren.Graphics().size(); I-- > 0;) {
+        const TControl& Control = *Window.FChildren.Graphics()[I];
         TRect Bounds = Control.GetBoundsRect();
         TRect All;
         if (Control.FVisible && Control.FControlStyle.Contains(csOpaque) && UnionRect(All, Bounds, Clip) &&
             All == Bounds)
             return I;
     }
-    return Window.FGraphics.size();
+    return Window.FChildren.Graphics().size();
 }
 
 void TWindowPainter::PaintInto(TWinControl& Window, HDC DC, const TRect& Clip)
 {
     const TStillThere Still(&Window);
     size_t First = FindCover(Window, Clip);
-    if (First == Window.FGraphics.size()) {
+    if (First == Window.FChildren.Graphics().size()) {
         Window.Perform(WM_ERASEBKGND, reinterpret_cast<uintptr_t>(DC), reinterpret_cast<intptr_t>(DC));
         if (Still)
             Window.PaintWindow(DC);
@@ -137,8 +137,8 @@ void TWindowPainter::PaintControls(TWinControl& Window, HDC DC, size_t First, co
     TClipRegion Whole(DC);
     const TStillThere Still(&Window);
     // By index and with the size asked for each time: a control's Paint may change the list.
-    for (size_t I = First; Still && I < Window.FGraphics.size(); ++I) {
-        TControl& Control = *Window.FGraphics[I];
+    for (size_t I = First; Still && I < Window.FChildren.Graphics().size(); ++I) {
+        TControl& Control = *Window.FChildren.Graphics()[I];
         TRect Common;
         bool Shown = Control.FVisible || (Control.IsDesigning() && !Control.FControlStyle.Contains(csNoDesignVisible));
         if (Shown && IntersectRect(Common, Clip, Control.GetBoundsRect()))
