@@ -134,8 +134,6 @@ public:
 
     // The part of the form, when this control is one.
     virtual TFormLink* FormLink() { return nullptr; }
-    // True when Message, which a child window sent to its parent, went to the child.
-    static bool ReflectNotification(TMessage& Message);
 
 protected:
     // ---- life of the window; each override calls the inherited one
@@ -232,9 +230,6 @@ private:
     void InvalidatePending();
     void UpdateBounds();
     bool TakesMessage(TMessage& Message);
-    bool IsControlMouseMsg(TWMMouse& Message);
-    bool IsControlContextMenu(TMessage& Message);
-    void TrackPointer(const TPoint& Pos, bool Captured);
     bool IsCtl3DStored() const { return !FParentCtl3D; }
     bool SystemPaints() const;
     void TakeWindow(TWinControl& Child);

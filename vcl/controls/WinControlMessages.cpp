@@ -4,6 +4,8 @@
 #include "vcl/controls/DragManager.h"
 #include "vcl/controls/FormHost.h"
 #include "vcl/controls/Mouse.h"
+#include "vcl/controls/MouseRouter.h"
+#include "vcl/controls/Reflection.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/controls/WindowClass.h"
 #include "vcl/controls/WindowPainter.h"
@@ -131,7 +133,7 @@ bool TWinControl::TakesMessage(TMessage& Message)
         return false;
     case WM_CAPTURECHANGED: TMouse::CaptureChanged(reinterpret_cast<HWND>(Message.LParam)); return false;
     case WM_MOUSELEAVE: TMouse::UpdateHotControl(); return false;
-    case WM_CONTEXTMENU: return IsControlContextMenu(Message);
+    case WM_CONTEXTMENU: return TMouseRouter::RouteContextMenu(*this, Message);
     case WM_MOUSEWHEEL:
     case WM_MOUSEHWHEEL: return false; // these come with the focus, not with the pointer
     default: break;
@@ -139,7 +141,7 @@ bool TWinControl::TakesMessage(TMessage& Message)
     if (Message.Msg < WM_MOUSEFIRST || Message.Msg > WM_MOUSELAST)
         return false;
     HWND Window = FHandle;
-    if (!IsControlMouseMsg(static_cast<TWMMouse&>(Message)))
+    if (!TMouseRouter::Route(*this, static_cast<TWMMouse&>(Message)))
         return false;
     // What a windowless control has not answered is the window's: the system makes other messages of these, such as
     // WM_CONTEXTMENU and WM_APPCOMMAND.
@@ -150,68 +152,6 @@ bool TWinControl::TakesMessage(TMessage& Message)
 }
 
 // ---- mouse
-
-// A windowless control below the pointer may have a menu of its own.
-bool TWinControl::IsControlContextMenu(TMessage& Message)
-{
-    if (Message.LParam == -1)
-        return false;
-    TControl* Child = ControlAtPos(ScreenToClient({Message.LParamLo(), Message.LParamHi()}), false);
-    if (!Child)
-        return false;
-    Message.Result = Child->Perform(Message.Msg, Message.WParam, Message.LParam);
-    return Message.Result != 0;
-}
-
-bool TWinControl::IsControlMouseMsg(TWMMouse& Message)
-{
-    const TPoint Pos = Message.Pos;
-    bool Captured = GetCapture() == FHandle;
-    if (Message.Msg == WM_MOUSEMOVE) {
-        const TStillThere Still(this);
-        const TControl* Before = TMouse::HotControl();
-        TrackPointer(Pos, Captured);
-        if (!Still)
-            return true;
-        if (TMouse::HotControl() != Before)
-            Captured = GetCapture() == FHandle; // handlers have run
-    } else if (Message.Msg != WM_LBUTTONUP && Message.Msg != WM_RBUTTONUP && Message.Msg != WM_MBUTTONUP) {
-        TFormHost::Get().CancelHint();
-    }
-    TControl* Target = nullptr;
-    if (!Captured)
-        Target = ControlAtPos(Pos, false);
-    else if (TControl* Owner = TMouse::CaptureControl(); Owner && Owner->FParent == this)
-        Target = Owner;
-    if (!Target)
-        return false;
-    // What the target does may delete it, and this control.
-    int X = Pos.X - Target->FLeft;
-    int Y = Pos.Y - Target->FTop;
-    Message.Result = Target->Perform(Message.Msg, Message.WParam, MAKELPARAM(X, Y));
-    return true;
-}
-
-void TWinControl::TrackPointer(const TPoint& Pos, bool Captured)
-{
-    if (Captured) {
-        TControl* Owner = TMouse::CaptureControl();
-        bool Own = Owner == this;
-        bool Inside = Owner && (Own ? GetClientRect() : Owner->GetBoundsRect()).Contains(Pos);
-        TMouse::SetHotControl(Inside ? Owner : nullptr, Owner);
-        return;
-    }
-    TControl* Child = ControlAtPos(Pos, true, true);
-    TControl* Before = TMouse::HotControl();
-    TControl* Now = Child ? Child : this;
-    if (Before == Now)
-        return;
-    // Asked for anew whenever the pointer comes from elsewhere: the request ends when it is answered.
-    if (!Before || (Before != this && Before->FParent != this))
-        TMouse::RequestLeave(FHandle);
-    // The mouse would not have come here if another window had it.
-    TMouse::SetHotControl(Now, nullptr);
-}
 
 void TWinControl::WMSetCursor(TMessage& Message)
 {
@@ -285,35 +225,6 @@ void TWinControl::WMEraseBkgnd(TMessage& Message)
 }
 
 // ---- notifications from child windows
-
-bool TWinControl::ReflectNotification(TMessage& Message)
-{
-    HWND Child = nullptr;
-    switch (Message.Msg) {
-    case WM_NOTIFY: Child = reinterpret_cast<NMHDR*>(Message.LParam)->hwndFrom; break;
-    case WM_DRAWITEM: Child = reinterpret_cast<DRAWITEMSTRUCT*>(Message.LParam)->hwndItem; break;
-    case WM_COMPAREITEM: Child = reinterpret_cast<COMPAREITEMSTRUCT*>(Message.LParam)->hwndItem; break;
-    case WM_DELETEITEM: Child = reinterpret_cast<DELETEITEMSTRUCT*>(Message.LParam)->hwndItem; break;
-    case WM_MEASUREITEM: {
-        // Names no window: controls that measure items have their handle as their identifier.
-        auto* Item = reinterpret_cast<MEASUREITEMSTRUCT*>(Message.LParam);
-        if (Item->CtlType == ODT_MENU)
-            return false;
-        Child = reinterpret_cast<HWND>(static_cast<intptr_t>(static_cast<int32_t>(Item->CtlID)));
-        break;
-    }
-    case WM_PARENTNOTIFY:
-        if (Message.WParamLo() != WM_CREATE && Message.WParamLo() != WM_DESTROY)
-            return false;
-        [[fallthrough]];
-    default: Child = reinterpret_cast<HWND>(Message.LParam);
-    }
-    TWinControl* Control = FindControl(Child);
-    if (!Control)
-        return false;
-    Message.Result = Control->Perform(CN_BASE + Message.Msg, Message.WParam, Message.LParam);
-    return true;
-}
 
 void TWinControl::WMReflect(TMessage& Message)
 {
