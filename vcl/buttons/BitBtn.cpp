@@ -38,7 +38,7 @@ TBitBtn::TBitBtn(TComponent* AOwner) : TButton(AOwner), FCanvas(this)
 
 // ---- the window
 
-// The system draws no glyphs: the button draws itself, whole.
+// The native button draws no glyph, so the button is owner-drawn.
 void TBitBtn::CreateParams(TCreateParams& Params)
 {
     inherited::CreateParams(Params);
@@ -54,7 +54,7 @@ void TBitBtn::SetButtonStyle(bool ADefault)
     Refresh();
 }
 
-// An owner-drawn button sees the second press of a double click as no press.
+// A native owner-drawn button does not treat the second press of a double click as a press.
 void TBitBtn::WMLButtonDblClk(TMessage& Message)
 {
     Perform(WM_LBUTTONDOWN, Message.WParam, Message.LParam);
@@ -119,7 +119,7 @@ bool IsCancelKind(TBitBtnKind Kind)
     return Kind == bkCancel || Kind == bkNo;
 }
 
-// One picture of the strip that has all of them side by side.
+// Copies one picture from the strip, which has those of all kinds side by side.
 void LoadKindGlyph(TBitmap& Glyph, TBitBtnKind Kind)
 {
     TBitmap Strip;
@@ -130,7 +130,7 @@ void LoadKindGlyph(TBitmap& Glyph, TBitBtnKind Kind)
     Glyph.Canvas->CopyRect(TRect(0, 0, Size, Size), Strip.Canvas, TRect(Left, 0, Left + Size, Size));
 }
 
-// False when nobody has an answer.
+// False when there is no help handler, or it returns false.
 bool CallHelp(TCustomForm* Form, THelpContext Context)
 {
     bool ShowFile = false;
@@ -156,7 +156,7 @@ void TBitBtn::SetKind(TBitBtnKind Value)
     if (Value != bkCustom) {
         Default = IsDefaultKind(Value);
         Cancel = IsCancelKind(Value);
-        // A form file's own caption stays.
+        // While loading, a caption that was read before is kept.
         if (Caption.empty() || !IsLoading())
             Caption = Kinds[Value].Caption;
         ModalResult = Kinds[Value].ModalResult;

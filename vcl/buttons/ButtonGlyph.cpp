@@ -55,7 +55,7 @@ bool IsDark(uint32_t Pixel)
     return Pixel >> 24 != 0 && Red * 3 + Green * 6 + Blue < 192 * 10;
 }
 
-// Everything along one axis: where a first and a second part lie in Space.
+// The layout along one axis: where the first and the second part start in Space.
 struct TPlaces {
     int First;
     int Second;

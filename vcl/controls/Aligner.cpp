@@ -10,7 +10,7 @@
 
 namespace {
 
-// Where a control stands in the order of its side: what lies nearer to the side comes first.
+// The sort key of a control among those of its side: the one nearest to the side comes first.
 int SortKey(const TControl& Control, TAlign Side)
 {
     switch (Side) {
@@ -85,7 +85,8 @@ void TAligner::Place(TControl& Control, TAlign Side, TRect& Rect)
     case alRight: Control.SetBounds(Rect.Right - Control.FWidth, Rect.Top, Control.FWidth, Height); break;
     default: Control.SetBounds(Rect.Left, Rect.Top, Width, Height);
     }
-    // The rest is for the others: the size that the control has taken is not always the one that it was given.
+    // What is left is computed from the size that the control has now: constraints may have changed the one it was
+    // given.
     if (!Still)
         return;
     switch (Side) {
@@ -101,7 +102,8 @@ void TAligner::Anchor(TControl& Control, const TRect& Client)
 {
     const TAnchorRules& Rules = *Control.FAnchorRules;
     TRect R = Rules.Bounds;
-    // Both sides: it grows with the parent; the far one: it moves along; none: it keeps its place in proportion.
+    // Anchored to both sides it grows with the parent, to the far one it moves along; anchored to none it moves by half
+    // of the growth.
     auto Adjust = [](bool Near, bool Far, int Growth, LONG& Start, LONG& End) {
         int StartMoves = Near ? 0 : Far ? Growth : Growth / 2;
         int EndMoves = Far ? Growth : StartMoves;

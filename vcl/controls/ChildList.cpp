@@ -9,7 +9,7 @@ namespace {
 template <class T>
 void Drop(std::vector<T*>& List, T* Item)
 {
-    // Mostly the youngest goes first.
+    // From the end: the last child is mostly removed first.
     const auto Found = std::find(List.rbegin(), List.rend(), Item);
     if (Found != List.rend())
         List.erase(std::next(Found).base());

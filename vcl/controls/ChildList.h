@@ -17,14 +17,14 @@ public:
     const std::vector<TControl*>& Graphics() const { return FGraphics; }
     const std::vector<TWinControl*>& Windows() const { return FWindows; }
 
-    // On top of its kind.
+    // Adds it in front of the others of its kind.
     void Add(TControl* Control);
     void Remove(TControl* Control);
-    // Place counts over both kinds; a control stays among its own.
+    // Place is an index as for At; a control stays among those of its kind.
     void Move(TControl* Control, int Place);
     void MoveToEnd(TControl* Control, bool Top) { Move(Control, Top ? Count() : 0); }
 
-    // The nearest window above Control, or nullptr: siblings may have none yet.
+    // The handle of the next control in front of Control that has a window now; nullptr when there is none.
     HWND WindowAbove(const TWinControl* Control) const;
 
 private:

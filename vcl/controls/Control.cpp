@@ -117,7 +117,7 @@ void TControl::SetParent(TWinControl* Value)
         if (Control == this)
             throw EInvalidOperation("A control cannot have itself as its parent");
     if (FParent && !As<TWinControl>(this) && GetMouseCapture()) {
-        // The old parent's window would get the rest of the press.
+        // The capture belongs to the old parent's window.
         const TStillThere Still(this);
         SetMouseCapture(false);
         if (!Still)

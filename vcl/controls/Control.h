@@ -76,13 +76,13 @@ public:
     // ---- family
 
     TWinControl* GetParent() const { return FParent; }
-    // Raises EInvalidOperation when the control would come to lie in itself.
+    // Raises EInvalidOperation when Value is the control itself or lies in it.
     virtual void SetParent(TWinControl* Value);
     PROPERTY(TWinControl*, Parent);
     bool HasParent() const override { return FParent != nullptr; }
     TComponent* GetParentComponent() const override;
     void SetParentComponent(TComponent* Value) override;
-    // The form this control stands on (or is), and its link; nullptr when it stands on none.
+    // The form that contains this control (or is it), and its link; nullptr when there is none.
     TWinControl* ParentFormControl() const;
     TFormLink* ParentFormLink() const;
     void BringToFront() { SetZOrder(true); }
@@ -125,8 +125,8 @@ public:
     void SetCaption(const AnsiString& Value) { SetText(Value); }
     PROPERTY(AnsiString, Caption);
 
-    // Draws the control later (Invalidate), what was put off now (Update), or at once (Repaint, Refresh). Repaint of an
-    // opaque control that nothing covers paints that control alone.
+    // Invalidate has the control painted with the next WM_PAINT, Update paints at once what has been invalidated,
+    // Repaint and Refresh do both. Repaint of an opaque control that nothing covers paints that control alone.
     virtual void Invalidate();
     virtual void Update();
     virtual void Repaint();
@@ -180,8 +180,8 @@ public:
 
     // Sends the control a message and returns its result.
     intptr_t Perform(uint32_t Msg, uintptr_t WParam = 0, intptr_t LParam = 0);
-    // The first receiver of every message. Replace it to hook a control, and pass on to what it was before; while
-    // nobody has, it is the control's own WndProc.
+    // The first receiver of every message, by default the control's own WndProc. Replace it to hook a control, and pass
+    // the messages on to the previous value; TWindowProcHook does that.
     TWndMethod GetWindowProc();
     void SetWindowProc(const TWndMethod& Value) { FWindowProc = Value; }
     PROPERTY(TWndMethod, WindowProc);
@@ -197,11 +197,11 @@ public:
     PROPERTY(bool, MouseCapture);
 
     // Starts dragging the control: at once, or when the pointer has moved by Threshold pixels (negative: the system's
-    // measure) with the button held. Does nothing while something is being dragged.
+    // drag distance) with the button held. Does nothing while something is being dragged.
     void BeginDrag(bool Immediate, int Threshold = -1);
-    // Ends it: with Drop on the control under the pointer, if that takes it.
+    // Ends dragging. With Drop, the control under the pointer gets OnDragDrop if it has accepted the drag.
     void EndDrag(bool Drop);
-    // True from BeginDrag to the end, before the events that tell of the end.
+    // True from BeginDrag until the drag ends; already false in OnEndDrag.
     bool Dragging() const;
     // Source is the control dragged, or the drag object that OnStartDrag has supplied.
     virtual void DragDrop(TObject* Source, int X, int Y);
@@ -229,7 +229,7 @@ protected:
     virtual void DragOver(TObject* Source, int X, int Y, TDragState State, bool& Accept);
     virtual void DoStartDrag(TDragObject*& DragObject);
     virtual void DoEndDrag(TObject* Target, int X, int Y);
-    // Dragging the control ended without a drop, or the button came up before it had started.
+    // Dragging the control ended without a drop, or the mouse button was released before dragging had started.
     virtual void DragCanceled() {}
     virtual bool DoMouseWheel(TShiftState Shift, int WheelDelta, const TPoint& MousePos);
     virtual void DoContextPopup(const TPoint& MousePos, bool& Handled);
@@ -246,14 +246,14 @@ protected:
     void RequestAlign();
     virtual void SetZOrder(bool TopMost);
     void Changed() { Perform(CM_CHANGED, 0, reinterpret_cast<intptr_t>(this)); }
-    // Keeps a text that differs from the one before; CM_TEXTCHANGED follows.
+    // Stores a text that has changed; the caller sends CM_TEXTCHANGED afterwards.
     virtual void StoreText(const AnsiString& Value) { FText = Value; }
     void SetControlFlag(TControlStateFlag Flag, bool On);
     void SetStyleFlag(TControlStyleFlag Flag, bool On);
-    // Part of the control that must be drawn again, seen from the parent. IsOpaque: nothing behind needs drawing.
+    // Invalidates the control's area of the parent's window. IsOpaque: the background needs no painting.
     void InvalidateControl(bool IsVisible, bool IsOpaque);
-    // A device context of the parent's window, with its origin in this control, or of the control's own window.
-    // Window is the one to release it to.
+    // A device context to draw on the control: of the parent's window, with the origin moved to this control, or of the
+    // control's own window. Window is the one to release it for.
     virtual HDC GetDeviceContext(HWND& Window);
     TControlExtras& Extras();
 
@@ -331,7 +331,8 @@ private:
 
 // The control that Window belongs to, or nullptr.
 TWinControl* FindControl(HWND Window);
-// The same, or the control that a window which is no control's lies in: the edit in a combo box, for instance.
+// The same; for a window that belongs to no control (the edit of a combo box, for instance), the control that contains
+// it.
 TWinControl* FindEnclosingControl(HWND Window);
-// The control under a screen position: the deepest visible one, disabled ones only with AllowDisabled.
+// The innermost visible control at a screen position; disabled ones only with AllowDisabled.
 TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled);

@@ -1,5 +1,5 @@
-// TControlCanvas: a canvas on a control. Its device context is got when something is drawn and given back when the
-// message in which that happened has been handled.
+// TControlCanvas: a canvas on a control. Its device context is obtained when something is drawn and released
+// when the current message has been handled.
 #pragma once
 
 #include "vcl/controls/ControlTypes.h"
@@ -15,7 +15,7 @@ public:
     void SetControl(TControl* Value);
     PROPERTY(TControl*, Control);
 
-    // Gives the device context back to the system. While Paint runs the context is the painter's and stays.
+    // Releases the device context. The one that Paint draws on was obtained elsewhere and is kept.
     void FreeHandle();
     // The same for all control canvases.
     static void FreeHandles();

@@ -118,7 +118,8 @@ void TControl::DoEndDrag(TObject* Target, int X, int Y)
         FExtras->OnEndDrag(this, Target, X, Y);
 }
 
-// The bounds a control would have without its Align, as designers note them. They are kept for the form file only.
+// The bounds that a control would have without its Align; designers store them in form files. They are kept for writing
+// the form only.
 void TControl::DefineProperties(TFiler& Filer)
 {
     inherited::DefineProperties(Filer);

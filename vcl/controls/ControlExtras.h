@@ -1,4 +1,4 @@
-// What few controls have: kept behind one pointer so that a control stays small.
+// Properties that few controls use, allocated on first use so that a control stays small.
 #pragma once
 
 #include "vcl/classes/ComponentRef.h"
@@ -10,7 +10,7 @@ struct TControlExtras {
     AnsiString HelpKeyword;
     std::unique_ptr<TSizeConstraints> Constraints;
     TComponentRef<TPopupMenu> PopupMenu;
-    TRect ExplicitBounds; // what designers note beside the bounds of an aligned control; Right and Bottom are the size
+    TRect ExplicitBounds; // ExplicitLeft and so on in form files; Right and Bottom are the size
     THelpContext HelpContext = 0;
     THelpType HelpType = htContext;
     TBiDiMode BiDiMode = bdLeftToRight;
@@ -28,7 +28,7 @@ struct TControlExtras {
     TMouseWheelEvent OnMouseWheel;
 };
 
-// Where a control with other anchors than left and top was placed, and how large its parent was then.
+// For controls with other anchors than left and top: their bounds, and the parent's size at the time they were set.
 struct TAnchorRules {
     TRect Bounds;
     TPoint ParentSize;

@@ -173,21 +173,21 @@ void TControl::WMMouseWheel(TMessage& Message)
     else if (FParent && !As<TWinControl>(this))
         Message.Result = FParent->Perform(WM_MOUSEWHEEL, Message.WParam, Message.LParam);
     else
-        Inherited(Message); // a window scrolls, or the system sends the message on to the parent's window
+        Inherited(Message); // a native control scrolls; otherwise the system sends the message to the parent window
 }
 
 void TControl::WMCancelMode(TMessage& Message)
 {
     const TStillThere Still(this);
     Inherited(Message);
-    // A release outside of the control, so that what was begun with the press is given up.
+    // A button release outside of the control cancels what the press has begun.
     if (Still && GetMouseCapture() && FControlState.Contains(csLButtonDown))
         Perform(WM_LBUTTONUP, 0, -1);
     if (Still && GetMouseCapture())
         SetMouseCapture(false);
 }
 
-// Somebody else has the mouse now: the press is over, and its release, if it should ever come here, is no click.
+// The capture is lost, so the press has ended: a later release is no click.
 void TControl::WMCaptureChanged(TMessage& Message)
 {
     SetControlFlag(csLButtonDown, false);

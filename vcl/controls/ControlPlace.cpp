@@ -162,7 +162,8 @@ void TControl::UpdateAnchorRules()
         FAnchorRules.reset();
         return;
     }
-    // The aligner moves by these rules, which then stay as they are; while a form is read they are made at its end.
+    // The aligner uses these rules to move the control, so its moves do not change them. While a form is read they are
+    // not computed; Loaded does it.
     if (IsLoading() || FParent->FAligning)
         return;
     if (!FAnchorRules)

@@ -33,7 +33,7 @@ VCL_ENUM(TBevelKind, bkNone, bkTile, bkSoft, bkFlat);
 using TBevelWidth = int;
 using TBorderWidth = int;
 VCL_ENUM(TFormBorderStyle, bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin);
-// bsNone or bsSingle; the wider type keeps the names in one place.
+// Only bsNone or bsSingle. An alias because enumerators of two types could not have the same names.
 using TBorderStyle = TFormBorderStyle;
 VCL_ENUM(TImeMode, imDisable, imClose, imOpen, imDontCare, imSAlpha, imAlpha, imHira, imSKata, imKata, imChinese,
          imSHanguel, imHanguel);
@@ -41,8 +41,7 @@ VCL_ENUM(THelpType, htKeyword, htContext);
 
 using TTabOrder = int;
 
-// A slot of the screen's cursor list: crDefault and the other system cursors are 0 and below, an application's own
-// above.
+// An index into Screen->Cursors: crDefault and the system cursors are 0 and negative, an application's own positive.
 using TCursor = int16_t;
 enum : TCursor {
     crDefault = 0,
@@ -75,9 +74,9 @@ using TMouseEvent = TEvent<void(TObject* Sender, TMouseButton Button, TShiftStat
 using TMouseMoveEvent = TEvent<void(TObject* Sender, TShiftState Shift, int X, int Y)>;
 using TMouseWheelEvent =
     TEvent<void(TObject* Sender, TShiftState Shift, int WheelDelta, const TPoint& MousePos, bool& Handled)>;
-// Key becomes 0 when the handler has used it up.
+// The handler sets Key to 0 to keep it from the control.
 using TKeyEvent = TEvent<void(TObject* Sender, uint16_t& Key, TShiftState Shift)>;
-// One UTF-16 unit; 0 uses it up.
+// Key is one UTF-16 code unit; the handler sets it to 0 to keep it from the control.
 using TKeyPressEvent = TEvent<void(TObject* Sender, char16_t& Key)>;
 using TDragOverEvent = TEvent<void(TObject* Sender, TObject* Source, int X, int Y, TDragState State, bool& Accept)>;
 using TDragDropEvent = TEvent<void(TObject* Sender, TObject* Source, int X, int Y)>;
@@ -88,7 +87,8 @@ using TConstrainedResizeEvent =
     TEvent<void(TObject* Sender, int& MinWidth, int& MinHeight, int& MaxWidth, int& MaxHeight)>;
 using TContextPopupEvent = TEvent<void(TObject* Sender, const TPoint& MousePos, bool& Handled)>;
 
-// The shift state that a mouse message's MK_ flags, or the keyboard now, say.
+// The shift state from the MK_ flags of a mouse message, from the keyboard as it is now, and from the LParam of a key
+// message.
 TShiftState KeysToShiftState(unsigned MouseKeys);
 TShiftState KeyboardShiftState();
 TShiftState KeyDataToShiftState(intptr_t KeyData);

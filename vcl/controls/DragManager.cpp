@@ -30,8 +30,8 @@ void TDragObject::Finished(TObject*, int, int, bool)
 
 // ---- TDrag
 
-// One drag, from the press until everybody has heard of its end. Source, target and object are looked up anew after
-// each event: they are cleared when they go away.
+// One drag, from the press until the last event about its end. Source, target and object become nullptr when they are
+// deleted, so they are read again after each event.
 class TDragManager::TDrag {
 public:
     explicit TDrag(TControl* Source) : FSource(Source), FNext(std::exchange(First, this)) {}
@@ -42,7 +42,7 @@ public:
     TControl* Source() const { return FSource; }
     bool IsWaiting() const { return FStage == TStage::Waiting; }
     bool IsDragging() const { return FStage == TStage::Dragging; }
-    // The window that hears of the mouse before dragging starts.
+    // The window that gets the mouse messages before dragging starts.
     TWinControl* PressedWindow() const;
 
     void TakePress();
@@ -51,7 +51,7 @@ public:
     void Start();
     void MoveTo(const TPoint& Screen);
     void Finish(bool Drop);
-    // Gives the mouse back.
+    // Releases the mouse capture.
     void ReleaseMouse();
 
     static void ForgetEverywhere(const TObject* Gone);
@@ -77,7 +77,7 @@ private:
     TPoint FStartedAt;
     TPoint FLastPos;
     int FThreshold = 0;
-    // Has the mouse while dragging, whatever becomes of the source's window.
+    // A hidden window that captures the mouse while dragging: the source's own may be destroyed.
     HWND FWindow = nullptr;
     HCURSOR FCursorBefore = nullptr;
     TDrag* FNext;
@@ -97,7 +97,7 @@ TPoint CursorPos()
     return Pos;
 }
 
-// A release far outside, so that what was begun with the press is given up.
+// Sends a button release outside of the control, which cancels what the press has begun.
 void EndPress(TControl* Control)
 {
     if (Control && Control->GetControlState().Contains(csLButtonDown))
@@ -134,7 +134,7 @@ TWinControl* TDragManager::TDrag::PressedWindow() const
     return Window ? Window : FSource->GetParent();
 }
 
-// Another control's press may have led to this drag; it does not hear of the release.
+// The drag may have been started in the mouse events of another control, which will not get the release.
 void TDragManager::TDrag::TakePress()
 {
     TControl* Pressed = TMouse::CaptureControl();
@@ -176,7 +176,7 @@ void TDragManager::TDrag::HandleMouse(TMessage& Message)
         return;
     switch (Message.Msg) {
     case WM_MOUSEMOVE:
-        // The system sends some without a movement.
+        // The system also sends this message when the pointer has not moved.
         if (const TPoint Now = CursorPos(); Now != FLastPos)
             Move(Now);
         break;
@@ -189,7 +189,7 @@ void TDragManager::TDrag::HandleMouse(TMessage& Message)
     }
 }
 
-// An exception ends the drag: its report wants the mouse.
+// An exception ends the drag: the message box that reports it needs the mouse.
 void TDragManager::TDrag::Move(const TPoint& Screen)
 {
     const std::shared_ptr<TDrag> Kept = Current;
@@ -223,7 +223,7 @@ void TDragManager::TDrag::MoveTo(const TPoint& Screen)
 {
     if (FTarget != FindDragTarget(Screen, false)) {
         Leave(Screen);
-        // What was found before may be gone.
+        // The handler may have deleted the control that was found before.
         FTarget = GoesOn() ? FindDragTarget(Screen, false) : nullptr;
         if (FTarget)
             FAccepted = Ask(FTarget, dsDragEnter, Screen);
@@ -252,7 +252,7 @@ void TDragManager::TDrag::ReleaseMouse()
         SetCursor(FCursorBefore);
         return;
     }
-    // A control that captures the mouse for its press gives it back itself.
+    // A control with csCaptureMouse releases the capture itself when the button is released.
     if (FSource && IsWaiting() && !FSource->GetControlStyle().Contains(csCaptureMouse))
         TMouse::GiveBack(FSource);
 }
@@ -300,7 +300,7 @@ TControl* TDragManager::Source()
 
 void TDragManager::Begin(TControl* Control, bool Immediate, int Threshold)
 {
-    // One that waits without the mouse has missed its release.
+    // A drag that still waits for movement but has lost the capture has missed the release of the button.
     if (Current && Current->IsWaiting() && !Current->Source()->GetMouseCapture())
         End(false);
     if (Current || !Control->ParentFormControl())
@@ -341,7 +341,7 @@ bool TDragManager::HandleMessage(TWinControl& Window, const TMessage& Message)
     if (!Drag)
         return false;
     const TStillThere Still(&Window);
-    // Sent by the system to what is being disabled, and to what has the mouse.
+    // The system sends this to a window that is being disabled, and to the one with the capture.
     if (Message.Msg == WM_CANCELMODE && Window.ContainsControl(Drag->Source())) {
         End(false);
         return !Still;

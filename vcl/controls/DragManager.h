@@ -1,5 +1,5 @@
-// TDragManager: the one drag and drop operation inside the application that may be going on.
-// Every handler may end it, delete the source, the target or the form, or open a modal form.
+// TDragManager: drag and drop between controls. There is at most one drag at a time. Every handler may end it, delete
+// the source, the target or the form, or open a modal form.
 #pragma once
 
 #include "vcl/controls/ControlTypes.h"
@@ -10,26 +10,25 @@
 class TDragManager {
 public:
     // Immediate: dragging starts at once. Otherwise when the pointer has moved by Threshold pixels (negative: the
-    // system's measure); a press that is released before is an ordinary one. Does nothing while something is being
-    // dragged, and for a control that is on no form.
+    // system's drag distance); when the button is released before, it is an ordinary click. Does nothing while
+    // something is being dragged, and for a control that is on no form.
     static void Begin(TControl* Control, bool Immediate, int Threshold);
-    // Drops on the control under the pointer if that takes it and Drop is true; gives up otherwise.
+    // With Drop, drops on the control under the pointer if that accepts it; otherwise the drag is cancelled.
     static void End(bool Drop);
     // The control being dragged or about to be, or nullptr.
     static TControl* Source();
-    // Looks at the messages of all windowed controls; true for one that the drag has used up, or whose window
-    // is gone now.
+    // Called for every message of a windowed control. True when the drag has handled the message, or when Window has
+    // been deleted.
     static bool HandleMessage(TWinControl& Window, const TMessage& Message);
-    // A control or a drag object is going away: dragging it ends without further events, dropping on it becomes
-    // impossible.
+    // Gone is being deleted. A drag of it ends without further events; it is no drop target any more.
     static void Forget(const TObject* Gone);
 
 private:
     class TDrag;
-    // Does a step; when that raises, the drag is given up without further events.
+    // Calls Step; when that throws, the drag is cancelled without further events.
     template <class TStep>
     static void Try(const std::shared_ptr<TDrag>& Drag, const TStep& Step);
 
-    // The one that goes on. Those that have ended may still be telling so.
+    // The current drag. One that has ended lives on while its last events are raised.
     static std::shared_ptr<TDrag> Current;
 };

@@ -12,9 +12,9 @@ public:
 protected:
     friend class TDragManager;
 
-    // The pointer over a place at X, Y of the screen that takes the object (Accepted), and over one that does not.
+    // The cursor at X, Y of the screen; Accepted: over a control that accepts the object.
     virtual TCursor GetDragCursor(bool Accepted, int X, int Y);
-    // Dragging has ended, at X, Y of Target; Target is nullptr when nobody took the object. It is deleted after the
-    // source's OnEndDrag, unless somebody has done that before.
+    // Dragging has ended, at X, Y of Target; Target is nullptr when no control accepted the object. The drag manager
+    // deletes the object after the source's OnEndDrag, unless that has been done before.
     virtual void Finished(TObject* Target, int X, int Y, bool Accepted);
 };

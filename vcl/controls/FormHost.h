@@ -1,15 +1,15 @@
-// What controls need of the forms room, which lies below them: the application and the form they stand on.
+// What controls need from the application and from their form. The forms room, which is above this one, implements it.
 #pragma once
 
 #include "vcl/controls/ControlTypes.h"
 #include "vcl/system/WindowsApi.h"
 
-// The application's part. The forms room installs itself here; until then the defaults apply.
+// The application's part. Until the forms room installs its own, the defaults apply.
 class TFormHost {
 public:
     virtual ~TFormHost() = default;
 
-    // The cursor of a slot; nullptr for crNone. Default: the system cursors.
+    // The handle of a cursor; nullptr for crNone. Default: the system cursors.
     virtual HCURSOR CursorHandle(TCursor Cursor);
     // The pointer left Old or entered New (either may be nullptr); for hints.
     virtual void HotControlChanged(TControl* Old, TControl* New);
@@ -42,8 +42,8 @@ public:
     virtual void FocusControl(TWinControl* Control) = 0;
     virtual TWinControl* GetActiveControl() const = 0;
     virtual void SetActiveControl(TWinControl* Control) = 0;
-    // True when the designer has taken the message that is on its way to Sender.
+    // True when the designer has handled a message for Sender.
     virtual bool IsDesignMessage(TControl* Sender, TMessage& Message) = 0;
-    // True when the form has used the key up (KeyPreview, dialog keys).
+    // True when the form has handled the key (KeyPreview, dialog keys).
     virtual bool WantKey(TWinControl* Sender, TMessage& Message) = 0;
 };

@@ -50,7 +50,7 @@ void TGraphicControl::WMPaint(TMessage& Message)
 
 void TGraphicControl::PaintOn(TControlCanvas& Canvas, HDC DC)
 {
-    // The canvas goes with the control.
+    // Deleting the control deletes the canvas.
     const TStillThere Still(this);
     const TScopeExit End([&] {
         if (Still)

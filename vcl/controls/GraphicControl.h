@@ -10,9 +10,8 @@ public:
     explicit TGraphicControl(TComponent* AOwner);
     ~TGraphicControl() override;
 
-    // What to draw on. Asked for outside of Paint it is the control's own from then on, with the pen, brush and font
-    // that were set last. A control that never asks paints on a passing one, which starts out as a new canvas each
-    // time: most controls do, and are a third smaller for it.
+    // What to draw on. When it is first used outside of Paint the control gets a canvas of its own, which keeps its
+    // pen, brush and font. Until then each Paint uses a temporary canvas, which saves a third of the control's memory.
     TCanvas* GetCanvas();
     PROPERTY_READ(TCanvas*, Canvas);
 
@@ -25,5 +24,5 @@ private:
     void PaintOn(TControlCanvas& Canvas, HDC DC);
 
     TControlCanvas* FCanvas = nullptr;
-    bool FCanvasPasses = false; // it is not the control's own
+    bool FCanvasPasses = false; // FCanvas is a temporary one, made for the current Paint
 };

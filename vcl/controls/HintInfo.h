@@ -14,15 +14,16 @@ struct THintInfo {
     // Lines are broken at this width in pixels.
     int HintMaxWidth = 0;
     TColor HintColor = clInfoBk;
-    // The part of the control, in its coordinates, that the hint is about. Outside of it the control is asked again.
+    // The part of the control, in its coordinates, that the hint belongs to. When the pointer leaves it, CM_HINTSHOW is
+    // sent again.
     TRect CursorRect;
     TPoint CursorPos;
-    // Not 0: after so many milliseconds the control is asked again.
+    // When not 0, CM_HINTSHOW is sent again after so many milliseconds.
     int ReshowTimeout = 0;
     // How long the hint stays, in milliseconds.
     int HideTimeout = 0;
     // UTF-8; empty shows nothing.
     AnsiString HintStr;
-    // For the hint window.
+    // Passed to the hint window.
     void* HintData = nullptr;
 };

@@ -52,7 +52,7 @@ enum : uint32_t {
     CM_ISTOOLCONTROL = CM_BASE + 50,
     CM_RECREATEWND = CM_BASE + 51,
     CM_INVALIDATE = CM_BASE + 52,
-    CM_CONTROLCHANGE = CM_BASE + 54, // as CM_CONTROLLISTCHANGE, after the control is in or before it is out
+    CM_CONTROLCHANGE = CM_BASE + 54, // as CM_CONTROLLISTCHANGE, but after inserting or before removing
     CM_CHANGED = CM_BASE + 55,
     CM_BORDERCHANGED = CM_BASE + 60,
 

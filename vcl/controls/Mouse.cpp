@@ -30,7 +30,7 @@ void TMouse::SetCaptureControl(TControl* Control)
         return;
     HWND Handle = Window ? Window->GetHandle() : nullptr;
 
-    // Windows are told of their loss here, and may delete controls.
+    // These calls send WM_CAPTURECHANGED, whose handlers may delete controls.
     const TComponentRef<TControl> New(Windowless ? Control : nullptr);
     const TComponentRef<TControl> Before(std::exchange(Capture, nullptr));
     if (Handle)
@@ -81,8 +81,8 @@ void TMouse::SetHotControl(TControl* Control, TControl* Owner)
     if (Hot == Control)
         return;
     const TComponentRef<TControl> Old(std::exchange(Hot, Control));
-    // What the pointer passes over while another control has the mouse is not told. A control that a handler deletes
-    // is hot no more.
+    // While a control has the capture, the others get no messages. Hot becomes nullptr when a handler deletes that
+    // control.
     if (Old && (!Owner || Owner == Old))
         Old->Perform(CM_MOUSELEAVE);
     if (Control && Hot == Control && (!Owner || Owner == Control))
@@ -105,7 +105,8 @@ void TMouse::FollowOverForeignWindow(const MSG& Message)
         UpdateHotControl();
     } else if (Message.message == WM_MOUSELEAVE && Foreign == Message.hwnd) {
         Foreign = nullptr;
-        // The control's own window has not been asked to tell when the pointer was over it already.
+        // The control that contains the window is hot already, so nothing else requests this message for its own
+        // window.
         POINT Screen;
         HWND Now = GetCursorPos(&Screen) ? WindowFromPoint(Screen) : nullptr;
         if (FindControl(Now))

@@ -61,8 +61,7 @@ TPaintBuffer::TPaintBuffer(const TRect& Area) : FArea(Area)
         FSurface->InUse = true;
     }
     FDC = FSurface->DC;
-    // As new, whatever the last painting left behind; restoring a saved context would take longer than painting a
-    // button.
+    // Resets what the last painting may have changed. SaveDC and RestoreDC would take longer than painting a button.
     SetMapMode(FDC, MM_TEXT);
     SetTextAlign(FDC, TA_LEFT);
     SetStretchBltMode(FDC, BLACKONWHITE);

@@ -1,5 +1,5 @@
-// TPaintBuffer: a memory device context that a window is painted into before it reaches the screen. One bitmap serves
-// all windows and grows as needed; painting inside painting gets one of its own.
+// TPaintBuffer: a memory device context that a window is painted into before it reaches the screen. One bitmap is
+// shared by all windows and grows as needed; nested painting gets a bitmap of its own.
 #pragma once
 
 #include "vcl/graphics/Types.h"
@@ -16,7 +16,7 @@ public:
     // Copies what was painted to the same place of Target.
     void CopyTo(HDC Target) const;
 
-    // Frees the shared bitmap; the next buffer makes it again.
+    // Frees the shared bitmap; the next buffer allocates a new one.
     static void FreeShared();
 
 private:

@@ -11,7 +11,7 @@ bool ReflectNotification(TMessage& Message)
     case WM_COMPAREITEM: Child = reinterpret_cast<COMPAREITEMSTRUCT*>(Message.LParam)->hwndItem; break;
     case WM_DELETEITEM: Child = reinterpret_cast<DELETEITEMSTRUCT*>(Message.LParam)->hwndItem; break;
     case WM_MEASUREITEM: {
-        // Names no window: controls that measure items have their handle as their identifier.
+        // This message has no window handle: controls that measure items use their handle as their identifier.
         auto* Item = reinterpret_cast<MEASUREITEMSTRUCT*>(Message.LParam);
         if (Item->CtlType == ODT_MENU)
             return false;

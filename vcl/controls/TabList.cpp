@@ -6,7 +6,7 @@
 
 void TTabList::Remove(TWinControl* Control)
 {
-    // Mostly the youngest goes first.
+    // From the end: the last child is mostly removed first.
     const auto Found = std::find(FControls.rbegin(), FControls.rend(), Control);
     if (Found != FControls.rend())
         FControls.erase(std::next(Found).base());

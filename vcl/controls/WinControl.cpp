@@ -21,7 +21,7 @@ TWinControl::~TWinControl()
     TControl::SetParent(nullptr);
     if (!FHandle)
         return;
-    // Half of the object is gone: the system's class alone hears of the end.
+    // The object is half destroyed, so only the native class may get the messages.
     TWindowClass::ReturnToSystem(FHandle, FDefWndProc);
     DestroyWindow(FHandle);
 }
@@ -30,7 +30,8 @@ void TWinControl::BeforeDestruction()
 {
     if (TFormLink* Form = ParentFormLink())
         Form->DefocusControl(this, true);
-    // Children go with their parent, whoever owns them; nothing is laid out for those that still wait.
+    // Children are deleted with their parent, whoever owns them. Laying out the remaining ones each time would be
+    // quadratic.
     DisableAlign();
     while (GetControlCount() > 0)
         delete GetControls(GetControlCount() - 1);

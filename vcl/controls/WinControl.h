@@ -41,12 +41,12 @@ public:
     PROPERTY_READ(HWND, Handle);
     bool HandleAllocated() const { return FHandle != nullptr; }
     void HandleNeeded();
-    // A parent that is no control of ours.
+    // A parent window that belongs to no control.
     HWND GetParentWindow() const { return FParentWindow; }
     void SetParentWindow(HWND Value);
     PROPERTY(HWND, ParentWindow);
-    // Between parents that show, the window moves over with all that is in it; otherwise it is destroyed, and created
-    // anew when it is needed.
+    // When both the old and the new parent are showing, the window moves to the new one with everything in it.
+    // Otherwise it is destroyed, and created again when it is needed.
     void SetParent(TWinControl* Value) override;
 
     // ---- children
@@ -65,12 +65,12 @@ public:
     TControl* ControlAtPos(const TPoint& Pos, bool AllowDisabled, bool AllowWinControls = false) const;
     // Sends Message to each child until one answers with a result other than 0.
     void Broadcast(TMessage& Message);
-    // The same without stopping.
+    // Sends Msg to every child.
     void NotifyControls(uint32_t Msg);
     void GetChildren(const TGetChildProc& Proc, TComponent* Root) override;
     void SetChildOrder(TComponent* Child, int Order) override;
 
-    // Between the two, changes of place lay nothing out; the last EnableAlign makes one pass for all.
+    // Between the two calls children are not aligned; the last EnableAlign does it once for all changes.
     void DisableAlign() { ++FAlignLevel; }
     void EnableAlign();
     void Realign();
@@ -92,7 +92,8 @@ public:
     PROPERTY(TTabOrder, TabOrder);
     // The children in tab order, and theirs, depth first.
     void GetTabOrderList(std::vector<TWinControl*>& List) const;
-    // The next control in tab order behind CurControl, round about; nullptr when there is none.
+    // The next control in tab order after CurControl (before it without GoForward), continuing at the other end;
+    // nullptr when there is none.
     TWinControl* FindNextControl(TWinControl* CurControl, bool GoForward, bool CheckTabStop, bool CheckParent) const;
     void SelectNext(TWinControl* CurControl, bool GoForward, bool CheckTabStop);
 
@@ -145,7 +146,7 @@ protected:
     virtual void CreateWindowHandle(const TCreateParams& Params);
     virtual void CreateHandle();
     virtual void DestroyWnd();
-    // While the window goes, the control hears of WM_DESTROY and WM_NCDESTROY only.
+    // While the window is being destroyed, the control gets WM_DESTROY and WM_NCDESTROY only.
     virtual void DestroyWindowHandle();
     void DestroyHandle();
     // Destroys the window and creates it again with new parameters, keeping text, focus and children.
@@ -154,10 +155,10 @@ protected:
 
     // ---- painting
 
-    // Draws the client area on a context whose background has been painted; the windowless children follow.
+    // Draws the client area; the background has been painted already. The windowless children are painted afterwards.
     virtual void PaintWindow(HDC) {}
     void PaintControls(HDC DC, const TRect& Clip);
-    // True when PaintWindow draws, so that the window is painted through a buffer.
+    // True when PaintWindow is overridden: the window is then painted through a buffer.
     virtual bool PaintsItself() const { return false; }
 
     // ---- layout
@@ -246,12 +247,12 @@ private:
     bool FAligning = false;
     bool FAlignNeeded = false;
     bool FPendingErase = false;
-    TRect FPending; // what a layout that is going on will have to draw again
+    TRect FPending; // to be invalidated at the end of the current layout
     TTabOrder FReadTabOrder = -1;
     bool FTabStop = false;
     bool FShowing = false;
     bool FCreateVisible = false;
-    bool FMovesOver = false; // to a new parent, window and all
+    bool FMovesOver = false; // the window moves to a new parent
     bool FWindowGoes = false;
     bool FCtl3D = true;
     bool FParentCtl3D = true;

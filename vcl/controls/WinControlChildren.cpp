@@ -148,7 +148,7 @@ void TWinControl::AlignControl(TControl* Control)
                 return;
             FAligning = Outer;
             InvalidatePending();
-            FAlignNeeded = false; // what the placing itself asked for has been done
+            FAlignNeeded = false; // requests from the layout itself have been dealt with
             --FAlignLevel;
         });
         TRect Rect = GetClientRect();
@@ -158,7 +158,7 @@ void TWinControl::AlignControl(TControl* Control)
         AdjustSize();
 }
 
-// The places that a layout leaves and takes are drawn again together: asking the system takes its time.
+// During a layout the areas are collected and invalidated together: each InvalidateRect is slow.
 void TWinControl::InvalidateArea(const TRect& Area, bool Erase)
 {
     UnionRect(FPending, FPending, Area);
@@ -233,7 +233,7 @@ void TWinControl::SetBounds(int ALeft, int ATop, int AWidth, int AHeight)
     if (ALeft == FLeft && ATop == FTop && AWidth == FWidth && AHeight == FHeight)
         return;
     if (!IsIconic(FHandle)) {
-        // The window's answer (WM_WINDOWPOSCHANGED, WM_SIZE) brings the rest along.
+        // WM_WINDOWPOSCHANGED and WM_SIZE, which this sends, update the rest.
         SetWindowPos(FHandle, nullptr, ALeft, ATop, AWidth, AHeight, SWP_NOZORDER | SWP_NOACTIVATE);
         return;
     }

@@ -10,7 +10,7 @@ bool TWinControl::CanFocus() const
 {
     if (!ParentFormControl() && !FParentWindow)
         return false;
-    // The form itself does not count: its active control can be chosen before it shows.
+    // The form itself is not checked: its active control can be set before it is shown.
     for (const TControl* Control = this; Control->GetParent(); Control = Control->GetParent())
         if (!Control->GetVisible() || !Control->GetEnabled())
             return false;
@@ -51,7 +51,7 @@ TTabOrder TWinControl::GetTabOrder() const
 
 void TWinControl::SetTabOrder(TTabOrder Value)
 {
-    // While the parent is read its children come in their own order; the places are taken when all are there.
+    // While the parent is read from a file, its children are not complete yet: the values are applied afterwards.
     if (GetControlState().Contains(csReadingState))
         FReadTabOrder = Value;
     else if (GetParent() && Value >= 0)
@@ -124,7 +124,7 @@ void TWinControl::KeyUp(uint16_t& Key, TShiftState Shift)
     OnKeyUp(this, Key, Shift);
 }
 
-// True when the key is used up, or the control gone.
+// True when the key has been handled, or the control deleted.
 bool TWinControl::DoKey(TWMKey& Message, void (TWinControl::*Handler)(uint16_t&, TShiftState))
 {
     const TStillThere Still(this);
@@ -167,11 +167,11 @@ void TWinControl::WMChar(TWMKey& Message)
     Inherited(Message);
 }
 
-// ---- keys on their way to this control; a result other than 0 keeps them from it
+// ---- keys before they are dispatched to this control; a result other than 0 stops that
 
 namespace {
 
-// What a control's WM_GETDLGCODE must say to get the key itself.
+// The flag that WM_GETDLGCODE must return for a control to get the key itself.
 unsigned WantedBy(uint16_t Key)
 {
     switch (Key) {

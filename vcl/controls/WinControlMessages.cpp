@@ -81,7 +81,7 @@ void TWinControl::Describe(TClassBuilder<TWinControl>& Class)
 void TWinControl::MainWndProc(TMessage& Message)
 {
     const HWND Window = FHandle;
-    // Handlers of focus, size and the like may not run for a window, and perhaps a control, that is on its way out.
+    // The window is being destroyed, and perhaps the control too: no handlers for focus, size and so on may run.
     if (FWindowGoes && Message.Msg != WM_DESTROY && Message.Msg != WM_NCDESTROY) {
         TWinControl::DefaultHandler(Message);
         return;
@@ -113,7 +113,7 @@ void TWinControl::WndProc(TMessage& Message)
         inherited::WndProc(Message);
 }
 
-// What must be done before the handlers; true when there is nothing left for them. This control may be gone then.
+// What comes before the message handlers. True when the message has been handled; the control may be deleted then.
 bool TWinControl::TakesMessage(TMessage& Message)
 {
     if (TDragManager::HandleMessage(*this, Message))
@@ -135,7 +135,7 @@ bool TWinControl::TakesMessage(TMessage& Message)
     case WM_MOUSELEAVE: TMouse::UpdateHotControl(); return false;
     case WM_CONTEXTMENU: return TMouseRouter::RouteContextMenu(*this, Message);
     case WM_MOUSEWHEEL:
-    case WM_MOUSEHWHEEL: return false; // these come with the focus, not with the pointer
+    case WM_MOUSEHWHEEL: return false; // sent to the focused window, with screen coordinates
     default: break;
     }
     if (Message.Msg < WM_MOUSEFIRST || Message.Msg > WM_MOUSELAST)
@@ -143,8 +143,7 @@ bool TWinControl::TakesMessage(TMessage& Message)
     HWND Window = FHandle;
     if (!TMouseRouter::Route(*this, static_cast<TWMMouse&>(Message)))
         return false;
-    // What a windowless control has not answered is the window's: the system makes other messages of these, such as
-    // WM_CONTEXTMENU and WM_APPCOMMAND.
+    // When the windowless control has not handled them, the system makes WM_CONTEXTMENU and WM_APPCOMMAND of these.
     const bool MayLeadOn = Message.Msg == WM_RBUTTONUP || Message.Msg == WM_XBUTTONUP;
     if (MayLeadOn && Message.Result == 0)
         Message.Result = DefWindowProcW(Window, Message.Msg, Message.WParam, Message.LParam);
@@ -217,7 +216,7 @@ void TWinControl::WMEraseBkgnd(TMessage& Message)
     // buffer's context.
     bool IntoBuffer = Message.WParam == static_cast<uintptr_t>(Message.LParam);
     if (SystemPaints() || IntoBuffer) {
-        // The whole of it, whatever a descendant leaves to its content.
+        // The whole client area of the window, even when a descendant's GetClientRect returns a smaller one.
         TRect Area = TWinControl::GetClientRect();
         FillRect(reinterpret_cast<HDC>(Message.WParam), &Area, GetBrush()->GetHandle());
     }
@@ -373,7 +372,7 @@ void TWinControl::WMSysColorChange(TMessage& Message)
 {
     const TStillThere Still(this);
     Inherited(Message);
-    // Once for each top window; it passes it on to its controls.
+    // Only top-level windows get this message; they pass it on to their controls.
     if (Still && !GetParent())
         Perform(CM_SYSCOLORCHANGE);
 }

@@ -31,7 +31,7 @@ void TWinControl::CreateHandle()
     CreateWnd();
     if (!FHandle)
         return;
-    // Later siblings lie on top of earlier ones, in whatever order their windows come to be.
+    // Later siblings lie on top of earlier ones, in whatever order their windows are created.
     if (TWinControl* Parent = GetParent())
         Parent->RestoreWindowOrder(this);
 }
@@ -116,7 +116,7 @@ void TWinControl::DestroyWindowHandle()
 
 void TWinControl::DestroyWnd()
 {
-    // Texts live in windows; they outlast them here.
+    // The window holds the text; keep it for the next one.
     TControl::StoreText(GetText());
     DestroyWindowHandle();
 }
@@ -143,7 +143,7 @@ void TWinControl::SetParent(TWinControl* Value)
         if (!Still)
             return;
         FMovesOver = Outer;
-        // A new parent that has refused it leaves the window nowhere.
+        // The new parent has raised an exception: the window would be left without one.
         if (!GetParent() && Value)
             DestroyHandle();
     });
@@ -183,8 +183,7 @@ void TWinControl::UpdateShowing()
                 !GetControlState().Contains(csReadingState);
     if (Show) {
         if (!FHandle) {
-            // In a parent that is not on the screen yet the window may be visible from the start: that spares showing
-            // each one.
+            // While the parent is not visible yet the window can be created visible, which saves a call to show it.
             FCreateVisible = GetParent() && !IsWindowVisible(GetParent()->GetHandle());
             CreateHandle();
         }

@@ -4,7 +4,7 @@
 
 namespace {
 
-// The control whose window is being created: the first messages come before the window knows it.
+// The control whose window is being created: the first messages arrive before its user data is set.
 TWinControl* Creating = nullptr;
 
 [[noreturn]] void RaiseSystemError(const char* What)
@@ -53,7 +53,7 @@ void TWindowClass::ReturnToSystem(HWND Window, WNDPROC Procedure)
 
 TWinControl* TWindowClass::ControlOf(HWND Window)
 {
-    // Other programs' windows answer 0 here, and a foreign class another procedure.
+    // This is 0 for windows of other programs, and another procedure for other classes.
     if (!Window || reinterpret_cast<WNDPROC>(GetClassLongPtrW(Window, GCLP_WNDPROC)) != &WindowProcedure)
         return nullptr;
     return reinterpret_cast<TWinControl*>(GetWindowLongPtrW(Window, GWLP_USERDATA));
@@ -89,7 +89,7 @@ TWinControl* FindEnclosingControl(HWND Window)
 
 TControl* FindDragTarget(const TPoint& Pos, bool AllowDisabled)
 {
-    // WindowFromPoint passes over disabled windows, so their parents are asked.
+    // WindowFromPoint skips disabled windows, so the search goes down from the window that it finds.
     TWinControl* Window = FindEnclosingControl(WindowFromPoint(Pos));
     if (!Window)
         return nullptr;

@@ -11,7 +11,7 @@ public:
     // Registers Params' class when it is not yet, and creates the window for Control. Raises EOSError when the system
     // refuses.
     static HWND CreateWindowFor(TWinControl& Control, const TCreateParams& Params);
-    // Control has no part in the window any more: from here on it is one of the class that Procedure belongs to.
+    // Separates the window from its control: from here on its messages go to Procedure, its native class's.
     static void ReturnToSystem(HWND Window, WNDPROC Procedure);
     // The control of a window of ours; nullptr for every other window.
     static TWinControl* ControlOf(HWND Window);

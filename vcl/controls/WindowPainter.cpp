@@ -24,8 +24,8 @@ private:
     HDC FDC;
 };
 
-// What a context is clipped to, to be selected again. The region that holds it is made once; only painting inside
-// painting makes another.
+// The clipping region of a context, to be selected again later. The region object is reused; only nested painting
+// creates another.
 class TClipRegion {
 public:
     explicit TClipRegion(HDC DC) : FRegion(Spare ? std::exchange(Spare, nullptr) : CreateRectRgn(0, 0, 0, 0))
@@ -146,8 +146,8 @@ void TWindowPainter::PaintControls(TWinControl& Window, HDC DC, size_t First, co
     }
 }
 
-// Saving and restoring the whole context would take longer than most controls take to paint themselves. A canvas takes
-// its objects out by itself; place, clipping and modes are put back here.
+// SaveDC and RestoreDC would take longer than most controls take to paint themselves. A canvas deselects its objects
+// itself; origin, clipping and modes are restored here.
 void TWindowPainter::PaintControl(TControl& Control, HDC DC, HRGN Clip)
 {
     const int MapMode = GetMapMode(DC);
