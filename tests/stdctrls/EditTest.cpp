@@ -60,6 +60,15 @@ TEST_F(EditTest, TypedTextArrivesAndIsTold)
     EXPECT_TRUE(Edit->Modified);
 }
 
+TEST_F(EditTest, AClickIsTold)
+{
+    int Clicks = 0;
+    Edit->OnClick = [&](TObject*) { ++Clicks; };
+    Show();
+    ClickOn(Edit);
+    EXPECT_TRUE(PumpUntil([&] { return Clicks == 1; }));
+}
+
 TEST_F(EditTest, AssigningTellsOnceWithOrWithoutAWindow)
 {
     int Changes = 0;

@@ -87,12 +87,13 @@ void TControl::ButtonDown(TWMMouse& Message, TMouseButton Button, bool Double)
 
 void TControl::ButtonUp(TWMMouse& Message, TMouseButton Button)
 {
+    // A native control gives the mouse back by itself, which ends the press.
+    const bool Clicked = Button == mbLeft && FControlState.Contains(csClicked) && GetClientRect().Contains(Message.Pos);
     const TStillThere Still(this);
     Inherited(Message);
     if (!Still)
         return;
     if (Button == mbLeft) {
-        const bool Clicked = FControlState.Contains(csClicked) && GetClientRect().Contains(Message.Pos);
         SetControlFlag(csClicked, false);
         if (FControlStyle.Contains(csCaptureMouse))
             TMouse::GiveBack(this);
