@@ -97,6 +97,15 @@ TPoint CursorPos()
     return Pos;
 }
 
+// Handlers may have taken it out of its window.
+bool IsOnWindow(TControl* Control)
+{
+    auto* Window = As<TWinControl>(Control);
+    if (!Window)
+        Window = Control->GetParent();
+    return Window && Window->HandleAllocated();
+}
+
 // Sends a button release outside of the control, which cancels what the press has begun.
 void EndPress(TControl* Control)
 {
@@ -206,6 +215,8 @@ void TDragManager::TDrag::Move(const TPoint& Screen)
 
 bool TDragManager::TDrag::Ask(TControl* Target, TDragState State, const TPoint& Screen)
 {
+    if (!IsOnWindow(Target))
+        return false;
     bool Accept = false;
     const TPoint Local = Target->ScreenToClient(Screen);
     Target->DragOver(Dragged(), Local.X, Local.Y, State, Accept);
@@ -268,7 +279,7 @@ void TDragManager::TDrag::Finish(bool Drop)
     const TPoint Screen = CursorPos();
     TPoint Local;
     try {
-        if (Drop && FAccepted && FTarget) {
+        if (Drop && FAccepted && FTarget && IsOnWindow(FTarget)) {
             Local = FTarget->ScreenToClient(Screen);
             FTarget->DragDrop(Dragged(), Local.X, Local.Y);
         } else {

@@ -1,4 +1,5 @@
 #include "vcl/forms/CustomForm.h"
+#include "vcl/classes/StillThere.h"
 
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Form.h"
@@ -178,7 +179,10 @@ void TCustomForm::FocusControl(TWinControl* Control)
         return;
     }
     const bool WasActive = Active;
+    const TStillThere IsHere(this);
     FFocus.SetActive(Control);
+    if (!IsHere)
+        return;
     if (!WasActive)
         SetFocus();
     else if (FFocus.Active() == Control && !Control->Focused()) // a handler may have deleted it
@@ -213,9 +217,10 @@ bool TCustomForm::WantKey(TWinControl* Sender, TMessage& Message)
 
 bool TCustomForm::IsShortCut(TWMKey& Message)
 {
+    const TStillThere IsHere(this);
     bool Handled = false;
     OnShortCut(Message, Handled);
-    return Handled || (FMenu && FMenu->IsShortCut(KeyMessageToShortCut(Message)));
+    return !IsHere || Handled || (FMenu && FMenu->IsShortCut(KeyMessageToShortCut(Message)));
 }
 
 void TCustomForm::CMDialogKey(TCMDialogKey& Message)
@@ -284,11 +289,13 @@ void TCustomForm::PaintWindow(HDC DC)
 {
     FCanvas.FreeHandle();
     FCanvas.SetHandle(DC);
+    const TStillThere IsHere(this);
     if (FDesigner)
         FDesigner->PaintGrid();
     else
         Paint();
-    FCanvas.SetHandle(nullptr);
+    if (IsHere)
+        FCanvas.SetHandle(nullptr);
 }
 
 TBitmap* TCustomForm::GetFormImage()

@@ -150,7 +150,7 @@ public:
     void FocusControl(TWinControl* Control) override;
     bool IsDesignMessage(TControl* Sender, TMessage& Message) override;
     bool WantKey(TWinControl* Sender, TMessage& Message) override;
-    // True when OnShortCut or an item of the form's menu has used the key up.
+    // True when OnShortCut or an item of the form's menu has used the key up, or the handler has deleted the form.
     virtual bool IsShortCut(TWMKey& Message);
 
     TDesignerHook* GetDesigner() const { return FDesigner; }

@@ -1,10 +1,40 @@
 #include "vcl/forms/FormFocus.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Screen.h"
-#include "vcl/system/Scope.h"
 
 #include <utility>
+
+// One change of the focus. Handlers may move the focus on, or delete the form and its TFormFocus with it.
+class TFormFocus::TChange {
+public:
+    TChange(TFormFocus& Focus, TWinControl* Control)
+        : FFocus(Focus),
+          FForm(Focus.FForm),
+          FControl(Control),
+          FWindow(GetFocus())
+    {
+        Focus.FTarget = Control;
+        Control->SetControlFlag(csFocusing, true);
+    }
+    ~TChange()
+    {
+        if (IsTarget())
+            FControl->SetControlFlag(csFocusing, false);
+    }
+    TChange(const TChange&) = delete;
+
+    bool GoesOn() const { return IsTarget() && GetFocus() == FWindow; }
+
+private:
+    bool IsTarget() const { return FForm && FFocus.FTarget == FControl; }
+
+    TFormFocus& FFocus;
+    const TStillThere FForm;
+    TWinControl* const FControl;
+    const HWND FWindow;
+};
 
 void TFormFocus::SetActive(TWinControl* Control)
 {
@@ -38,11 +68,6 @@ void TFormFocus::SelectFirst()
             SetActive(First);
 }
 
-bool TFormFocus::StillOn(HWND Focus, const TWinControl* Control) const
-{
-    return FTarget == Control && GetFocus() == Focus;
-}
-
 bool TFormFocus::SetFocusedControl(TWinControl* Control)
 {
     // The windows of a form that is being deleted pass the focus on as they go; nobody is told.
@@ -55,15 +80,10 @@ bool TFormFocus::SetFocusedControl(TWinControl* Control)
     if (Control->ControlState.Contains(csFocusing))
         return true;
 
-    FTarget = Control;
-    Control->SetControlFlag(csFocusing, true);
     bool Kept = false;
     {
-        const TScopeExit Done([&] {
-            if (FTarget == Control)
-                Control->SetControlFlag(csFocusing, false);
-        });
-        Kept = ActivateForm() && LeaveFor(Control) && EnterDownTo(Control);
+        const TChange Change(*this, Control);
+        Kept = ActivateForm(Change) && LeaveFor(Control, Change) && EnterDownTo(Control, Change);
     }
     if (Kept)
         Screen->ReportActive();
@@ -71,37 +91,33 @@ bool TFormFocus::SetFocusedControl(TWinControl* Control)
 }
 
 // CM_DEACTIVATE to the form that was active before, CM_ACTIVATE to this one.
-bool TFormFocus::ActivateForm()
+bool TFormFocus::ActivateForm(const TChange& Change)
 {
     if (Screen->FFocusedForm == FForm)
         return true;
-    HWND Focus = GetFocus();
-    TWinControl* Target = FTarget;
     TCustomForm* Before = std::exchange(Screen->FFocusedForm, FForm);
     if (Before)
         Before->Perform(CM_DEACTIVATE);
-    if (!StillOn(Focus, Target))
+    if (!Change.GoesOn())
         return false;
     FForm->Perform(CM_ACTIVATE);
-    return StillOn(Focus, Target);
+    return Change.GoesOn();
 }
 
-bool TFormFocus::LeaveFor(TWinControl* Control)
+bool TFormFocus::LeaveFor(TWinControl* Control, const TChange& Change)
 {
-    HWND Focus = GetFocus();
     while (FFocused && !FFocused->ContainsControl(Control)) {
         TWinControl* Left = FFocused;
         FFocused = Left->Parent;
         Left->Perform(CM_EXIT);
-        if (!StillOn(Focus, Control))
+        if (!Change.GoesOn())
             return false;
     }
     return true;
 }
 
-bool TFormFocus::EnterDownTo(TWinControl* Control)
+bool TFormFocus::EnterDownTo(TWinControl* Control, const TChange& Change)
 {
-    HWND Focus = GetFocus();
     if (!FFocused)
         FFocused = FForm;
     if (FFocused == Control)
@@ -112,14 +128,14 @@ bool TFormFocus::EnterDownTo(TWinControl* Control)
             Entered = Entered->Parent;
         FFocused = Entered;
         Entered->Perform(CM_ENTER);
-        if (!StillOn(Focus, Control) || !FFocused || !FFocused->ContainsControl(Control))
+        if (!Change.GoesOn() || !FFocused || !FFocused->ContainsControl(Control))
             return false;
     }
     for (TWinControl* Area = Control->Parent; Area; Area = Area->Parent)
         if (auto* Scrolling = As<TScrollingWinControl>(Area))
             Scrolling->AutoScrollInView(Control);
     FForm->Perform(CM_FOCUSCHANGED, 0, reinterpret_cast<intptr_t>(Control));
-    return StillOn(Focus, Control);
+    return Change.GoesOn();
 }
 
 void TFormFocus::DefocusControl(TWinControl* Control, bool Removing)

@@ -28,10 +28,11 @@ public:
     void SelectFirst();
 
 private:
-    bool ActivateForm();
-    bool LeaveFor(TWinControl* Control);
-    bool EnterDownTo(TWinControl* Control);
-    bool StillOn(HWND Focus, const TWinControl* Control) const;
+    class TChange;
+
+    bool ActivateForm(const TChange& Change);
+    bool LeaveFor(TWinControl* Control, const TChange& Change);
+    bool EnterDownTo(TWinControl* Control, const TChange& Change);
 
     TCustomForm* FForm;
     TComponentRef<TWinControl> FActive;

@@ -1,6 +1,7 @@
 #include "vcl/forms/ScrollingWinControl.h"
 
 #include "vcl/classes/Reader.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/classes/Writer.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -209,7 +210,8 @@ void TScrollingWinControl::WMVScroll(TMessage& Message)
 
 void TScrollingWinControl::WMSize(TWMSize& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    if (!FUpdatingBars)
+    if (IsHere && !FUpdatingBars)
         UpdateScrollBars();
 }

@@ -1,5 +1,6 @@
 #include "vcl/stdctrls/ButtonControl.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TButtonControl::Describe(TClassBuilder<TButtonControl>& Class)
@@ -26,8 +27,11 @@ void TButtonControl::WndProc(TMessage& Message)
     case WM_LBUTTONDBLCLK:
         // The focus comes before the press. A radio button would take the focus itself for a click.
         if (!IsDesigning() && !Focused()) {
+            const TStillThere IsHere(this);
             ClicksDisabled = true;
             ::SetFocus(Handle);
+            if (!IsHere)
+                return;
             ClicksDisabled = false;
             if (!Focused())
                 return;

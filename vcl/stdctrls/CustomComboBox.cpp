@@ -167,6 +167,7 @@ bool TCustomComboBox::Focused() const
 
 void TCustomComboBox::CNCommand(TWMCommand& Message)
 {
+    const TStillThere Here(this);
     switch (Message.NotifyCode()) {
     case CBN_DBLCLK: DblClick(); break;
     case CBN_EDITCHANGE:
@@ -176,7 +177,8 @@ void TCustomComboBox::CNCommand(TWMCommand& Message)
         break;
     case CBN_DROPDOWN:
         DropDown();
-        AdjustDropDown();
+        if (Here)
+            AdjustDropDown();
         break;
     case CBN_CLOSEUP: CloseUp(); break;
     case CBN_SELCHANGE:
@@ -184,7 +186,8 @@ void TCustomComboBox::CNCommand(TWMCommand& Message)
         if (!IsList() && GetItemIndex() >= 0)
             SetWindowTextW(Handle, TWideText(FItems[GetItemIndex()]).c_str());
         Click();
-        Select();
+        if (Here)
+            Select();
         break;
     default: break;
     }
@@ -217,11 +220,14 @@ void TCustomComboBox::CMWantSpecialKey(TMessage& Message)
 
 void TCustomComboBox::KeyPress(char16_t& Key)
 {
+    const TStillThere Here(this);
     inherited::KeyPress(Key);
+    if (!Here)
+        return;
     FTyping = Key >= VK_SPACE && AutoComplete;
     if (Key >= VK_SPACE && AutoDropDown && !DroppedDown)
         DroppedDown = true;
-    if (IsList() && FTyping && FindTyped(Key))
+    if (Here && IsList() && FTyping && FindTyped(Key))
         Key = 0;
 }
 
@@ -250,9 +256,11 @@ bool TCustomComboBox::FindTyped(char16_t Key)
     if (Found < 0) {
         FTypeAhead.Drop();
     } else if (Found != GetItemIndex()) {
+        const TStillThere Here(this);
         SetItemIndex(static_cast<int>(Found));
         Click();
-        Select();
+        if (Here)
+            Select();
     }
     return true;
 }
@@ -261,7 +269,7 @@ bool TCustomComboBox::FindTyped(char16_t Key)
 
 void TCustomComboBox::CNDrawItem(TMessage& Message)
 {
-    TItemDrawing Drawing(FCanvas, Message, Font, Color);
+    TItemDrawing Drawing(this, FCanvas, Message, Font, Color);
     DrawItem(Drawing.Index(), Drawing.Rect(), Drawing.State());
     Message.Result = 1;
 }

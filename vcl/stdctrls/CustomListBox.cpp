@@ -118,8 +118,9 @@ void TCustomListBox::CNCommand(TWMCommand& Message)
 
 void TCustomListBox::KeyPress(char16_t& Key)
 {
+    const TStillThere Here(this);
     inherited::KeyPress(Key);
-    if (!AutoComplete || Key < VK_SPACE || FMultiSelect)
+    if (!Here || !AutoComplete || Key < VK_SPACE || FMultiSelect)
         return;
     const TWideString& Typed = FTypeAhead.Type(Key);
     // A letter alone goes on from the chosen item, as the list box does by itself.
@@ -129,6 +130,8 @@ void TCustomListBox::KeyPress(char16_t& Key)
                             : static_cast<int>(SendMessageW(Handle, LB_FINDSTRING, static_cast<WPARAM>(-1),
                                                             reinterpret_cast<LPARAM>(Typed.c_str())));
     Key = 0;
+    if (!Here)
+        return;
     if (Found < 0) {
         FTypeAhead.Drop();
         return;
@@ -144,7 +147,7 @@ void TCustomListBox::KeyPress(char16_t& Key)
 
 void TCustomListBox::CNDrawItem(TMessage& Message)
 {
-    TItemDrawing Drawing(FCanvas, Message, Font, Color);
+    TItemDrawing Drawing(this, FCanvas, Message, Font, Color);
     DrawItem(Drawing.Index(), Drawing.Rect(), Drawing.State());
     Message.Result = 1;
 }
@@ -156,8 +159,12 @@ void TCustomListBox::DrawItem(int Index, const TRect& Rect, TOwnerDrawState Stat
         return;
     }
     FCanvas.FillRect(Rect);
-    if (Index >= 0 && Index < Count)
-        FCanvas.TextOut(Rect.Left + 2, Rect.Top, FItems[Index]);
+    if (Index < 0 || Index >= Count)
+        return;
+    const TStillThere Here(this);
+    const AnsiString Text = FItems[Index];
+    if (Here && FCanvas.HandleAllocated())
+        FCanvas.TextOut(Rect.Left + 2, Rect.Top, Text);
 }
 
 void TCustomListBox::CNMeasureItem(TMessage& Message)

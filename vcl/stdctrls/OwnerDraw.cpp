@@ -2,8 +2,9 @@
 
 #include "vcl/system/Message.h"
 
-TItemDrawing::TItemDrawing(TCanvas& Canvas, TMessage& Message, TFont* Font, TColor Color)
-    : FCanvas(Canvas),
+TItemDrawing::TItemDrawing(TComponent* List, TCanvas& Canvas, TMessage& Message, TFont* Font, TColor Color)
+    : FList(List),
+      FCanvas(Canvas),
       FItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(Message.LParam)),
       FSaved(SaveDC(FItem.hDC))
 {
@@ -19,8 +20,11 @@ TItemDrawing::TItemDrawing(TCanvas& Canvas, TMessage& Message, TFont* Font, TCol
 
 TItemDrawing::~TItemDrawing()
 {
-    if (State().Contains(odFocused))
-        FCanvas.DrawFocusRect(Rect());
-    FCanvas.Handle = nullptr;
+    if (FList) {
+        // The canvas has lost its context when the list has left its window.
+        if (FCanvas.HandleAllocated() && State().Contains(odFocused))
+            FCanvas.DrawFocusRect(Rect());
+        FCanvas.Handle = nullptr;
+    }
     RestoreDC(FItem.hDC, FSaved);
 }

@@ -1,5 +1,6 @@
 #include "vcl/stdctrls/ScrollBar.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/system/ClassBuilder.h"
 
 void TScrollBar::Describe(TClassBuilder<TScrollBar>& Class)
@@ -155,8 +156,10 @@ void TScrollBar::CNScroll(TMessage& Message)
     int ScrollPos = static_cast<int>(std::clamp<int64_t>(Target, FMin, LastPosition()));
     if (Code == scEndScroll)
         ScrollPos = FPosition;
+    const TStillThere Here(this);
     Scroll(Code, ScrollPos);
-    SetPosition(ScrollPos);
+    if (Here)
+        SetPosition(ScrollPos);
     Message.Result = 0;
 }
 
