@@ -1,0 +1,59 @@
+#include "tests/matrix/Exclusions.h"
+
+namespace {
+
+struct TNeverRaised {
+    const char* Class; // and its descendants
+    const char* Event;
+    const char* Reason;
+};
+
+constexpr TNeverRaised NeverRaised[] = {
+    {"TkelCustomPopupMenu", "OnPopup", "these menus do not raise it"},
+    {"TCustomForm", "OnCreate", "it is raised inside the constructor, where only a form file has attached a handler"},
+    {"TDataModule", "OnCreate", "it is raised inside the constructor, where only a form file has attached a handler"},
+    {"TCustomListBox", "OnDataObject", "only programs ask a list for its objects"},
+};
+
+struct TNotRun {
+    const char* Class; // and its descendants
+    const char* Event;
+    const char* Action;
+    const char* Reason;
+};
+
+constexpr TNotRun NotRun[] = {
+    {"TCustomForm", "OnShow", "hides itself", "Visible cannot be changed there, which is an error that is reported"},
+    {"TCustomForm", "OnHide", "hides itself", "Visible cannot be changed there, which is an error that is reported"},
+    {"TCustomListBox", "OnMeasureItem", "deletes itself", "it is raised while the list makes its window"},
+    {"TCustomListBox", "OnMeasureItem", "deletes its form", "it is raised while the list makes its window"},
+    {"TCustomListBox", "OnMeasureItem", "leaves its parent", "it is raised while the list makes its window"},
+    {"TCustomComboBox", "OnMeasureItem", "deletes itself", "it is raised while the list makes its window"},
+    {"TCustomComboBox", "OnMeasureItem", "deletes its form", "it is raised while the list makes its window"},
+    {"TCustomComboBox", "OnMeasureItem", "leaves its parent", "it is raised while the list makes its window"},
+    {"TMenu", "OnChange", "deletes itself", "it is raised while an item is being deleted"},
+    {"TMenu", "OnChange", "deletes its form", "it is raised while an item is being deleted"},
+};
+
+bool Is(TClass Class, const char* Name)
+{
+    return Class->InheritsFrom(FindClass(Name));
+}
+
+} // namespace
+
+const char* WhyNeverRaised(TClass Class, std::string_view Event)
+{
+    for (const TNeverRaised& Row : NeverRaised)
+        if (Event == Row.Event && Is(Class, Row.Class))
+            return Row.Reason;
+    return nullptr;
+}
+
+const char* WhyNotRun(TClass Class, std::string_view Event, std::string_view Action)
+{
+    for (const TNotRun& Row : NotRun)
+        if (Event == Row.Event && Action == Row.Action && Is(Class, Row.Class))
+            return Row.Reason;
+    return nullptr;
+}
