@@ -77,3 +77,17 @@ TEST_F(WindowProcHookTest, AHookMayBeRemovedWhileItIsCalled)
     Probe->Perform(WM_APP);
     EXPECT_EQ(Hook.Control(), nullptr);
 }
+
+// One that does not live on the heap tells of its end late: when it is no control any more.
+TEST_F(WindowProcHookTest, AHookMayBeRemovedByAComponentOfAControlThatIsHalfGone)
+{
+    struct THooking : TComponent {
+        using TComponent::TComponent;
+        TWindowProcHook Hook;
+    };
+    {
+        TTestWindow OnStack(nullptr);
+        (new THooking(&OnStack))->Hook.Install(&OnStack, Noting("a"));
+    }
+    EXPECT_EQ(Log, TLog{});
+}

@@ -3,13 +3,13 @@
 void TWindowProcHook::Install(TControl* Control, const THookedWindowProc& Procedure)
 {
     Remove();
+    FControl = Control;
     FLink = std::make_shared<TLink>(Procedure, Control->WindowProc);
-    FLink->Control = Control;
     FInstalled = [Link = FLink](TMessage& Message) {
         // Either may change while it is being called.
         const THookedWindowProc Called = Link->Procedure;
         const TWndMethod Next = Link->Next;
-        if (Called && Link->Control)
+        if (Called)
             Called(Message, Next);
         else
             Next(Message);
@@ -19,10 +19,19 @@ void TWindowProcHook::Install(TControl* Control, const THookedWindowProc& Proced
 
 void TWindowProcHook::Remove()
 {
-    if (TControl* Hooked = Control(); Hooked && Hooked->WindowProc == FInstalled)
-        Hooked->WindowProc = FLink->Next;
+    // A control whose destructors run is no TControl any more.
+    auto* Control = As<TControl>(FControl.Get());
+    if (Control && Control->WindowProc == FInstalled)
+        Control->WindowProc = FLink->Next;
+    Forget();
+}
+
+// The chain of the control stays as it is.
+void TWindowProcHook::Forget()
+{
     if (FLink)
         FLink->Procedure = nullptr;
+    FControl = nullptr;
     FInstalled = nullptr;
     FLink.reset();
 }

@@ -22,16 +22,18 @@ public:
     void Install(TControl* Control, const THookedWindowProc& Procedure);
     void Remove();
 
-    // nullptr when the control has been deleted: the hook has ended with it.
-    TControl* Control() const { return FLink ? FLink->Control.Get() : nullptr; }
+    // nullptr when it is gone.
+    TControl* Control() const { return static_cast<TControl*>(FControl.Get()); }
 
 private:
     struct TLink {
         THookedWindowProc Procedure;
         TWndMethod Next;
-        TComponentRef<TControl> Control;
     };
 
+    void Forget();
+
+    TComponentRef<TComponent> FControl{this, &TWindowProcHook::Forget};
     TWndMethod FInstalled;
     std::shared_ptr<TLink> FLink; // shared with what is in the chain
 };
