@@ -1,5 +1,6 @@
 #include "toolbar/Dock.h"
 
+#include "toolbar/DockRows.h"
 #include "toolbar/ToolBar.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -16,7 +17,7 @@ void TkelDock::Describe(TClassBuilder<TkelDock>& Class)
                      "PopupMenu");
 }
 
-TkelDock::TkelDock(TComponent* AOwner) : TkelCustomPanel(AOwner)
+TkelDock::TkelDock(TComponent* AOwner) : TkelCustomPanel(AOwner), FFitted(new TFittedRows)
 {
     Height = DefaultHeight;
     Align = alTop;
@@ -24,6 +25,8 @@ TkelDock::TkelDock(TComponent* AOwner) : TkelCustomPanel(AOwner)
     BevelInner = bvNone;
     Caption = "";
 }
+
+TkelDock::~TkelDock() = default;
 
 std::vector<TkelToolBar*> TkelDock::AllBars() const
 {
@@ -81,6 +84,10 @@ void TkelDock::Paint()
 // Settings may have put a bar where nobody can reach it; now that the form shows it is known how large the dock is.
 void TkelDock::BringBarsIn()
 {
+    if (ArrangeRows) {
+        FitRows();
+        return;
+    }
     const TRect Inside(0, 0, Width, Height);
     for (TkelToolBar* Bar : ShownBars()) {
         TRect Seen;
@@ -94,9 +101,22 @@ void TkelDock::Resize()
 {
     inherited::Resize();
     const int Thick = Axis().Thickness(*this);
-    if (!TakesBars() || IsDesigning() || Thick == 0)
+    if (!TakesBars() || IsDesigning() || Thick == 0 || FLaying)
         return;
+    if (ArrangeRows && FSeen && Axis().Length(*this) != FFittedLength)
+        FitRows();
+    if (ArrangeRows && TkelToolBar::IsDragged())
+        return; // what the step leaves behind is arranged at its end
     for (TkelToolBar* Bar : ShownBars())
         if (Axis().Row(*Bar) >= Thick)
             Bar->Aligning();
+}
+
+// Within the length that the dock has now.
+void TkelDock::FitRows()
+{
+    if (!ArrangeRows || !TakesBars() || IsDesigning())
+        return;
+    FFittedLength = Axis().Length(*this);
+    FFitted->Fit(*this);
 }

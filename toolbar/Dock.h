@@ -7,6 +7,7 @@
 #include "common/CustomPanel.h"
 #include "toolbar/DockAxis.h"
 
+class TFittedRows;
 class TkelToolBar;
 
 class TkelDock : public TkelCustomPanel {
@@ -14,6 +15,12 @@ class TkelDock : public TkelCustomPanel {
 public:
     // 48 pixels high at the upper edge, without bevels.
     explicit TkelDock(TComponent* AOwner);
+    ~TkelDock() override;
+
+    // Whether drags, restarts and changes of the dock's length leave the bars in order: none covers another or is out
+    // of sight, no row is empty, and bars that shared a row share it after a restart. False: only the rules of
+    // TkelToolBar hold. Not kept in form files; to count for a restart it is set before the form's bars are loaded.
+    bool ArrangeRows = true;
 
     // Aligned to one of the four edges.
     bool TakesBars() const { return Align == alTop || Align == alBottom || Align == alLeft || Align == alRight; }
@@ -34,7 +41,14 @@ protected:
     void Resize() override;
 
 private:
-    void BringBarsIn();
+    friend class TDockRows;
+    friend class TkelToolBar;
 
-    bool FSeen = false; // has been painted
+    void BringBarsIn();
+    void FitRows();
+
+    std::unique_ptr<TFittedRows> FFitted;
+    int FFittedLength = -1;
+    bool FSeen = false;   // has been painted
+    bool FLaying = false; // its rows are being laid anew
 };

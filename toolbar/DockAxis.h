@@ -18,10 +18,15 @@ public:
     int Thickness(const TControl& Bar) const { return FVertical ? Bar.Width : Bar.Height; }
     // The place across of what would lie directly behind Bar's row.
     int NextRow(const TControl& Bar) const { return Row(Bar) + Thickness(Bar); }
+    int Along(const TPoint& Point) const { return FVertical ? Point.Y : Point.X; }
     int Across(const TPoint& Point) const { return FVertical ? Point.X : Point.Y; }
 
     void SetStart(TControl& Bar, int Value) const { FVertical ? Bar.SetTop(Value) : Bar.SetLeft(Value); }
     void SetRow(TControl& Bar, int Value) const { FVertical ? Bar.SetLeft(Value) : Bar.SetTop(Value); }
+    void SetPlace(TControl& Bar, int Start, int Row) const
+    {
+        FVertical ? Bar.SetBounds(Row, Start, Bar.Width, Bar.Height) : Bar.SetBounds(Start, Row, Bar.Width, Bar.Height);
+    }
     void Grow(TControl& Dock, int By) const
     {
         FVertical ? Dock.SetWidth(Dock.Width + By) : Dock.SetHeight(Dock.Height + By);

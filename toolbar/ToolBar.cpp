@@ -1,5 +1,6 @@
 #include "toolbar/ToolBar.h"
 
+#include "toolbar/BarDrag.h"
 #include "toolbar/Flpfrm97.h"
 #include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBarPosition.h"
@@ -43,6 +44,8 @@ TkelToolBar::TkelToolBar(TComponent* AOwner) : TkelCustomPanel(AOwner)
     FDragBox->Parent = this;
 }
 
+TkelToolBar::~TkelToolBar() = default;
+
 void TkelToolBar::NumberCaption()
 {
     Caption = ClassName() + std::to_string(Owner ? Owner->ComponentCount : 0);
@@ -84,11 +87,18 @@ void TkelToolBar::Loaded()
     inherited::Loaded();
     SortControls();
     FUpright = Axis().IsVertical();
+    FRowThickness = Axis().Thickness(*this);
     if (FAutoSave && !IsDesigning())
         RestoreToolBarPosition(this);
-    if (!IsHere)
-        return;
-    FRowThickness = Axis().Thickness(*this);
+    if (IsHere && !FFloating)
+        FRowThickness = Axis().Thickness(*this);
+}
+
+// Before other bars come and go.
+void TkelToolBar::ReadState(TReader& Reader)
+{
+    inherited::ReadState(Reader);
+    FSavedRow = {Axis().Row(*this), Axis().Start(*this)};
 }
 
 TkelDock* TkelToolBar::GetDock() const
@@ -215,4 +225,6 @@ void TkelToolBar::ShowPanel()
         FFrame->ShowWithForm();
     else
         InsertToDock();
+    if (IsHere && Dock && HandleAllocated() && IsWindowVisible(Handle))
+        Dock->FitRows();
 }

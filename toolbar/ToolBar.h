@@ -6,9 +6,12 @@
 
 #include "toolbar/Dock.h"
 
+#include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
+class TBarDrag;
 class TFPForm97;
 class TkelTBDragBox;
 
@@ -22,6 +25,7 @@ class TkelToolBar : public TkelCustomPanel {
 public:
     // 26 pixels high, visible, with AutoSave. The caption is the class's name and the number of the owner's components.
     explicit TkelToolBar(TComponent* AOwner);
+    ~TkelToolBar() override;
     void BeforeDestruction() override;
     void SetParent(TWinControl* Value) override;
 
@@ -78,7 +82,8 @@ public:
     void SwapToolBar(TkelToolBar* ToolBar);
     // Moves the bar into its parent, the far edges first to go outside when it is larger.
     void Aligning();
-    // The thickness the bar had in its dock when it was loaded, in pixels.
+    // The thickness the bar had in its dock when it was loaded or left it, in pixels. A bar that was resized while it
+    // floated gets it back when it is docked.
     int GetRowThickness() const { return FRowThickness; }
     PROPERTY_READ(int, RowThickness);
     // The dock the bar lies in (hidden or not), nullptr while it floats or lies elsewhere.
@@ -107,14 +112,30 @@ public:
     void PublicMouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) { MouseDown(Button, Shift, X, Y); }
     void PublicMouseMove(TShiftState Shift, int X, int Y) { MouseMove(Shift, X, Y); }
     void PublicMouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) { MouseUp(Button, Shift, X, Y); }
-    // The first of the owner's docks that is near enough to a point of the bar to take it, nullptr when there is none.
+    // Ends the drag that the user has begun with this bar, and puts all bars back where they were, as Escape does.
+    void CancelDrag();
+    // The docks at the edges that have the bar's owner, in the order of its components.
+    std::vector<TkelDock*> OwnersDocks() const;
+    // The first of these docks that Point is near enough to, nullptr when there is none. Point is in the bar's
+    // coordinates.
     TkelDock* FindDock(const TPoint& Point) const;
-    // The bar of this dock that a pointer at a point of this bar has gone over the middle of, nullptr when there is
-    // none.
+    // The bar of the same dock that this one is to trade places with when the pointer is at Point: the first whose
+    // middle across the dock lies between this bar's row and the pointer. nullptr when there is none. Point is in the
+    // bar's coordinates.
     TkelToolBar* FindToolBar(const TPoint& Point) const;
+    // A step of a drag is being made, by any bar.
+    static bool IsDragged() { return Dragged != nullptr; }
 
     // True while bars are created and loaded: nothing is reported, saved or captured then.
     static bool IsLayoutSuspended() { return TSuspension::Any(); }
+
+    // Where the bar lay in its dock when its record was saved, or in the form file without one: the place of its row
+    // across the dock and its own along the row, in pixels. Only for bars that were loaded, as long as that counts.
+    struct TSavedRow {
+        int Row;
+        int Start;
+    };
+    const std::optional<TSavedRow>& SavedRow() const { return FSavedRow; }
 
     TRect GetClientRect() const override;
     int AccessibleRole() const override;
@@ -126,6 +147,7 @@ protected:
     // The class's name and the number of the owner's components. A constructor knows its own class only, so that of a
     // descendant calls it again.
     void NumberCaption();
+    void ReadState(TReader& Reader) override;
     void Loaded() override;
     void Paint() override;
     // A bar with items shows no caption in the gaps between them.
@@ -133,9 +155,11 @@ protected:
     void AlignControls(TControl* Control, TRect& Rect) override;
     void MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y) override;
     void MouseMove(TShiftState Shift, int X, int Y) override;
+    void MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) override;
 
 private:
     friend class TFPForm97;
+    friend void SaveToolBarPosition(TkelToolBar* ToolBar);
     friend void RestoreToolBarPosition(TkelToolBar* ToolBar);
 
     // A bar is being made or loaded: until it lies somewhere, has been loaded, or is deleted because that failed.
@@ -158,6 +182,9 @@ private:
     void CMControlListChange(TMessage& Message);
 
     void SaveQuietly();
+    void SaveRow(const AnsiString& Section);
+    void ReadRow(const AnsiString& Section);
+    void ReturnToRow();
     void GiveUpRow();
     void LieFree();
     bool LeadsRow() const;
@@ -171,6 +198,10 @@ private:
     void TradeRows(TkelToolBar& Upper, TkelToolBar& Lower, TkelToolBar& Other);
 
     // P is in the bar's coordinates, Pointer the same place on the screen.
+    void Drag(const TPoint& P, const TPoint& Pointer);
+    bool KeepsToDock(const TPoint& Pointer) const;
+    bool HasPassed(const TkelToolBar& Other, const TPoint& P) const;
+    TkelToolBar* FindInOtherRows(const TPoint& P) const;
     void DragAlong(TkelDock& InDock, const TPoint& P);
     void DragInto(TkelDock& Target, const TPoint& Pointer);
     void DragFree(const TPoint& Pointer, const TPoint& P);
@@ -188,6 +219,9 @@ private:
     static inline TkelToolBar* Dragged = nullptr; // during a step of its drag
 
     int FRowThickness = 0;
+    std::shared_ptr<TBarDrag> FDrag; // from the press of the button to its release
+    bool FCancelled = false;         // the button is still down
+    std::optional<TSavedRow> FSavedRow;
     TPoint FAnchor; // where in the bar the drag began
     TPoint FReach;  // from the pointer to the dock it has put the bar into from outside
     std::vector<TControl*> FItems;

@@ -1,7 +1,9 @@
 // Dragging a bar, and floating.
+#include "toolbar/BarDrag.h"
 #include "toolbar/Flpfrm97.h"
 #include "toolbar/TBDragBox.h"
 #include "toolbar/ToolBar.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/system/Scope.h"
 
 #include <algorithm>
@@ -41,11 +43,15 @@ TRect CatchArea(const TkelDock& Dock)
 
 void TkelToolBar::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    const TStillThere IsHere(this);
     inherited::MouseDown(Button, Shift, X, Y);
-    if (Button != mbLeft)
+    if (!IsHere || Button != mbLeft)
         return;
     FAnchor = {X, Y};
     FReach = {};
+    FCancelled = false;
+    if (!IsDesigning())
+        FDrag = std::make_shared<TBarDrag>(*this, [this] { CancelDrag(); });
 }
 
 // Moving windows can bring another move along before this one is done; it is dropped.
@@ -55,11 +61,42 @@ void TkelToolBar::MouseMove(TShiftState Shift, int X, int Y)
         return;
     const TScopedValue<TkelToolBar*> Step(Dragged, this, nullptr);
     inherited::MouseMove(Shift, X, Y);
-    if (!Shift.Contains(ssLeft) || IsDesigning())
+    if (Dragged != this || !Shift.Contains(ssLeft) || IsDesigning() || FCancelled)
         return;
-    const TPoint P(X, Y);
-    const TPoint Pointer = ClientToScreen(P);
-    TkelDock* Target = FindDock(P);
+    Drag({X, Y}, ClientToScreen(TPoint(X, Y)));
+    const auto Current = Dragged == this ? FDrag : nullptr;
+    if (Current)
+        Current->ArrangeRows();
+}
+
+void TkelToolBar::MouseUp(TMouseButton Button, TShiftState Shift, int X, int Y)
+{
+    const TStillThere IsHere(this);
+    inherited::MouseUp(Button, Shift, X, Y);
+    if (!IsHere || Button != mbLeft)
+        return;
+    if (const auto Done = std::exchange(FDrag, nullptr))
+        Done->Finish();
+}
+
+void TkelToolBar::CancelDrag()
+{
+    const auto Cancelled = std::exchange(FDrag, nullptr);
+    if (!Cancelled)
+        return;
+    FCancelled = true;
+    const TStillThere IsHere(this);
+    Cancelled->Undo();
+    // Until the button is released no other bar is to be moved by it.
+    if (IsHere && GetKeyState(VK_LBUTTON) < 0)
+        MouseCapture = true;
+}
+
+// ---- one step
+
+void TkelToolBar::Drag(const TPoint& P, const TPoint& Pointer)
+{
+    TkelDock* Target = KeepsToDock(Pointer) ? Dock : FindDock(P);
     if (!Target)
         DragFree(Pointer, P);
     else if (Target == Parent)
@@ -70,7 +107,9 @@ void TkelToolBar::MouseMove(TShiftState Shift, int X, int Y)
 
 void TkelToolBar::DragAlong(TkelDock& InDock, const TPoint& P)
 {
-    TkelToolBar* Other = FindToolBar(P);
+    TkelToolBar* Other = InDock.ArrangeRows ? FindInOtherRows(P) : nullptr;
+    if (!Other)
+        Other = FindToolBar(P);
     const TDockAxis Axis = InDock.Axis();
     // Stopping in front of a bar of the same row would be undone by sliding on at once.
     const bool OnlyStops = Other && Axis.Row(*Other) == Axis.Row(*this) && Axis.Start(*this) < Axis.Start(*Other);
@@ -137,17 +176,29 @@ void TkelToolBar::CaptureDrag()
 
 // ---- what is below the pointer
 
+std::vector<TkelDock*> TkelToolBar::OwnersDocks() const
+{
+    std::vector<TkelDock*> Docks;
+    for (int I = 0; Owner && I < Owner->ComponentCount; ++I)
+        if (auto* Candidate = As<TkelDock>(Owner->Components[I]); Candidate && Candidate->TakesBars())
+            Docks.push_back(Candidate);
+    return Docks;
+}
+
 TkelDock* TkelToolBar::FindDock(const TPoint& Point) const
 {
-    if (!Owner)
-        return nullptr;
     const TPoint Pointer = ClientToScreen(Point);
-    for (int I = 0; I < Owner->ComponentCount; ++I) {
-        auto* Candidate = As<TkelDock>(Owner->Components[I]);
-        if (Candidate && Candidate->TakesBars() && Candidate->Showing && IsNear(*Candidate, Pointer))
+    for (TkelDock* Candidate : OwnersDocks())
+        if (Candidate->Showing && IsNear(*Candidate, Pointer))
             return Candidate;
-    }
     return nullptr;
+}
+
+// Where docks meet, the bar stays in its own, whichever comes first among the components.
+bool TkelToolBar::KeepsToDock(const TPoint& Pointer) const
+{
+    const TkelDock* InDock = Dock;
+    return InDock && InDock->ArrangeRows && InDock->TakesBars() && InDock->Showing && IsNear(*InDock, Pointer);
 }
 
 // A floating bar comes to an upper or lower dock with any part of it, to one at the side only with the pointer. One
@@ -178,18 +229,29 @@ TkelToolBar* TkelToolBar::FindToolBar(const TPoint& Point) const
     const TkelDock* InDock = Dock;
     if (!InDock || !InDock->TakesBars())
         return nullptr;
-    const TDockAxis Axis = InDock->Axis();
-    const int Pointer = Axis.Row(*this) + Axis.Across(Point);
-    for (TkelToolBar* Bar : InDock->ShownBars()) {
-        if (Bar == this)
-            continue;
-        const int Begin = Axis.Row(*Bar) + 1;
-        const int Middle = (Begin + Axis.NextRow(*Bar) - 1) / 2;
-        const bool PassedDown = Axis.Row(*this) < Begin && Middle < Pointer;
-        const bool PassedUp = Axis.Row(*this) > Begin && Middle > Pointer;
-        if (PassedDown || PassedUp)
+    for (TkelToolBar* Bar : InDock->ShownBars())
+        if (Bar != this && HasPassed(*Bar, Point))
             return Bar;
-    }
+    return nullptr;
+}
+
+// The pointer is beyond the middle of the other bar, seen from this bar's row.
+bool TkelToolBar::HasPassed(const TkelToolBar& Other, const TPoint& P) const
+{
+    const TDockAxis Axis = Dock->Axis();
+    const int Pointer = Axis.Row(*this) + Axis.Across(P);
+    const int Begin = Axis.Row(Other) + 1;
+    const int Middle = (Begin + Axis.NextRow(Other) - 1) / 2;
+    return Axis.Row(*this) < Begin ? Middle < Pointer : Axis.Row(*this) > Begin && Middle > Pointer;
+}
+
+// Bars of the same row, which FindToolBar may find first, would keep this one from leaving it.
+TkelToolBar* TkelToolBar::FindInOtherRows(const TPoint& P) const
+{
+    const TDockAxis Axis = Dock->Axis();
+    for (TkelToolBar* Bar : Dock->ShownBars())
+        if (Axis.Row(*Bar) != Axis.Row(*this) && HasPassed(*Bar, P))
+            return Bar;
     return nullptr;
 }
 
@@ -253,6 +315,8 @@ TFPForm97* TkelToolBar::LeaveFrame()
 {
     if (FFrame)
         FFrame->ForgetBar();
+    if (FFrame && FRowThickness > 0 && !IsDestroying())
+        SetBounds(Left, Top, Width, FRowThickness);
     FFloating = false;
     return std::exchange(FFrame, nullptr);
 }

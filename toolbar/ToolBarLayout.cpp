@@ -163,6 +163,7 @@ void TkelToolBar::GiveUpRow()
         return;
     FHasRow = false;
     const TDockAxis Axis = InDock->Axis();
+    FRowThickness = Axis.Thickness(*this);
     if (!InDock->FindInRow(Axis.Row(*this), Axis.Thickness(*this), this)) {
         const int Thick = Axis.Thickness(*this);
         const int Behind = Axis.NextRow(*this);

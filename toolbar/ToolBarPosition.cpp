@@ -2,6 +2,7 @@
 
 #include "common/CaptionInSight.h"
 #include "common/Settings.h"
+#include "toolbar/DockRows.h"
 #include "toolbar/Flpfrm97.h"
 #include "toolbar/ToolBar.h"
 #include "vcl/classes/StillThere.h"
@@ -9,6 +10,7 @@
 #include "vcl/system/Utf.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace {
 
@@ -104,8 +106,44 @@ void SaveToolBarPosition(TkelToolBar* ToolBar)
     WriteInteger(Section, "YPosition", Y);
     WriteInteger(Section, "Width", ToolBar->Width);
     WriteInteger(Section, "Height", ToolBar->Height);
-    if (const TkelDock* Dock = ToolBar->Dock)
+    if (const TkelDock* Dock = ToolBar->Dock) {
         WriteString(Section, "DockName", Dock->Name);
+        ToolBar->SaveRow(Section);
+    }
+}
+
+// ---- rows: only what a restart with ArrangeRows goes by
+
+void TkelToolBar::SaveRow(const AnsiString& Section)
+{
+    const TkelDock* InDock = Dock;
+    if (!InDock->ArrangeRows) {
+        if (std::exchange(FSavedRow, std::nullopt))
+            WriteString(Section, "Row", "");
+        return;
+    }
+    if (!Visible || !FHasRow)
+        return;
+    TSavedRow Place{InDock->Axis().Row(*this), InDock->Axis().Start(*this)};
+    InDock->FFitted->FindWished(*this, Place.Row, Place.Start);
+    WriteString(Section, "Row", std::to_string(Place.Row) + " " + std::to_string(Place.Start));
+}
+
+void TkelToolBar::ReadRow(const AnsiString& Section)
+{
+    FSavedRow.reset();
+    TSavedRow Place;
+    std::istringstream Text(ReadString(Section, "Row", ""));
+    if (Text >> Place.Row >> Place.Start && std::abs(Place.Row) <= FarthestPlace &&
+        std::abs(Place.Start) <= FarthestPlace)
+        FSavedRow = Place;
+}
+
+// The bars that have been loaded so far lie as they are to lie in the end.
+void TkelToolBar::ReturnToRow()
+{
+    if (FSavedRow && Visible && Dock && Dock->TakesBars() && Dock->ArrangeRows)
+        TDockRows::Saved(*Dock).LayIn(*Dock);
 }
 
 void RestoreToolBarPosition(TkelToolBar* ToolBar)
@@ -114,6 +152,7 @@ void RestoreToolBarPosition(TkelToolBar* ToolBar)
     if (!HasRecord(Section))
         return;
     const TRecord Record = ReadRecord(*ToolBar, Section);
+    ToolBar->ReadRow(Section);
     const TStillThere IsHere(ToolBar);
     ToolBar->HidePanel();
     if (!IsHere)
@@ -134,7 +173,10 @@ void RestoreToolBarPosition(TkelToolBar* ToolBar)
     }
     if (Record.IsVisible)
         ToolBar->ShowPanel();
-    // Hiding has saved the bar as hidden.
-    if (IsHere && !TkelToolBar::IsLayoutSuspended())
-        SaveToolBarPosition(ToolBar);
+    if (!IsHere)
+        return;
+    if (TkelToolBar::IsLayoutSuspended())
+        ToolBar->ReturnToRow();
+    else
+        SaveToolBarPosition(ToolBar); // hiding has saved the bar as hidden
 }

@@ -95,15 +95,81 @@ TEST_F(DockTest, TheDesignerShowsWhereADockEnds)
 
 TEST_F(DockTest, ABarThatIsOutOfSightWhenTheFormFirstShowsComesIn)
 {
+    for (bool Arrange : {true, false}) {
+        SCOPED_TRACE(Arrange);
+        Form = std::make_unique<TForm>(nullptr);
+        Form->SetBounds(100, 100, 400, 300);
+        TkelDock* Dock = NewDock(alTop, 78);
+        Dock->ArrangeRows = Arrange;
+        TTestBar* Far = NewBar(Dock, "Far", 5000, 0, 100);
+        TTestBar* Low = NewBar(Dock, "Low", 10, 500, 100);
+        TTestBar* Cut = NewBar(Dock, "Cut", Form->ClientWidth - 20, 26, 100);
+        const int CutAt = Cut->Left;
+        Show();
+        EXPECT_EQ(Far->Left, Dock->Width - 100);
+        EXPECT_EQ(Low->Top, 78 - 26);
+        EXPECT_EQ(Cut->Left, CutAt) << "a part of it can be seen";
+    }
+}
+
+TEST_F(DockTest, ABarThatIsOnlyTooLowWhenTheFormFirstShowsComesIn)
+{
     TkelDock* Dock = NewDock(alTop, 52);
-    TTestBar* Far = NewBar(Dock, "Far", 5000, 0, 100);
-    TTestBar* Low = NewBar(Dock, "Low", 10, 500, 100);
-    TTestBar* Cut = NewBar(Dock, "Cut", Form->ClientWidth - 20, 0, 100);
-    const int CutAt = Cut->Left;
+    NewBar(Dock, "A", 0, 0, 100);
+    NewBar(Dock, "Low", 10, 500, 100);
     Show();
-    EXPECT_EQ(Far->Left, Dock->Width - 100);
-    EXPECT_EQ(Low->Top, 52 - 26);
-    EXPECT_EQ(Cut->Left, CutAt) << "a part of it can be seen";
+    EXPECT_EQ(Layout(Dock), "52: A 0,0 Low 10,26");
+}
+
+TEST_F(DockTest, AShorterDockBringsInItsBarsAndALongerOneLetsThemGoBack)
+{
+    TkelDock* Dock = NewDock(alTop, 52);
+    Form->ClientWidth = 500;
+    NewBar(Dock, "A", 20, 0, 100);
+    NewBar(Dock, "B", 150, 0, 100);
+    NewBar(Dock, "C", 380, 0, 100);
+    NewBar(Dock, "D", 0, 26, 100);
+    Show();
+    const std::string Before = Layout(Dock);
+    Form->ClientWidth = 390;
+    EXPECT_EQ(Layout(Dock), Before) << "a part of C can be seen";
+    Form->ClientWidth = 360;
+    EXPECT_EQ(Layout(Dock), "52: A 20,0 B 150,0 C 260,0 D 0,26");
+    Form->ClientWidth = 310;
+    EXPECT_EQ(Layout(Dock), "52: A 10,0 B 110,0 C 210,0 D 0,26");
+    Form->ClientWidth = 250;
+    EXPECT_EQ(Layout(Dock), "78: A 20,0 B 150,0 C 150,26 D 0,52") << "there is no room for three";
+    Form->ClientWidth = 500;
+    EXPECT_EQ(Layout(Dock), Before);
+}
+
+TEST_F(DockTest, BarsThatWereMovedMeanwhileDoNotGoBack)
+{
+    TkelDock* Dock = NewDock(alTop, 26);
+    Form->ClientWidth = 500;
+    NewBar(Dock, "A", 20, 0, 100);
+    TTestBar* B = NewBar(Dock, "B", 380, 0, 100);
+    Show();
+    Form->ClientWidth = 360;
+    EXPECT_EQ(Layout(Dock), "26: A 20,0 B 260,0");
+    B->Left = 200;
+    Form->ClientWidth = 500;
+    EXPECT_EQ(Layout(Dock), "26: A 20,0 B 200,0");
+}
+
+TEST_F(DockTest, AUprightDockBringsInItsBarsToo)
+{
+    TkelDock* Dock = NewDock(alLeft, 26);
+    Form->ClientHeight = 400;
+    NewBar(Dock, "A", 0, 0, 100);
+    NewBar(Dock, "B", 290, 0, 100);
+    Show();
+    Form->ClientHeight = 240;
+    EXPECT_EQ(Layout(Dock), "26: A 0,0 B 140,0");
+    Form->ClientHeight = 150;
+    EXPECT_EQ(Layout(Dock), "52: A 0,0 B 50,26");
+    Form->ClientHeight = 400;
+    EXPECT_EQ(Layout(Dock), "26: A 0,0 B 290,0");
 }
 
 // ---- bars

@@ -274,6 +274,96 @@ TEST_F(ToolBarDragTest, ABarPushesItsNeighbourBehindItself)
     EXPECT_EQ(Layout(Top), "26: A 200,0 B 222,0") << "in the upper half bars pass each other";
 }
 
+// ---- Escape
+
+TEST_F(ToolBarDragTest, EscapePutsABarBackWhereItWasTaken)
+{
+    TTestBar* A = InsertBar(Top, "A", 0, 100);
+    InsertBar(Top, "B", 30, 100);
+    TTestBar* C = InsertBar(Left, "C", 60, 100);
+    Show();
+    const std::string Before = Layout(Top) + Layout(Left) + Layout(Bottom);
+    struct {
+        TPoint Place;
+        TWinControl* There;
+    } Cases[] = {{{200, 13}, Top}, {{100, 40}, Top}, {{13, 200}, Left}, {{200, 200}, nullptr}};
+    for (const auto& Case : Cases) {
+        Grab(A->DragBox, 5, 10);
+        PullTo(Form.get(), Case.Place.X, Case.Place.Y);
+        Pull(1, 1);
+        if (Case.There)
+            EXPECT_EQ(A->Parent, Case.There);
+        else
+            EXPECT_TRUE(A->Floating);
+        EXPECT_NE(Layout(Top) + Layout(Left) + Layout(Bottom), Before);
+        TypeKey(VK_ESCAPE);
+        // The order of the dock's controls may have changed.
+        EXPECT_EQ(A->Parent, Top);
+        EXPECT_EQ(TPoint(A->Left, A->Top), TPoint(0, 0));
+        EXPECT_EQ(A->Width, 100);
+        EXPECT_EQ(Top->Height, 52);
+        EXPECT_EQ(TPoint(C->Left, C->Top), TPoint(0, 60));
+        EXPECT_EQ(Left->Width, 26);
+        EXPECT_FALSE(A->Floating);
+        Pull(10, 10);
+        EXPECT_EQ(A->Left, 0) << "the drag is over though the button is down";
+        ReleaseButton();
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+    Grab(A->DragBox, 5, 10);
+    Pull(20, 0);
+    EXPECT_EQ(A->Left, 20) << "another drag";
+}
+
+TEST_F(ToolBarDragTest, EscapePutsAFloatingBarBack)
+{
+    TTestBar* Bar = FloatingBar();
+    const TRect Before = Bar->Frame->BoundsRect;
+    GrabCaption(Bar);
+    PullTo(Form.get(), 200, 200);
+    Pull(1, 1);
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(Bar->Frame->BoundsRect, Before);
+    ReleaseButton();
+    GrabCaption(Bar);
+    PullTo(Form.get(), 3, 150);
+    Pull(0, 1);
+    ASSERT_EQ(Bar->Parent, Left);
+    TypeKey(VK_ESCAPE);
+    ASSERT_TRUE(Bar->Floating);
+    EXPECT_EQ(Bar->Frame->BoundsRect, Before);
+    EXPECT_EQ(Left->Width, 0);
+    EXPECT_EQ(Bar->Width, 100);
+}
+
+TEST_F(ToolBarDragTest, WithoutADragEscapeGoesToTheForm)
+{
+    TTestBar* Bar = GrabbedBar(Top, 50, 40, 13);
+    Pull(10, 0);
+    ReleaseButton();
+    Form->KeyPreview = true;
+    int Keys = 0;
+    Form->OnKeyDown = [&](TObject*, uint16_t& Key, TShiftState) { Keys += Key == VK_ESCAPE; };
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(Keys, 1);
+    EXPECT_EQ(Bar->Left, 60);
+    Grab(Bar, 40, 13);
+    Pull(10, 0);
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(Keys, 1) << "that one is the drag's own";
+    EXPECT_EQ(Bar->Left, 60);
+}
+
+TEST_F(ToolBarDragTest, ABarThatEscapeReturnsMayGoInItsHandler)
+{
+    TTestBar* Bar = GrabbedBar(Top, 50, 40, 13);
+    PullTo(Form.get(), 200, 200);
+    ASSERT_TRUE(Bar->Floating);
+    Bar->OnStatic = [=](TObject*) { delete Bar; };
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(Form->FindComponent("Bar"), nullptr);
+}
+
 // ---- leaving and entering docks
 
 TEST_F(ToolBarDragTest, ABarStaysWithinFivePixelsOfItsDock)
@@ -368,6 +458,21 @@ TEST_F(ToolBarDragTest, ABarGoesFromDockToDock)
     Pull(-20, 0);
     EXPECT_EQ(InBar(Bar).X, 40) << "the drag goes on";
     EXPECT_FALSE(Bar->Floating);
+}
+
+// Where docks meet, both are near.
+TEST_F(ToolBarDragTest, ABarStaysInItsOwnDockWhereDocksMeet)
+{
+    delete Top;
+    Top = NewDock(alTop); // behind the one at the left among the components
+    TTestBar* A = InsertBar(Top, "A", 0, 100);
+    InsertBar(Top, "B", 0, 350);
+    Show();
+    Grab(A->DragBox, 2, 13);
+    for (int Step = 0; Step < 16; ++Step)
+        Pull(0, 2);
+    EXPECT_EQ(A->Parent, Top);
+    EXPECT_EQ(Layout(Top), "52: A 0,26 B 0,0");
 }
 
 TEST_F(ToolBarDragTest, HiddenDocksTakeNoBars)
@@ -530,6 +635,29 @@ TEST_F(ToolBarDragTest, TheUserSizesAFrameWithAllowResize)
     PumpMessages();
     EXPECT_EQ(Bar->Width, 160);
     EXPECT_EQ(Bar->Height, 56);
+}
+
+TEST_F(ToolBarDragTest, ABarThatWasResizedWhileItFloatedDocksWithItsRowThickness)
+{
+    for (TkelDock* Dock : {Bottom, Left}) {
+        TTestBar* Bar = InsertBar(Dock, "", 0, 100);
+        Bar->AllowResize = true;
+        if (Dock == Bottom)
+            Show();
+        Bar->FloatToPos(700, 300);
+        Bar->Frame->ClientHeight = 90;
+        Bar->Frame->ClientWidth = 80;
+        ASSERT_EQ(Bar->Height, 90);
+        GrabCaption(Bar);
+        PullTo(Form.get(), 200, -15);
+        Pull(0, 1);
+        ReleaseButton();
+        ASSERT_EQ(Bar->Parent, Top);
+        EXPECT_EQ(Bar->Height, 26);
+        EXPECT_EQ(Bar->Width, 80);
+        EXPECT_EQ(Top->Height, 26);
+        delete Bar;
+    }
 }
 
 TEST_F(ToolBarDragTest, WithoutAllowResizeAFrameHasNoEdgesToPull)

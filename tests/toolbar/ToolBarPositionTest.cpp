@@ -444,6 +444,96 @@ TEST_F(ToolBarPositionTest, ADockThatIsNotAtAnEdgeAnyMoreTakesNoBar)
     EXPECT_EQ(File->Parent, Top);
 }
 
+// ---- rows
+
+TEST_F(ToolBarPositionTest, BarsThatSharedARowShareItAgainAfterARestart)
+{
+    Load();
+    Show();
+    Edit->Left = 240;
+    Edit->Top = 0;
+    Top->Height = 26;
+    Tools->DeleteFromDock();
+    Tools->Parent = Top;
+    Tools->InsertToDock();
+    Tools->Left = 7;
+    for (TTestBar* Bar : {File, Edit, Tools})
+        Bar->Repaint();
+    const std::string Before = Layout(Top);
+    ASSERT_EQ(Before, "52: FileBar 0,0 EditBar 240,0 ToolsBar 7,26");
+    for (int Time = 1; Time <= 2; ++Time) {
+        Restart();
+        EXPECT_EQ(Layout(Top), Before) << Time;
+        EXPECT_EQ(Layout(Left), "0:");
+        Show();
+        EXPECT_EQ(Layout(Top), Before) << Time;
+    }
+}
+
+TEST_F(ToolBarPositionTest, RowsAreInTheirOrderAfterARestart)
+{
+    Load();
+    Show();
+    Edit->SwapToolBar(File); // there is no room in front of File, but behind it
+    ASSERT_EQ(Layout(Top), "26: FileBar 0,0 EditBar 200,0");
+    Tools->DeleteFromDock();
+    Tools->Parent = Top;
+    Tools->InsertToDock();
+    Tools->SetBounds(0, 0, 150, 26);
+    File->Top = 26;
+    Edit->Top = 26;
+    for (TTestBar* Bar : {File, Edit, Tools})
+        Bar->Repaint();
+    Restart();
+    Show();
+    EXPECT_EQ(Layout(Top), "52: FileBar 0,26 EditBar 200,26 ToolsBar 0,0");
+}
+
+TEST_F(ToolBarPositionTest, ABarWithoutARecordLiesInItsDesignedRowAfterARestart)
+{
+    Load();
+    Show();
+    Store->Delete();
+    Edit->Repaint();
+    ASSERT_EQ(Record("File", "Row"), "absent");
+    EXPECT_EQ(Record("Edit", "Row"), "26 10");
+    Restart();
+    EXPECT_EQ(Layout(Top), "52: FileBar 0,0 EditBar 10,26");
+}
+
+TEST_F(ToolBarPositionTest, OldRecordsMakeRowsOfTheirOwn)
+{
+    PutDocked("File", "DockTop", 0, 0, 200, 26);
+    PutDocked("Edit", "DockTop", 240, 0, 100, 26);
+    Load();
+    EXPECT_EQ(Layout(Top), "52: FileBar 0,0 EditBar 240,26");
+    Show();
+    EXPECT_EQ(Record("File", "Row"), "0 0");
+}
+
+TEST_F(ToolBarPositionTest, RowsThatCannotBeCountAsAbsent)
+{
+    for (const char* Row : {"", "0", "x 3", "99999999999 0", "0 2147483647", "-2147483648 0"}) {
+        SCOPED_TRACE(Row);
+        PutDocked("File", "DockTop", 0, 0, 200, 26);
+        PutDocked("Edit", "DockTop", 240, 0, 100, 26);
+        Put("File", "Row", Row);
+        Put("Edit", "Row", Row);
+        Load();
+        EXPECT_EQ(Layout(Top), "52: FileBar 0,0 EditBar 240,26");
+    }
+}
+
+TEST_F(ToolBarPositionTest, ADockWithoutArrangeRowsForgetsTheRows)
+{
+    Load();
+    Show();
+    EXPECT_EQ(Record("Edit", "Row"), "26 10");
+    Top->ArrangeRows = false;
+    Edit->Repaint();
+    EXPECT_EQ(Record("Edit", "Row"), "");
+}
+
 // ---- read again while the program runs
 
 TEST_F(ToolBarPositionTest, ABarIsRestoredWhileTheProgramRuns)

@@ -111,6 +111,26 @@ protected:
             const TRect Inside(0, 0, Bar->Dock->Width, Bar->Dock->Height);
             ASSERT_TRUE(IntersectRect(Seen, Bar->BoundsRect, Inside));
         }
+        for (const TkelDock* Dock : Docks)
+            ExpectInOrder(Dock);
+    }
+
+    // No bar covers another, and across the dock there is a bar everywhere.
+    void ExpectInOrder(const TkelDock* Dock) const
+    {
+        SCOPED_TRACE("edge " + std::to_string(Dock->Align) + " " + Layout(Dock));
+        const TDockAxis Axis = Dock->Axis();
+        std::vector<bool> Taken(Axis.Thickness(*Dock));
+        TRect Seen;
+        for (const TkelToolBar* Bar : Dock->ShownBars()) {
+            for (const TkelToolBar* Other : Dock->ShownBars())
+                ASSERT_TRUE(Bar == Other || !IntersectRect(Seen, Bar->BoundsRect, Other->BoundsRect))
+                    << Bar->Name << " covers " << Other->Name;
+            ASSERT_GE(Axis.Row(*Bar), 0);
+            ASSERT_LE(Axis.NextRow(*Bar), Axis.Thickness(*Dock));
+            std::fill_n(Taken.begin() + Axis.Row(*Bar), Axis.Thickness(*Bar), true);
+        }
+        ASSERT_EQ(std::count(Taken.begin(), Taken.end(), false), 0) << "there is an empty row";
     }
 
     static std::string Describe(const TTestBar* Bar)
