@@ -1,6 +1,5 @@
 #include "common/CustomMenu.h"
 
-#include "common/OwnerDrawItems.h"
 #include "vcl/classes/StillThere.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/Screen.h"
@@ -15,7 +14,12 @@ void TkelCustomMenu::Describe(TClassBuilder<TkelCustomMenu>& Class)
     Class.Message<&Self::MeasureItem>(WM_MEASUREITEM);
 }
 
-TkelCustomMenu::TkelCustomMenu(TComponent* AOwner) : TMenu(AOwner)
+// The root has no name, so the bar stays the system's.
+TkelCustomMenu::TkelCustomMenu(TComponent* AOwner)
+    : TMenu(AOwner),
+      FSwitch(
+          this, [](const TMenuItem& Item) { return Item.Parent && !Item.Parent->Name.empty(); },
+          [](const TMenuItem& Item) { return Item.IsLine(); })
 {
     if (!IsDesigning()) {
         auto* Form = As<TForm>(AOwner);
@@ -31,43 +35,10 @@ TkelCustomMenu::~TkelCustomMenu()
     std::erase(Menus, this);
 }
 
-// ---- switching
-
-void TkelCustomMenu::SetStyle(TMenuStyle Value)
-{
-    FStyle = Value;
-    ModifyItems(Items, FStyle == msStandard);
-}
-
 void TkelCustomMenu::Loaded()
 {
     inherited::Loaded();
-    ModifyItems(Items, FStyle == msStandard);
-}
-
-void TkelCustomMenu::ModifyItems(TMenuItem* Item, bool Standard)
-{
-    if (!IsDesigning())
-        SwitchItems(Item, [=, this](const TMenuItem& Each) { return TypeOf(Each, Standard); });
-}
-
-void TkelCustomMenu::SetMenuItem(TMenuItem* Item, bool Standard)
-{
-    if (!IsDesigning())
-        SwitchItem(Item, Standard ? 0 : OwnerDrawnType(Item->IsLine()));
-}
-
-unsigned TkelCustomMenu::EntryType(const TMenuItem& Item) const
-{
-    return TypeOf(Item, FStyle == msStandard);
-}
-
-unsigned TkelCustomMenu::TypeOf(const TMenuItem& Item, bool Standard) const
-{
-    // The root has no name, so the bar stays the system's.
-    const TMenuItem* Parent = Item.Parent;
-    const bool IsDrawn = !Standard && !IsDesigning() && Parent && !Parent->Name.empty();
-    return IsDrawn ? OwnerDrawnType(Item.IsLine()) : 0;
+    FSwitch.SwitchAll();
 }
 
 // ---- messages
@@ -81,7 +52,7 @@ void TkelCustomMenu::FormWndProc(TMessage& Message, const TWndMethod& Next)
 // True when the message goes no further.
 bool TkelCustomMenu::FormMessage(TMessage& Message)
 {
-    const bool IsDrawn = Current() && Current()->FStyle == msOwnerDraw;
+    const bool IsDrawn = Current() && Current()->Style == msOwnerDraw;
     switch (Message.Msg) {
     case WM_DRAWITEM: {
         // The form's owner-drawn controls and other menus ask by the same message.
@@ -107,7 +78,7 @@ bool TkelCustomMenu::FormMessage(TMessage& Message)
     case WM_INITMENUPOPUP: {
         const TStillThere IsHere(this);
         if (DispatchPopup(reinterpret_cast<HMENU>(Message.WParam)) && IsHere)
-            ModifyItems(Items, FStyle == msStandard);
+            FSwitch.SwitchAll();
         return false;
     }
     case WM_COMMAND: return Message.LParam == 0 && DispatchCommand(static_cast<uint16_t>(Message.WParamLo()));

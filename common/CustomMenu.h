@@ -4,7 +4,7 @@
 // is shown by its handle: SetMenu(Form->Handle, Menu->Handle).
 #pragma once
 
-#include "common/MenuStyle.h"
+#include "common/OwnerDrawItems.h"
 #include "vcl/controls/WindowProcHook.h"
 
 #include <vector>
@@ -18,8 +18,8 @@ public:
     ~TkelCustomMenu() override;
 
     // Switches all items at once.
-    TMenuStyle GetStyle() const { return FStyle; }
-    void SetStyle(TMenuStyle Value);
+    TMenuStyle GetStyle() const { return FSwitch.Style(); }
+    void SetStyle(TMenuStyle Value) { FSwitch.SetStyle(Value); }
     PROPERTY(TMenuStyle, Style);
 
     TDrawMenuItem OnDrawItem;
@@ -35,12 +35,12 @@ protected:
     virtual void DoMeasureItem(TMenuItem* Item, int& Width, int& Height, TCanvas* Canvas);
 
     // Switches the items below Item, or Item alone; nothing happens in the designer.
-    void ModifyItems(TMenuItem* Item, bool Standard);
-    void SetMenuItem(TMenuItem* Item, bool Standard);
+    void ModifyItems(TMenuItem* Item, bool Standard) { FSwitch.ModifyItems(Item, Standard); }
+    void SetMenuItem(TMenuItem* Item, bool Standard) { FSwitch.SetMenuItem(Item, Standard); }
 
     void Loaded() override;
     bool IsMenuBar() const override { return true; }
-    unsigned EntryType(const TMenuItem& Item) const override;
+    unsigned EntryType(const TMenuItem& Item) const override { return FSwitch.EntryType(Item); }
 
 private:
     void DrawItem(TWMDrawItem& Message);
@@ -48,10 +48,9 @@ private:
 
     void FormWndProc(TMessage& Message, const TWndMethod& Next);
     bool FormMessage(TMessage& Message);
-    unsigned TypeOf(const TMenuItem& Item, bool Standard) const;
 
     static inline std::vector<TkelCustomMenu*> Menus; // that live, in the order they were made
 
     TWindowProcHook FHook;
-    TMenuStyle FStyle = msStandard;
+    TOwnerDrawSwitch FSwitch;
 };

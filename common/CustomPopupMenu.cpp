@@ -1,6 +1,5 @@
 #include "common/CustomPopupMenu.h"
 
-#include "common/OwnerDrawItems.h"
 #include "common/PopupTracking.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -13,7 +12,11 @@ void TkelCustomPopupMenu::Describe(TClassBuilder<TkelCustomPopupMenu>& Class)
     Class.Message<&Self::MeasureItem>(WM_MEASUREITEM);
 }
 
-TkelCustomPopupMenu::TkelCustomPopupMenu(TComponent* AOwner) : TPopupMenu(AOwner), FIsTracked(!IsDesigning())
+TkelCustomPopupMenu::TkelCustomPopupMenu(TComponent* AOwner)
+    : TPopupMenu(AOwner),
+      FSwitch(
+          this, [](const TMenuItem&) { return true; }, [this](const TMenuItem& Item) { return IsSeparator(Item); }),
+      FIsTracked(!IsDesigning())
 {
     if (FIsTracked)
         PopupTracking->Add();
@@ -42,7 +45,7 @@ void TkelCustomPopupMenu::Popup(int X, int Y)
     if (PopupTracking->IsOpen(this))
         return;
     const TPopupTracking::TLoop Loop(this);
-    ModifyItems(Items, FStyle == msStandard);
+    FSwitch.SwitchAll();
     Track(X, Y);
 }
 
@@ -52,36 +55,6 @@ int TkelCustomPopupMenu::ProcessAccel(const TWMMenuChar& Message) const
         return -1;
     const TMenuItem* Item = FindAccelerator(Items, Message.Menu(), Message.Char());
     return Item ? Item->MenuIndex : -1;
-}
-
-// ---- switching
-
-void TkelCustomPopupMenu::SetStyle(TMenuStyle Value)
-{
-    FStyle = Value;
-    ModifyItems(Items, FStyle == msStandard);
-}
-
-void TkelCustomPopupMenu::ModifyItems(TMenuItem* Item, bool Standard)
-{
-    if (!IsDesigning())
-        SwitchItems(Item, [=, this](const TMenuItem& Each) { return TypeOf(Each, Standard); });
-}
-
-void TkelCustomPopupMenu::SetMenuItem(TMenuItem* Item, bool Standard)
-{
-    if (!IsDesigning())
-        SwitchItem(Item, TypeOf(*Item, Standard));
-}
-
-unsigned TkelCustomPopupMenu::EntryType(const TMenuItem& Item) const
-{
-    return TypeOf(Item, FStyle == msStandard);
-}
-
-unsigned TkelCustomPopupMenu::TypeOf(const TMenuItem& Item, bool Standard) const
-{
-    return Standard || IsDesigning() ? 0 : OwnerDrawnType(IsSeparator(Item));
 }
 
 // ---- messages

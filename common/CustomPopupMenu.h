@@ -4,7 +4,7 @@
 // not raised.
 #pragma once
 
-#include "common/MenuStyle.h"
+#include "common/OwnerDrawItems.h"
 #include "vcl/menus/PopupMenu.h"
 
 class TkelCustomPopupMenu : public TPopupMenu {
@@ -15,8 +15,8 @@ public:
     void BeforeDestruction() override;
 
     // Switches all items at once.
-    TMenuStyle GetStyle() const { return FStyle; }
-    void SetStyle(TMenuStyle Value);
+    TMenuStyle GetStyle() const { return FSwitch.Style(); }
+    void SetStyle(TMenuStyle Value) { FSwitch.SetStyle(Value); }
     PROPERTY(TMenuStyle, Style);
 
     TDrawMenuItem OnDrawItem;
@@ -39,19 +39,18 @@ protected:
     virtual bool IsSeparator(const TMenuItem& Item) const { return Item.IsLine(); }
 
     // Switches the items below Item, or Item alone; nothing happens in the designer.
-    void ModifyItems(TMenuItem* Item, bool Standard);
-    void SetMenuItem(TMenuItem* Item, bool Standard);
+    void ModifyItems(TMenuItem* Item, bool Standard) { FSwitch.ModifyItems(Item, Standard); }
+    void SetMenuItem(TMenuItem* Item, bool Standard) { FSwitch.SetMenuItem(Item, Standard); }
 
     void Loaded() override { inherited::Loaded(); }
-    unsigned EntryType(const TMenuItem& Item) const override;
+    unsigned EntryType(const TMenuItem& Item) const override { return FSwitch.EntryType(Item); }
 
 private:
     friend class TPopupTracking;
 
     void DrawItem(TWMDrawItem& Message);
     void MeasureItem(TWMMeasureItem& Message);
-    unsigned TypeOf(const TMenuItem& Item, bool Standard) const;
 
-    TMenuStyle FStyle = msStandard;
+    TOwnerDrawSwitch FSwitch;
     const bool FIsTracked; // made outside of the designer
 };

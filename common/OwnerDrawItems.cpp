@@ -1,34 +1,17 @@
 #include "common/OwnerDrawItems.h"
 
-#include "vcl/menus/MenuItem.h"
+#include "vcl/menus/MenuEntries.h"
 
 namespace {
 
 // What a switch puts on and takes off. A bare separator has its own flag from its caption.
 constexpr UINT SwitchedFlags = MFT_OWNERDRAW | MFT_SEPARATOR;
 
-UINT CommandAt(HMENU Menu, int Position)
-{
-    MENUITEMINFOW Info{};
-    Info.cbSize = sizeof Info;
-    Info.fMask = MIIM_ID;
-    return GetMenuItemInfoW(Menu, static_cast<UINT>(Position), TRUE, &Info) ? Info.wID : 0;
-}
-
-int PositionFrom(HMENU Menu, int First, const TMenuItem* Item)
-{
-    const int Count = GetMenuItemCount(Menu);
-    for (int I = First; I < Count; ++I)
-        if (CommandAt(Menu, I) == Item->Command)
-            return I;
-    return -1;
-}
-
 // The item's native entry; -1 when there is none.
 int PositionOf(const TMenuItem* Item)
 {
     TMenuItem* Parent = Item->Parent;
-    return Parent && Parent->HandleAllocated() ? PositionFrom(Parent->Handle, 0, Item) : -1;
+    return Parent && Parent->HandleAllocated() ? FindEntry(Parent->Handle, Item->Command) : -1;
 }
 
 void SwitchEntry(HMENU Menu, int Position, const TMenuItem* Item, unsigned EntryType)
@@ -49,31 +32,51 @@ void SwitchEntry(HMENU Menu, int Position, const TMenuItem* Item, unsigned Entry
 
 } // namespace
 
-unsigned OwnerDrawnType(bool IsSeparator)
+TOwnerDrawSwitch::TOwnerDrawSwitch(TMenu* Menu, TItemTest Concerns, TItemTest IsSeparator)
+    : FMenu(Menu),
+      FConcerns(std::move(Concerns)),
+      FIsSeparator(std::move(IsSeparator))
+{}
+
+void TOwnerDrawSwitch::SetStyle(TMenuStyle Value)
 {
-    return MFT_OWNERDRAW | (IsSeparator ? MFT_SEPARATOR : 0);
+    FStyle = Value;
+    SwitchAll();
 }
 
-void SwitchItem(TMenuItem* Item, unsigned EntryType)
+void TOwnerDrawSwitch::ModifyItems(TMenuItem* Item, bool Standard) const
 {
-    const int Position = PositionOf(Item);
-    if (Position >= 0)
-        SwitchEntry(Item->Parent->Handle, Position, Item, EntryType);
-}
-
-void SwitchItems(TMenuItem* Item, const std::function<unsigned(const TMenuItem&)>& EntryTypeOf)
-{
+    if (IsDesigning())
+        return;
     HMENU Menu = Item->HandleAllocated() ? Item->Handle : nullptr;
     int Next = 0; // the entries have the items' order, but some items have none
     for (int I = 0; I < Item->Count; ++I) {
         TMenuItem* Child = Item->Items[I];
-        const int Position = Menu && Child->Visible ? PositionFrom(Menu, Next, Child) : -1;
+        const int Position = Menu && Child->Visible ? FindEntry(Menu, Child->Command, Next) : -1;
         if (Position >= 0) {
-            SwitchEntry(Menu, Position, Child, EntryTypeOf(*Child));
+            SwitchEntry(Menu, Position, Child, TypeOf(*Child, Standard || !FConcerns(*Child)));
             Next = Position + 1;
         }
-        SwitchItems(Child, EntryTypeOf);
+        ModifyItems(Child, Standard);
     }
+}
+
+void TOwnerDrawSwitch::SetMenuItem(TMenuItem* Item, bool Standard) const
+{
+    const int Position = IsDesigning() ? -1 : PositionOf(Item);
+    if (Position >= 0)
+        SwitchEntry(Item->Parent->Handle, Position, Item, TypeOf(*Item, Standard));
+}
+
+unsigned TOwnerDrawSwitch::EntryType(const TMenuItem& Item) const
+{
+    return TypeOf(Item, FStyle == msStandard || IsDesigning() || !FConcerns(Item));
+}
+
+// A separator stays one, so that it cannot be chosen.
+unsigned TOwnerDrawSwitch::TypeOf(const TMenuItem& Item, bool Standard) const
+{
+    return Standard ? 0 : MFT_OWNERDRAW | (FIsSeparator(Item) ? MFT_SEPARATOR : 0);
 }
 
 TScreenCanvas::~TScreenCanvas()

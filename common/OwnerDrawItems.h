@@ -6,15 +6,38 @@
 
 #include <functional>
 
-// The MFT_ flags that make an entry owner-drawn; a separator stays one.
-unsigned OwnerDrawnType(bool IsSeparator);
+// The style of a menu, by which the native entries of its items are the system's or the program's to draw. In the
+// designer all are the system's.
+class TOwnerDrawSwitch {
+public:
+    using TItemTest = std::function<bool(const TMenuItem& Item)>;
 
-// Gives the entry of one item these flags besides those it has, or takes them away. Only its type and data change:
-// submenu, text and state stay. Does nothing when the item's menu has no native entry for it.
-void SwitchItem(TMenuItem* Item, unsigned EntryType);
-// The same for all items below Item, at any depth, children in index order; EntryTypeOf says what each gets. Native
-// menus that do not exist yet are not made.
-void SwitchItems(TMenuItem* Item, const std::function<unsigned(const TMenuItem&)>& EntryTypeOf);
+    // Concerns says which items the style is for. Of those, IsSeparator says which are separators while the program
+    // draws them.
+    TOwnerDrawSwitch(TMenu* Menu, TItemTest Concerns, TItemTest IsSeparator);
+
+    TMenuStyle Style() const { return FStyle; }
+    // Switches all items at once.
+    void SetStyle(TMenuStyle Value);
+    // Brings the entries of all items up to date.
+    void SwitchAll() const { ModifyItems(FMenu->Items, FStyle == msStandard); }
+    // Switches the items below Item, at any depth, that the style is for; children in index order. Native menus that do
+    // not exist yet are not made, and only the type and the data of an entry change.
+    void ModifyItems(TMenuItem* Item, bool Standard) const;
+    // Switches Item alone, whether the style is for it or not.
+    void SetMenuItem(TMenuItem* Item, bool Standard) const;
+    // The MFT_ flags that an item's entry has because of the style.
+    unsigned EntryType(const TMenuItem& Item) const;
+
+private:
+    bool IsDesigning() const { return FMenu->ComponentState.Contains(csDesigning); }
+    unsigned TypeOf(const TMenuItem& Item, bool Standard) const;
+
+    TMenu* FMenu;
+    TMenuStyle FStyle = msStandard;
+    TItemTest FConcerns;
+    TItemTest FIsSeparator;
+};
 
 // A canvas on the screen's device context, for measuring; the context goes back with it.
 class TScreenCanvas : public TCanvas {

@@ -3,6 +3,7 @@
 #include "menus/CheckMark.h"
 #include "vcl/classes/StillThere.h"
 #include "vcl/controls/Control.h"
+#include "vcl/menus/MenuEntries.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <list>
@@ -108,13 +109,8 @@ std::vector<unsigned> TkelOfficePopupMenu::ShownCommands(TMenuItem* Parent)
     }
     HMENU Menu = Parent->Handle;
     const int Count = GetMenuItemCount(Menu);
-    for (int I = 0; I < Count; ++I) {
-        MENUITEMINFOW Info{};
-        Info.cbSize = sizeof Info;
-        Info.fMask = MIIM_ID;
-        if (GetMenuItemInfoW(Menu, static_cast<UINT>(I), TRUE, &Info))
-            Commands.push_back(Info.wID);
-    }
+    for (int I = 0; I < Count; ++I)
+        Commands.push_back(EntryCommand(Menu, I));
     return Commands;
 }
 

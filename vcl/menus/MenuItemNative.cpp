@@ -4,6 +4,7 @@
 // for or about to open.
 
 #include "vcl/menus/Menu.h"
+#include "vcl/menus/MenuEntries.h"
 #include "vcl/menus/MenuItem.h"
 
 #include "vcl/graphics/GraphicErrors.h"
@@ -14,23 +15,6 @@
 namespace {
 
 constexpr UINT BreakType[] = {0, MFT_MENUBREAK, MFT_MENUBARBREAK};
-
-UINT CommandAt(HMENU Menu, int Position)
-{
-    MENUITEMINFOW Info{};
-    Info.cbSize = sizeof Info;
-    Info.fMask = MIIM_ID;
-    return GetMenuItemInfoW(Menu, static_cast<UINT>(Position), TRUE, &Info) ? Info.wID : 0;
-}
-
-// Looks in this native menu only; the system's own search by command goes into submenus and passes over their items.
-int PositionOf(HMENU Menu, uint16_t Command)
-{
-    for (int I = GetMenuItemCount(Menu); I-- > 0;)
-        if (CommandAt(Menu, I) == Command)
-            return I;
-    return -1;
-}
 
 } // namespace
 
@@ -137,7 +121,7 @@ void TMenuItem::FillItemInfo(MENUITEMINFOW& Info, TWideString& Text) const
 void TMenuItem::ChangeLook()
 {
     if (FParent && FParent->FHandle && !FParent->FStale) {
-        const int Position = PositionOf(FParent->FHandle, FCommand);
+        const int Position = FindEntry(FParent->FHandle, FCommand);
         MENUITEMINFOW Info;
         TWideString Text;
         FillItemInfo(Info, Text);
@@ -179,7 +163,7 @@ void TMenuItem::DetachNative(TMenuItem* Item)
 {
     if (!FHandle || !Item->FHandle)
         return; // A plain entry may stay until the menu is filled anew.
-    const int Position = PositionOf(FHandle, Item->FCommand);
+    const int Position = FindEntry(FHandle, Item->FCommand);
     if (Position >= 0)
         RemoveMenu(FHandle, static_cast<UINT>(Position), MF_BYPOSITION);
 }
@@ -207,7 +191,7 @@ intptr_t TMenuItem::MenuChar(wchar_t Letter)
     bool IsEnabled = true; // the first
     bool SelectedAbove = false;
     for (int I = 0; I < GetMenuItemCount(FHandle); ++I) {
-        const TMenuItem* Item = Menu ? Menu->FindItem(CommandAt(FHandle, I), fkCommand) : nullptr;
+        const TMenuItem* Item = Menu ? Menu->FindItem(EntryCommand(FHandle, I), fkCommand) : nullptr;
         if (Item && Item->AnswersTo(static_cast<uint16_t>(Letter))) {
             if (++Hits == 1) {
                 First = I;
