@@ -1,7 +1,7 @@
 // TkelCustomMenu: the foundation of main menus whose items the application draws.
 //
-// The items on the bar stay the system's; those below are switched when the item that they lie in has a name. The menu
-// is shown by its handle: SetMenu(Form->Handle, Menu->Handle).
+// The items on the bar are always drawn by the system; the others become owner-drawn when the item that they lie in has
+// a name. The menu is shown by its handle: SetMenu(Form->Handle, Menu->Handle).
 #pragma once
 
 #include "common/OwnerDrawItems.h"
@@ -25,8 +25,8 @@ public:
     TDrawMenuItem OnDrawItem;
     TMeasureMenuItem OnMeasureItem;
 
-    // The menu that was made last of those that live, or nullptr. The owner-drawn items of all main menus show only
-    // while this one is owner-drawn.
+    // The youngest menu that exists, or nullptr. The owner-drawn items of all main menus show only while this one is
+    // owner-drawn.
     static TkelCustomMenu* Current() { return Menus.empty() ? nullptr : Menus.back(); }
 
 protected:
@@ -49,7 +49,7 @@ private:
     void FormWndProc(TMessage& Message, const TWndMethod& Next);
     bool FormMessage(TMessage& Message);
 
-    static inline std::vector<TkelCustomMenu*> Menus; // that live, in the order they were made
+    static inline std::vector<TkelCustomMenu*> Menus; // all that exist, in the order of their creation
 
     TWindowProcHook FHook;
     TOwnerDrawSwitch FSwitch;

@@ -1,7 +1,7 @@
 // TkelCustomPopupMenu: the foundation of popup menus whose items the program draws.
 //
-// The requests of the system come to the window that all popup menus share, and go to the menu that is open. OnPopup is
-// not raised.
+// The system sends its requests to the window that all popup menus share; they are passed on to the menu that is open.
+// OnPopup is not raised.
 #pragma once
 
 #include "common/OwnerDrawItems.h"

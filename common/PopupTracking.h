@@ -8,17 +8,17 @@
 #include <memory>
 #include <vector>
 
-// From Popup on a menu is the current one. When its loop ends it becomes the saved one, to which the command goes that
-// may follow.
+// Popup makes a menu the current one. When its menu loop ends it becomes the saved one, as the command that was chosen
+// comes after the end of the loop.
 class TPopupTracking : public TObject {
 public:
     static TPopupTracking& Get();
 
-    // The first menu that lives makes the tracking listen to the window, the last one ends that.
+    // The tracking listens to the window from the creation of the first menu to the deletion of the last one.
     void Add();
     void Remove(TkelCustomPopupMenu* Menu);
 
-    // Lives while the system's loop runs for Menu, which may be deleted meanwhile.
+    // Exists while the system's menu loop runs for Menu. The menu may be deleted during that time.
     class TLoop {
     public:
         explicit TLoop(TkelCustomPopupMenu* Menu) : FMenu(Menu) { Get().Begin(Menu); }
@@ -30,8 +30,8 @@ public:
     };
     bool IsOpen(const TkelCustomPopupMenu* Menu) const { return std::ranges::find(FOpen, Menu) != FOpen.end(); }
     TkelCustomPopupMenu* Current() const { return FCurrent; }
-    // For measuring an item. One canvas serves all items of a menu, as getting hold of the screen takes longer than
-    // measuring; each finds it as new.
+    // For measuring an item, with the default font, pen and brush. All items of a menu share one canvas, as to get the
+    // device context of the screen takes longer than to measure.
     TScreenCanvas& MeasuringCanvas();
 
 private:
@@ -45,13 +45,13 @@ private:
     void Forget(TkelCustomPopupMenu* Open);
     bool IsDrawn() const { return FCurrent && FCurrent->Style == msOwnerDraw; }
 
-    int FMenus = 0;                          // that live
-    std::vector<TkelCustomPopupMenu*> FOpen; // in the system's loop; it refuses a second one
+    int FMenus = 0;                          // how many exist
+    std::vector<TkelCustomPopupMenu*> FOpen; // for which the menu loop runs
     TkelCustomPopupMenu* FCurrent = nullptr;
     TkelCustomPopupMenu* FSaved = nullptr;
     bool FCommandPending = false;
-    std::unique_ptr<TScreenCanvas> FMeasuring; // until no menu is open
+    std::unique_ptr<TScreenCanvas> FMeasuring; // exists while a menu is open
 };
 
-// The one tracking.
+// The only instance.
 inline TPopupTracking* const PopupTracking = &TPopupTracking::Get();

@@ -5,6 +5,6 @@
 
 #include <memory>
 
-// The black and white pixels of the bitmap "CHECK". All menus have one between them: it is loaded with the first and
-// goes with the last. Raises EResNotFound when the program lacks the bitmap.
+// The black and white pixels of the bitmap "CHECK". All menus share it: it is loaded for the first one and freed with
+// the last. Raises EResNotFound when the program lacks the bitmap.
 std::shared_ptr<TMaskedImage> CheckMark();

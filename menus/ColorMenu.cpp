@@ -100,7 +100,7 @@ void TkelColorMenu::CreateItems()
 
 // ---- properties
 
-// The system keeps what it has measured as long as it has the entries.
+// The system measures an entry once only, so the entries are made anew.
 void TkelColorMenu::SetWidth(int Value)
 {
     if (FWidth == Value)
@@ -131,8 +131,8 @@ void TkelColorMenu::UpdateBreaks()
         Items->Items[I]->Break = StartsColumn(I, FMenuOrdering) ? mbBreak : mbNone;
 }
 
-// Cells reach to the left out of their items. The space for that comes with a break; the first column has it as well,
-// whether its item has a Break or not.
+// A cell begins to the left of its item's rectangle. There is space for that where a column begins by a break; so the
+// first item has one, too, whatever its Break.
 unsigned TkelColorMenu::EntryType(const TMenuItem& Item) const
 {
     return inherited::EntryType(Item) | (Item.Parent == Items && Item.MenuIndex == 0 ? MFT_MENUBREAK : 0);
@@ -158,7 +158,7 @@ void TkelColorMenu::DoClick(TObject* Sender)
     OnChange(this);
 }
 
-// A mark that is left from the colour before would be wrong, also when no item has the current one.
+// The item of the colour before must not stay checked, even when no item has the current colour.
 void TkelColorMenu::Popup(int X, int Y)
 {
     const int Index = ColorToIndex(CurrentColor);
@@ -170,7 +170,7 @@ void TkelColorMenu::Popup(int X, int Y)
     inherited::Popup(X, Y);
 }
 
-// Of the colours; what else a menu may have keeps its marks. Nothing is checked for nullptr.
+// Checks Item, or no colour when it is nullptr. Items that stand for no colour keep their check marks.
 void TkelColorMenu::CheckOnly(TMenuItem* Item)
 {
     for (int I = 0; I < Items->Count; ++I)

@@ -13,7 +13,7 @@ VCL_ENUM(TMenuOrdering, mo16x1, mo8x2, mo4x4, mo2x8, mo1x16);
 class TkelColorMenu : public TkelOfficePopupMenu {
     VCL_CLASS(TkelColorMenu, TkelOfficePopupMenu)
 public:
-    // Black, and without items: a form that is read adds them, and otherwise CreateItems.
+    // CurrentColor is black, and there are no items: they come from a form file or from CreateItems.
     explicit TkelColorMenu(TComponent* AOwner);
 
     // Of a cell in pixels, 26 by 22. The system has the last word on the width, some pixels more or less.

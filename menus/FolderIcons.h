@@ -23,15 +23,15 @@ public:
     // These give the index of the new icon; -1 for an empty one, and when the shell has none for the path.
     int Add(TIcon* Icon);
     int AddFile(const AnsiString& Path);
-    // With the upper left corner at X, Y. The colour of an icon's own upper left pixel is left out, which is none when
-    // the icon is clear there. An index that does not exist draws nothing.
+    // With the upper left corner at X, Y. The colour of an icon's own upper left pixel is left out, unless the icon
+    // is transparent there. An index that does not exist draws nothing.
     void Draw(HDC Target, int X, int Y, int Index);
 
     // A new icon, for the caller to delete; empty when the shell has none.
     static TIcon* FileIcon(const AnsiString& Path, bool IsSmall);
 
 private:
-    // The extensions of the shell need it.
+    // COM is initialized while this exists: extensions of the shell need it.
     class TComUse {
     public:
         TComUse() : FHasCom(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}

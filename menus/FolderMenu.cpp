@@ -22,7 +22,7 @@ void CutLastCharacter(AnsiString& Text)
         Text.pop_back();
 }
 
-// The cut is meant for a point and three letters; of other extensions it takes as much.
+// Meant for extensions of three letters. Names with another extension lose four characters as well.
 AnsiString ShownName(const AnsiString& Path)
 {
     constexpr int CutLength = 4;
@@ -34,7 +34,7 @@ AnsiString ShownName(const AnsiString& Path)
     return Name;
 }
 
-// What stands in the submenu of a folder that has not been opened yet.
+// The only item in the submenu of a folder that has not been opened yet.
 bool IsPlaceholder(const TMenuItem& Item)
 {
     return Item.Caption.empty();
@@ -100,7 +100,8 @@ void TkelFolderMenu::MakeMenu(const AnsiString& Path, TMenuItem* Parent)
     // The captions stay as they are.
     Parent->AutoHotkeys = maManual;
     int Folders = 0;
-    // Behind the folders; where a caption is lower than all before it.
+    // For each item behind the folders, the one with the lowest caption up to there: a file goes before the first that
+    // is lower, which can so be found by bisection.
     std::vector<const TMenuItem*> Lowest;
     for (int I = 0; I < Parent->Count; ++I) {
         const TMenuItem* Item = Parent->Items[I];
@@ -128,8 +129,8 @@ void TkelFolderMenu::MakeMenu(const AnsiString& Path, TMenuItem* Parent)
     });
 }
 
-// The placeholder stays when there is nothing to take its place, as without items there would be no submenu to look
-// into again; but it shows no more.
+// When the folder has become empty the placeholder stays, hidden: an item without items has no submenu that could be
+// opened again.
 void TkelFolderMenu::Fill(TMenuItem* Item)
 {
     TMenuItem* Last = Item->Items[Item->Count - 1];
@@ -199,7 +200,7 @@ void TkelFolderMenu::DoDrawItem(TMenuItem* Item, TCanvas* Canvas, unsigned State
     const bool IsSelected = (State & ODS_SELECTED) != 0;
     Canvas->Brush->Color = IsSelected ? clHighlight : clBtnFace;
     Canvas->FillRect(Rect);
-    // The pen's, not the font's: the text keeps its colour.
+    // This is the colour of the pen, not of the font: the text keeps its colour.
     Canvas->Pen->Color = IsSelected ? clHighlightText : clMenuText;
     TRect Text = Rect;
     Text.left += FIcons.Size() + TextLeft;

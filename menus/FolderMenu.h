@@ -35,7 +35,7 @@ public:
     TOnClickFolder OnClickFolder;
 
     void Popup(int X, int Y) override;
-    // Reads a folder that is opened for the first time. That is no click on its item.
+    // Fills the submenu of a folder when it opens for the first time. OnClickFolder is not raised for that.
     bool DispatchPopup(HMENU Handle) override;
 
     // Adds an item for each entry of a folder to Parent: folders at the beginning, the last one found first, and each
@@ -61,5 +61,5 @@ private:
     int IconOf(TMenuItem* Item);
 
     TFolderIcons FIcons;
-    AnsiString FFirstPath; // whose icon has index 0, which Tag cannot tell from none fetched yet
+    AnsiString FFirstPath; // whose icon has index 0; a Tag of 0 may also mean that none was fetched yet
 };

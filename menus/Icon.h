@@ -1,4 +1,5 @@
-// TkelIcon: shows an icon, made as large as the control. A menu bar shows that of the maximized child so.
+// TkelIcon: shows an icon, made as large as the control. A menu bar shows the icon of a maximized
+// child with it.
 #pragma once
 
 #include "vcl/controls/GraphicControl.h"

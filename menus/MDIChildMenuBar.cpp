@@ -142,7 +142,7 @@ void TkelMDIChildMenuBar::UnMerge()
         if (Button->Owner == Owner)
             Button->Parent = this;
     CorrectAlign();
-    // They lie as they did in the other bar. In their old order they merge the next time as they did this time.
+    // Their places are still those in the other bar. In their old order they merge the next time as they did this time.
     const auto PlaceOf = [this](const TkelMenuButton* Button) { return std::ranges::find(FOrder, Button); };
     std::vector<TkelMenuButton*> Buttons = MenuButtons(*this);
     std::ranges::sort(Buttons, {}, PlaceOf);

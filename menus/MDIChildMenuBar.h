@@ -12,7 +12,7 @@ class TCustomForm;
 class TkelMDIChildMenuBar : public TkelMenuBar {
     VCL_CLASS(TkelMDIChildMenuBar, TkelMenuBar)
 public:
-    // The owner is the child. The bar of anything that is no form never merges by itself.
+    // The owner is the child form. With an owner that is no form, the bar never merges by itself.
     explicit TkelMDIChildMenuBar(TComponent* AOwner);
 
     // The child shows neither the bar nor the dock that it lies in. Takes effect when the child is loaded; the buttons
@@ -23,7 +23,7 @@ public:
     // end. The first one that comes before another is also the last one that moves; the rest stay, and do not show,
     // until Merge is called again. Happens when the child becomes active.
     void Merge();
-    // The same without end: every button moves.
+    // The same, but every button moves.
     void MergeAll();
     // Takes them back. Happens when another child becomes active, whether that has a bar or not.
     void UnMerge();

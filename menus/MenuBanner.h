@@ -15,7 +15,7 @@ public:
     // Another banner, its picture copied; anything else raises EConvertError.
     void Assign(TPersistent* Source) override;
 
-    // The column where the picture leaves it free.
+    // The colour of the column around the picture.
     TColor BackColor = clBlack;
     // The banner's own; setting copies. Without a picture there is no banner.
     TPicture* GetPicture() { return &FPicture; }

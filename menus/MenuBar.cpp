@@ -26,7 +26,7 @@ void TkelMenuBar::Describe(TClassBuilder<TkelMenuBar>&)
 TkelMenuBar::TkelMenuBar(TComponent* AOwner) : TkelToolBar(AOwner)
 {
     NumberCaption();
-    ShowCaption = false; // there is room for it behind the buttons
+    ShowCaption = false; // it would show behind the buttons
     MakeIcon();
     FMinimize = AddButton("BTNMIN", {this, &TkelMenuBar::DoMin});
     FRestore = AddButton("BTNMAX", {this, &TkelMenuBar::DoMax});

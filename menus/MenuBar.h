@@ -24,7 +24,7 @@ public:
     void DoMin(TObject* Sender);
     void DoMax(TObject* Sender);
     void DoClose(TObject* Sender);
-    // Ten times a second: the bar gets the length of its dock, and shows whether a child is maximized.
+    // Called ten times a second: gives the bar the length of its dock, and shows whether a child is maximized.
     void DoTimer(TObject* Sender);
 
     // The bar's own; the menu is nullptr in the designer.

@@ -59,7 +59,7 @@ void TkelMenuButton::Click()
         inherited::Click();
 }
 
-// Menus open with the press, so that it can go on to an item and choose it by letting go.
+// The menu opens on the press, so that the user can drag to an item and choose it by releasing the mouse button.
 void TkelMenuButton::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
     if (!FMenu || Button != mbLeft) {
@@ -103,7 +103,7 @@ void TkelMenuButton::Paint()
         Fill.Frame(R, clBtnHighlight, clBtnShadow);
 }
 
-// In a vertical bar, which leaves no room for the caption across it.
+// The caption runs from top to bottom: in a vertical bar there is no room for it otherwise.
 bool TkelMenuButton::StandsOnEnd() const
 {
     return (Align == alTop || Align == alBottom) && Height > Width;
@@ -111,12 +111,13 @@ bool TkelMenuButton::StandsOnEnd() const
 
 void TkelMenuButton::DrawStandingCaption(HDC Context)
 {
-    // One for all: it is used up at once. Never destroyed, as it outlives what drawing needs.
+    // One for all buttons, as it is needed during this call only. Never destroyed: when the program ends, what its
+    // destructor needs may be gone.
     static TTurnedPicture& Picture = *new TTurnedPicture;
     const TRect Lying(0, 0, Height, Width);
     Picture.SetSize(Width, Height);
     TSolidFill(Picture.Canvas->BareHandle()).Fill(Lying, clBtnFace);
-    // To the lower right when it stands.
+    // To the lower right, once the caption is turned.
     constexpr TPoint Highlight(1, -1);
     DrawButtonCaption(Picture.Canvas, Font, Caption, Lying, !Enabled, Highlight);
     Picture.Show(Context, 0, 0);

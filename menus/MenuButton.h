@@ -8,26 +8,26 @@
 class TkelMenuButton : public TkelSpeedButton {
     VCL_CLASS(TkelMenuButton, TkelSpeedButton)
 public:
-    // Alone in a group of its own, so that it can stay down.
+    // In a random group, so that it can stay down, with AllowAllUp.
     explicit TkelMenuButton(TComponent* AOwner);
     ~TkelMenuButton() override;
 
-    // Somebody else's; cleared when it is deleted. Accelerators work in a TkelOfficePopupMenu only.
+    // Not owned; cleared when it is deleted. Accelerators work in a TkelOfficePopupMenu only.
     TPopupMenu* GetMenu() const { return FMenu; }
     void SetMenu(TPopupMenu* Value) { FMenu = Value; }
     PROPERTY(TPopupMenu*, Menu);
-    // Where the button comes to lie when menu bars are merged.
+    // The place of the button when menu bars are merged; see TkelMDIChildMenuBar::Merge.
     int MenuGroupIndex = 0;
 
-    // Opens the menu, or closes it when it is this button's that is open, and returns when it is closed. OnClick is
-    // raised before the menu opens, however that comes about: there it can be brought up to date.
+    // Opens the menu and returns when it is closed; closes the menu when it is open. OnClick is raised each time before
+    // the menu opens, also when the user comes from another menu: the menu can be brought up to date there.
     void Click() override;
 
     // Highlighted by the keyboard or because the menu is open.
     bool GetHot() const { return FHot; }
     void SetHot(bool Value);
     PROPERTY(bool, Hot);
-    // Where the menu opens, on the screen: below the button, or beside one that stands in a vertical bar.
+    // Where the menu opens, on the screen: below the button, or to the right of it in a vertical bar.
     TPoint DropPoint() const;
 
     int AccessibleRole() const override;

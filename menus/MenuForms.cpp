@@ -10,7 +10,7 @@
 
 namespace {
 
-// The form that a component belongs to, be it by way of a frame; nullptr when there is none.
+// The form that owns a component, directly or through a frame; nullptr when there is none.
 TCustomForm* FormOf(TComponent* Component)
 {
     while (Component && !As<TCustomForm>(Component))

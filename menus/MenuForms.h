@@ -1,5 +1,5 @@
-// Whose menus are whose: the menus of an MDI child are with its parent's, and a frame in which a bar floats is part of
-// the form that the bar has left.
+// Which form menus belong to: those of an MDI child belong to the main form, and a frame in which a bar floats counts
+// as the form that owns the bar.
 #pragma once
 
 #include <vector>
@@ -7,11 +7,12 @@
 class TCustomForm;
 class TkelMenuButton;
 
-// The form that has the menus while the active one is active; nullptr when no form is.
+// The form whose menus the keyboard works on: the active one, or the one that its menus belong to. nullptr when no form
+// is active.
 TCustomForm* ActiveMenuForm();
-// The form with whose menus those of Button are; for a button that belongs to no form it is the active one.
+// The form that the menu of Button belongs to. For a button that no form owns it is ActiveMenuForm.
 TCustomForm* MenuFormOf(const TkelMenuButton& Button);
-// The forms whose menus are those of MenuForm: its active MDI child comes first.
+// The forms that own the menus of MenuForm: first its active MDI child, if there is one, then itself.
 std::vector<TCustomForm*> FormsWithMenusOf(TCustomForm* MenuForm);
-// Button belongs to one of them.
+// Whether Button belongs to one of these forms.
 bool IsAmongMenusOf(TCustomForm* MenuForm, const TkelMenuButton& Button);

@@ -12,7 +12,8 @@ THook MouseHook;
 THook KeyboardHook;
 THook ActivationHook;
 
-// The loop of a menu looks at a key before it takes it, and the hook is called for both. What was decided first holds.
+// A menu loop peeks at a key message before it removes it from the queue, and the hook is called both times. What the
+// first call decided holds for the second.
 struct TDecision {
     WPARAM Key = 0;
     LPARAM Data = 0;
@@ -51,7 +52,7 @@ LRESULT CALLBACK KeyboardProc(int Code, WPARAM WParam, LPARAM LParam)
     if (!Again) {
         Decision = {WParam, LParam};
         TMenuTracking& Tracking = TMenuTracking::Get();
-        // A key that something has failed at is not for others.
+        // A key whose handling failed is used up.
         if (!Guarded(&Tracking, [&] { Decision.Used = Tracking.Key(static_cast<uint16_t>(WParam), LParam); }))
             Decision.Used = true;
     }
@@ -70,7 +71,7 @@ LRESULT CALLBACK ActivationProc(int Code, WPARAM WParam, LPARAM LParam)
 
 void MenuButtonsSeeMouse(WPARAM Message, LPARAM Data)
 {
-    static bool IsLooking = false; // what follows may bring the next one
+    static bool IsLooking = false; // to close a menu may bring another mouse message
     if (IsLooking)
         return;
     const TScopedValue Looking(IsLooking, true, false);
@@ -82,7 +83,7 @@ void MenuButtonsSeeMouse(WPARAM Message, LPARAM Data)
 
 void InstallMenuHooks()
 {
-    // All threads' hooks would bring the program's file into other programs.
+    // A hook for all threads would load the program's file into other programs.
     const DWORD Thread = GetCurrentThreadId();
     MouseHook.Reset(SetWindowsHookExW(WH_MOUSE, &MouseProc, nullptr, Thread));
     KeyboardHook.Reset(SetWindowsHookExW(WH_KEYBOARD, &KeyboardProc, nullptr, Thread));

@@ -5,8 +5,8 @@
 
 void InstallMenuHooks();
 void RemoveMenuHooks();
-// Whether menu buttons hear of another window of the program that is activated.
+// A third hook, only while it is wanted: it reports that a window of the program is activated.
 void WatchActivation(bool Watch);
 
-// All that the mouse hook does but calling the next one. The arguments are those of a hook.
+// What the mouse hook does, except for calling the next hook. The arguments are those of a mouse hook procedure.
 void MenuButtonsSeeMouse(WPARAM Message, LPARAM Data);

@@ -196,7 +196,7 @@ bool TMenuTracking::WindowMessage(TMessage& Message)
     return false;
 }
 
-// Not every system tells that the selection is back on the item that the submenu belongs to.
+// When a submenu closes, the item that it belongs to is selected again. Not every system sends a message about that.
 void TMenuTracking::SubMenuCloses(uintptr_t Handle)
 {
     TPopupMenu* Menu = FCurrent ? FCurrent->Menu : nullptr;
@@ -210,7 +210,8 @@ void TMenuTracking::SubMenuCloses(uintptr_t Handle)
 
 // ---- the mouse
 
-// When a menu opens or closes the system tells of a move that was none: a menu opened by a key would go at once.
+// When a menu opens or closes the system reports a move to where the pointer already is. That must not count: a menu
+// that was opened by a key would close again when the pointer happens to be on another button.
 void TMenuTracking::PointerMoved(const TPoint& Screen)
 {
     const bool Follows = FTracking || FOpensNext;
@@ -228,14 +229,15 @@ void TMenuTracking::PointerMoved(const TPoint& Screen)
     }
 }
 
-// A press anywhere ends the keyboard mode, as it does in the system's menu bars. An open menu sees to itself.
+// A press anywhere ends the keyboard mode, as it does in the system's menu bars. An open menu
+// handles presses itself.
 void TMenuTracking::ButtonPressed()
 {
     if (FCurrent && !FTracking)
         Leave();
 }
 
-// A menu that is open keeps the activation of its window; a window that its items open comes when it has closed.
+// While a menu is open, its own loop decides when it ends.
 void TMenuTracking::OtherWindowActivated()
 {
     if (FCurrent && !FTracking)

@@ -19,7 +19,7 @@ class TMenuTracking : public TObject {
 public:
     static TMenuTracking& Get();
 
-    // The first button brings the hooks, the last one takes them away. Those in the designer stay out of it.
+    // The first button installs the hooks, the last one removes them. Buttons in the designer are not added.
     void Add(TkelMenuButton* Button);
     void Remove(TkelMenuButton* Button);
 
@@ -36,13 +36,13 @@ public:
     void ButtonPressed();
     // Another window of the program is about to be the active one.
     void OtherWindowActivated();
-    // True when the key, as a keyboard hook is told of it, is used up.
+    // The arguments are those of a keyboard hook procedure. True: the key is used up.
     bool Key(uint16_t VirtualKey, intptr_t KeyData);
 
 private:
-    // To the window that popup menus share.
+    // Messages to the window that popup menus share.
     static constexpr unsigned OpenCurrent = WM_APP + 0x3E1;
-    static constexpr unsigned OpenLetter = WM_APP + 0x3E2; // as WM_SYSCHAR
+    static constexpr unsigned OpenLetter = WM_APP + 0x3E2; // with the parameters of WM_SYSCHAR
 
     bool WindowMessage(TMessage& Message);
     void SubMenuCloses(uintptr_t Handle);
@@ -66,16 +66,16 @@ private:
     bool LetterElsewhere(uint16_t Char, intptr_t KeyData);
     void OpenByLetter(uint16_t Char, intptr_t KeyData);
 
-    std::vector<TkelMenuButton*> FButtons; // the youngest last
-    TkelMenuButton* FReference = nullptr;  // the last one that was made or that the keyboard was on
+    std::vector<TkelMenuButton*> FButtons; // in the order of their creation
+    TkelMenuButton* FReference = nullptr;  // created or current last
     TkelMenuButton* FCurrent = nullptr;
-    TkelMenuButton* FNext = nullptr;   // whose menu opens when the one that is open has closed
-    TkelMenuButton* FToOpen = nullptr; // by the message that is on its way; only compared
+    TkelMenuButton* FNext = nullptr;   // opens its menu when the open one has closed
+    TkelMenuButton* FToOpen = nullptr; // by the posted OpenCurrent; only compared
     TPoint FPointer;                   // where it was last, on the screen
-    HMENU FSelectedMenu = nullptr;     // where the open menu's selection is
-    bool FOnSubMenu = false;           // it is an item with a submenu
+    HMENU FSelectedMenu = nullptr;     // the open menu or submenu with the selected item
+    bool FOnSubMenu = false;           // the selected item has a submenu
     bool FTracking = false;
-    bool FOpensNext = false; // no menu is open, but was: the next button opens its own
+    bool FOpensNext = false; // no menu is open, but was: the next button opens its menu
     bool FAltAlone = false;  // Alt is down, and nothing else has happened since
     bool FAltUsed = false;   // Alt is down, and has opened a menu together with a letter
 };

@@ -13,7 +13,7 @@
 
 namespace {
 
-// Of what a keyboard hook is told of a key.
+// Flags in the key data of a keyboard hook.
 constexpr intptr_t Released = intptr_t{1} << 31;
 constexpr intptr_t WasDown = intptr_t{1} << 30;
 constexpr intptr_t AltHeld = intptr_t{1} << 29;
@@ -40,7 +40,7 @@ TMenuItem* FindShortCut(TkelOfficePopupMenu* Menu, TShortCut ShortCut)
     return Item && Item->CanBeChosen() ? Item : nullptr;
 }
 
-// A menu that is open has the keys to itself.
+// While a menu is open only its own shortcuts count.
 TMenuItem* FindShortCut(TShortCut ShortCut)
 {
     if (TkelCustomPopupMenu* Open = TkelCustomPopupMenu::Current())
@@ -83,7 +83,7 @@ TkelMenuButton* TMenuTracking::FindByLetter(const TkelMenuButton* Bar, uint16_t 
 bool TMenuTracking::Key(uint16_t VirtualKey, intptr_t KeyData)
 {
     TCustomForm* Form = ActiveMenuForm();
-    // Another form has come in between.
+    // Another form has become active.
     if (FCurrent && !FTracking && !IsAmongMenusOf(Form, *FCurrent))
         Leave();
     if (std::ranges::none_of(FButtons, [Form](const auto* Button) { return IsAmongMenusOf(Form, *Button); }))
@@ -95,14 +95,14 @@ bool TMenuTracking::Key(uint16_t VirtualKey, intptr_t KeyData)
     if (KeyData & Released)
         return ReleaseAlt();
     if (!(KeyData & WasDown)) {
-        // With AltGr the system presses Ctrl, too.
+        // For AltGr the system reports Ctrl as well.
         FAltAlone = !IsHeld(VK_CONTROL) && !IsHeld(VK_SHIFT);
         FAltUsed = false;
     }
     return FCurrent != nullptr;
 }
 
-// A release that is not used up takes the system to its own menu.
+// A release that is not used up opens the window's own menu.
 bool TMenuTracking::ReleaseAlt()
 {
     const bool Alone = std::exchange(FAltAlone, false);
@@ -153,7 +153,7 @@ bool TMenuTracking::PressKey(uint16_t VirtualKey, intptr_t KeyData)
     return (KeyData & AltHeld) && LetterElsewhere(CharOf(VirtualKey), KeyData);
 }
 
-// Into a submenu and out of it the arrows belong to the menu.
+// Where an arrow goes into a submenu or out of it, it is left to the open menu.
 bool TMenuTracking::Step(int Direction)
 {
     if (!FCurrent)
@@ -207,7 +207,7 @@ bool TMenuTracking::ChooseShortcut(uint16_t VirtualKey, intptr_t KeyData)
     return true;
 }
 
-// Alt and the letter of a button. Those that lie in the active form itself hear of it as other controls do.
+// Alt and the letter of a button. Buttons on the active form itself get the letter as its other controls do.
 bool TMenuTracking::LetterElsewhere(uint16_t Char, intptr_t KeyData)
 {
     const TkelMenuButton* Button = FindByLetter(Start(), Char);

@@ -1,12 +1,12 @@
-// TTurnedPicture: what is drawn on it lying is shown standing on end, turned to the right: text runs from top to
-// bottom. The system's own turned text is spaced differently, and not every font has it.
+// TTurnedPicture: a picture that is drawn horizontally and shown turned by 90 degrees to the right, so that text runs
+// from top to bottom. The system's own turned text is spaced differently, and not every font has it.
 #pragma once
 
 #include "vcl/graphics/Bitmap.h"
 
 class TTurnedPicture {
 public:
-    // Of the size at which it will stand. The pixels are those of the picture before.
+    // The size of the turned picture. The pixels are not cleared.
     void SetSize(int Width, int Height);
     // To draw on, from (0, 0) to (Height, Width).
     TCanvas* GetCanvas() { return FLying.Canvas; }
@@ -17,7 +17,7 @@ public:
 private:
     int FWidth = 0;
     int FHeight = 0;
-    // As large as any picture was, and made anew for larger ones only.
+    // They only grow, to the largest size that was asked for.
     TBitmap FLying;
     TBitmap FStanding;
 };

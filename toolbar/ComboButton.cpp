@@ -12,7 +12,7 @@ constexpr int DefaultWidth = 33;
 constexpr int DefaultHeight = 22;
 constexpr int LastRandomGroup = 999;
 
-// All combo buttons have one strip between them: it is loaded with the first and goes with the last.
+// All combo buttons share one strip: it is loaded for the first one and freed with the last.
 std::shared_ptr<TkelGlyphs> ArrowGlyphs()
 {
     static std::weak_ptr<TkelGlyphs> Shared;

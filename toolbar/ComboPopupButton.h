@@ -9,7 +9,7 @@ class TkelComboPopupButton : public TkelComboButton {
 public:
     explicit TkelComboPopupButton(TComponent* AOwner);
 
-    // What the arrow drops, somebody else's; cleared when it is deleted.
+    // What the arrow drops, not owned; cleared when it is deleted.
     TPopupMenu* GetMenu() const { return FMenu; }
     void SetMenu(TPopupMenu* Value) { FMenu = Value; }
     PROPERTY(TPopupMenu*, Menu);

@@ -10,7 +10,7 @@ public:
     // In a random group of its own, with AllowAllUp.
     explicit TkelPopupButton(TComponent* AOwner);
 
-    // What a click drops, somebody else's; cleared when it is deleted. Without it this is a plain speed button.
+    // What a click drops, not owned; cleared when it is deleted. Without it this is a plain speed button.
     TPopupMenu* GetMenu() const { return FMenu; }
     void SetMenu(TPopupMenu* Value) { FMenu = Value; }
     PROPERTY(TPopupMenu*, Menu);

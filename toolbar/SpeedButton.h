@@ -31,11 +31,11 @@ public:
     void SetDown(bool Value);
     PROPERTY(bool, Down);
 
-    // The strip, somebody else's; cleared when it is deleted. Setting it clears Images. Draws nothing by itself.
+    // The strip, not owned; cleared when it is deleted. Setting it clears Images, and does not repaint.
     TkelGlyphs* GetGlyphs() const { return FGlyphs; }
     void SetGlyphs(TkelGlyphs* Value);
     PROPERTY(TkelGlyphs*, Glyphs);
-    // The other source of the glyph, somebody else's too. Setting it clears Glyphs.
+    // The other source of the glyph, not owned either. Setting it clears Glyphs, and does not repaint.
     TImageList* GetImages() const { return FImages; }
     void SetImages(TImageList* Value);
     PROPERTY(TImageList*, Images);

@@ -1,7 +1,7 @@
 // TWindowProcHook: a place in the chain of WindowProc of a control.
 //
-// It may be taken out in any order: where another hook has come on top, it only passes on from then on. It ends with
-// the control.
+// Hooks may be removed in any order. One that has another hook above it stays in the chain and only passes messages on.
+// When the control is deleted the hook is removed by itself.
 #pragma once
 
 #include "vcl/classes/ComponentRef.h"
@@ -9,7 +9,7 @@
 
 #include <memory>
 
-// Gets each message before the control, or before the hooks that were there earlier; Next is the way on to these.
+// Called with each message before the control, and before the hooks that were installed earlier; Next calls those.
 using THookedWindowProc = TEvent<void(TMessage& Message, const TWndMethod& Next)>;
 
 class TWindowProcHook : public TObject {
@@ -18,11 +18,11 @@ public:
     ~TWindowProcHook() override { Remove(); }
     TWindowProcHook(const TWindowProcHook&) = delete;
 
-    // Removes itself from where it was before.
+    // Removes itself first from the control that it was installed on before.
     void Install(TControl* Control, const THookedWindowProc& Procedure);
     void Remove();
 
-    // nullptr when it is gone.
+    // The hooked control; nullptr when there is none, or it has been deleted.
     TControl* Control() const { return static_cast<TControl*>(FControl.Get()); }
 
 private:
@@ -35,5 +35,5 @@ private:
 
     TComponentRef<TComponent> FControl{this, &TWindowProcHook::Forget};
     TWndMethod FInstalled;
-    std::shared_ptr<TLink> FLink; // shared with what is in the chain
+    std::shared_ptr<TLink> FLink; // shared with the function in the chain
 };

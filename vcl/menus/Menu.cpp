@@ -59,7 +59,7 @@ TMenuItem* TMenu::FindItem(uintptr_t Value, TFindItemKind Kind) const
     return nullptr;
 }
 
-// Menus ask for the item with a command at every message of every item.
+// Asked for at every message about an item, so it does not go through the items.
 TMenuItem* TMenu::FindCommand(uintptr_t Command) const
 {
     TMenuItem* Item = ItemWithCommand(Command);
@@ -165,7 +165,7 @@ bool TMenu::DispatchDrawing(TMessage& Message)
         TMenuItem* Item = FindItem(static_cast<uintptr_t>(Message.LParam), fkHandle);
         if (!Item)
             return false;
-        // A letter of no item is for others: MDI frames have keys of their own here.
+        // A letter that belongs to no item is left to others: MDI frames have letters of their own.
         const intptr_t Answer = Item->MenuChar(static_cast<wchar_t>(Message.WParamLo()));
         if (HIWORD(Answer) == MNC_IGNORE)
             return false;

@@ -9,7 +9,8 @@ uint16_t Last = FirstMenuCommand - 1;
 
 uint16_t TakeMenuCommand(TMenuItem* Item)
 {
-    // Round about, so that a command in the message queue does not find its number on a new item.
+    // Numbers are used again as late as possible: a command that is still in the message queue must not reach a new
+    // item.
     constexpr int Count = LastMenuCommand - FirstMenuCommand + 1;
     for (int I = 0; I < Count; ++I) {
         Last = Last >= LastMenuCommand ? FirstMenuCommand : static_cast<uint16_t>(Last + 1);

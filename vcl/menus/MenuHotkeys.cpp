@@ -13,7 +13,7 @@ wchar_t Upper(wchar_t Letter)
     return Letter;
 }
 
-// Ideographs are no keys.
+// Ideographs cannot be typed with one key.
 bool CanBeHotkey(wchar_t Letter)
 {
     constexpr wchar_t FirstIdeograph = 0x2E80;
@@ -53,7 +53,7 @@ bool TMenuItem::RethinkHotkeys(bool ForceRethink)
 {
     if (!ForceRethink && Inherit(&TMenuItem::FAutoHotkeys) != maAutomatic)
         return false;
-    // What the captions name themselves comes first; of two that name the same letter the first keeps it.
+    // Letters that captions mark themselves are taken first; of two items with the same letter the first one keeps it.
     std::set<wchar_t> Taken;
     std::vector<TMenuItem*> Wanting;
     for (TMenuItem* Item : FItems) {

@@ -142,7 +142,8 @@ public:
     // Bold, and chosen by a double click on its submenu; one at most in a menu.
     MENU_ITEM_VALUE(bool, Default, FDefault);
     MENU_ITEM_VALUE(bool, Enabled, FEnabled);
-    // Raises EMenuError "GroupIndex cannot be less than a previous menu item's GroupIndex". Later siblings follow up.
+    // Raises EMenuError "GroupIndex cannot be less than a previous menu item's GroupIndex". Later siblings with
+    // a lower one get the same.
     MENU_ITEM_VALUE(uint8_t, GroupIndex, FGroupIndex);
     THelpContext HelpContext = 0;
     AnsiString Hint;
@@ -223,7 +224,7 @@ private:
     bool FStale = false; // the native menu is not what the items say
 };
 
-// A new item that nobody but AOwner owns, with the values given.
+// A new item with the values given, owned by AOwner if that is not nullptr.
 TMenuItem* NewItem(const AnsiString& Caption, TShortCut ShortCut, bool Checked, bool Enabled,
                    const TNotifyEvent& OnClick, THelpContext HelpContext, const AnsiString& Name,
                    TComponent* AOwner = nullptr);

@@ -147,7 +147,7 @@ void TMenuItem::ItemsChanged(bool KindChanged)
     MenuChanged(true);
 }
 
-// What the items below say of themselves has changed with something that they share.
+// Something that the items below share has changed: their native entries are made anew.
 void TMenuItem::SubtreeChanged()
 {
     const auto Mark = [](auto& Self, TMenuItem* Item) -> void {
@@ -185,10 +185,10 @@ void TMenuItem::FreeNative()
 intptr_t TMenuItem::MenuChar(wchar_t Letter)
 {
     const TMenu* Menu = GetParentMenu();
-    int First = -1;  // with this letter
-    int Behind = -1; // the selected item
+    int First = -1;  // item with this letter
+    int Behind = -1; // the first one after the selected item
     int Hits = 0;
-    bool IsEnabled = true; // the first
+    bool IsEnabled = true; // of the first
     bool SelectedAbove = false;
     for (int I = 0; I < GetMenuItemCount(FHandle); ++I) {
         const TMenuItem* Item = Menu ? Menu->FindItem(EntryCommand(FHandle, I), fkCommand) : nullptr;

@@ -49,7 +49,7 @@ bool TPopupList::CallListeners(TMessage& Message)
 {
     for (size_t I = FListeners.size(); I-- > 0;) {
         if (I >= FListeners.size())
-            continue; // Some left the list while others were called.
+            continue; // Listeners were removed while others were called.
         const TWindowHook Listener = FListeners[I];
         if (Listener(Message))
             return true;
@@ -67,7 +67,7 @@ void TPopupList::WndProc(TMessage& Message)
 bool TPopupList::MenuMessage(TMessage& Message)
 {
     switch (Message.Msg) {
-    // A handler may delete menus: nothing is done behind one.
+    // A handler may delete menus, so nothing is used after one was called.
     case WM_COMMAND:
         if (TPopupMenu* Menu = MenuWith(static_cast<uintptr_t>(Message.WParamLo()), fkCommand))
             return Menu->DispatchCommand(static_cast<uint16_t>(Message.WParamLo()));
@@ -85,7 +85,7 @@ bool TPopupList::MenuMessage(TMessage& Message)
         return false;
     }
     default:
-        // A handler may delete menus: nothing is done behind one that has answered.
+        // A handler may delete menus, so nothing is used after one was called.
         for (size_t I = 0; I < FMenus.size(); ++I)
             if (FMenus[I]->DispatchDrawing(Message))
                 return true;

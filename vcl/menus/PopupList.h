@@ -12,7 +12,7 @@ class TPopupList : public TObject {
 public:
     static TPopupList& Get();
 
-    // Made when first asked for; it goes with the last popup menu.
+    // Made when first asked for, and destroyed with the last popup menu.
     HWND GetWindow();
     PROPERTY_READ(HWND, Window);
 
@@ -41,5 +41,5 @@ private:
     std::vector<TWindowHook> FListeners;
 };
 
-// The one list.
+// The only instance.
 inline TPopupList* const PopupList = &TPopupList::Get();
