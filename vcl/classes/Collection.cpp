@@ -1,5 +1,6 @@
 #include "vcl/classes/Collection.h"
 
+#include "vcl/classes/ListIndex.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <algorithm>
@@ -102,8 +103,7 @@ TCollection::~TCollection()
 
 TCollectionItem* TCollection::GetItems(int Index) const
 {
-    if (Index < 0 || Index >= GetCount())
-        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    CheckListIndex(Index, GetCount());
     return FItems[static_cast<size_t>(Index)];
 }
 

@@ -1,6 +1,7 @@
 #include "vcl/classes/Component.h"
 
 #include "vcl/classes/Filer.h"
+#include "vcl/classes/ListIndex.h"
 #include "vcl/classes/NameTable.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/Writer.h"
@@ -96,8 +97,7 @@ void TComponent::SetReference(bool Enable)
 
 TComponent* TComponent::GetComponents(int Index) const
 {
-    if (Index < 0 || Index >= GetComponentCount())
-        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    CheckListIndex(Index, GetComponentCount());
     return (*FComponents)[Index];
 }
 

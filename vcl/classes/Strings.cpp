@@ -1,6 +1,7 @@
 #include "vcl/classes/Strings.h"
 
 #include "vcl/classes/FileStream.h"
+#include "vcl/classes/ListIndex.h"
 #include "vcl/classes/Reader.h"
 #include "vcl/classes/Writer.h"
 #include "vcl/system/ClassBuilder.h"
@@ -36,8 +37,7 @@ void TStrings::Describe(TClassBuilder<TStrings>&)
 
 void TStrings::CheckIndex(int Index) const
 {
-    if (Index < 0 || Index >= GetCount())
-        throw EStringListError("List index out of bounds (" + std::to_string(Index) + ")");
+    CheckListIndex<EStringListError>(Index, GetCount());
 }
 
 void TStrings::CheckInsertIndex(int Index) const

@@ -1,9 +1,9 @@
 #include "vcl/extctrls/CustomRadioGroup.h"
 
+#include "vcl/classes/ListIndex.h"
 #include "vcl/stdctrls/RadioButton.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
-#include "vcl/system/Format.h"
 #include "vcl/system/Scope.h"
 
 // One of the group's buttons: it belongs to the group and is no part of the form file.
@@ -142,8 +142,7 @@ void TCustomRadioGroup::ButtonClick(TObject* Sender)
 
 TRadioButton* TCustomRadioGroup::GetButtons(int Index) const
 {
-    if (Index < 0 || Index >= static_cast<int>(FButtons.size()))
-        throw EListError(Format("List index out of bounds (%d)", Index));
+    CheckListIndex(Index, static_cast<int>(FButtons.size()));
     return FButtons[static_cast<size_t>(Index)];
 }
 

@@ -1,4 +1,5 @@
 // MDI: what forms with the styles fsMDIForm and fsMDIChild do beyond others.
+#include "vcl/classes/ListIndex.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/MdiFrame.h"
@@ -118,8 +119,7 @@ int TCustomForm::GetMDIChildCount() const
 TForm* TCustomForm::GetMDIChildren(int Index) const
 {
     const std::vector<TForm*> Children = FMdiFrame ? FMdiFrame->Children() : std::vector<TForm*>();
-    if (Index < 0 || static_cast<size_t>(Index) >= Children.size())
-        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    CheckListIndex(Index, static_cast<int>(Children.size()));
     return Children[static_cast<size_t>(Index)];
 }
 

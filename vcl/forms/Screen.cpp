@@ -1,6 +1,7 @@
 #include "vcl/forms/Screen.h"
 
 #include "vcl/classes/FixupList.h"
+#include "vcl/classes/ListIndex.h"
 #include "vcl/classes/StringList.h"
 #include "vcl/forms/CursorResource.h"
 #include "vcl/forms/CustomForm.h"
@@ -18,8 +19,7 @@ namespace {
 template <class T>
 T* At(const std::vector<T*>& List, int Index)
 {
-    if (Index < 0 || Index >= static_cast<int>(List.size()))
-        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    CheckListIndex(Index, static_cast<int>(List.size()));
     return List[static_cast<size_t>(Index)];
 }
 

@@ -1,9 +1,9 @@
 #include "vcl/stdctrls/CustomListBox.h"
 
+#include "vcl/classes/ListIndex.h"
 #include "vcl/stdctrls/OwnerDraw.h"
 #include "vcl/stdctrls/TextMeasure.h"
 #include "vcl/system/ClassBuilder.h"
-#include "vcl/system/Format.h"
 
 void TCustomListBox::Describe(TClassBuilder<TCustomListBox>& Class)
 {
@@ -181,8 +181,7 @@ void TCustomListBox::CNMeasureItem(TMessage& Message)
 
 void TCustomListBox::CheckItem(int Index) const
 {
-    if (Index < 0 || Index >= FItems.Count)
-        throw EListError(Format("List index out of bounds (%d)", Index));
+    CheckListIndex(Index, FItems.Count);
 }
 
 void TCustomListBox::SetCount(int Value)
