@@ -5,20 +5,16 @@
 
 #include <memory>
 
-// A memory context with a 32-bit bitmap in it.
+// A memory context with a bitmap in the screen's format. It is no DIB section, whose pixels belong to the program:
+// where the system scales a program for a screen of high resolution, it can only stretch those.
 class TPaintBuffer::TSurface {
 public:
     TSurface(int AWidth, int AHeight) : Width(AWidth), Height(AHeight)
     {
-        BITMAPINFO Info{};
-        Info.bmiHeader.biSize = sizeof Info.bmiHeader;
-        Info.bmiHeader.biWidth = Width;
-        Info.bmiHeader.biHeight = -Height;
-        Info.bmiHeader.biPlanes = 1;
-        Info.bmiHeader.biBitCount = 32;
-        void* Bits = nullptr;
-        DC = CreateCompatibleDC(nullptr);
-        Bitmap = CreateDIBSection(nullptr, &Info, DIB_RGB_COLORS, &Bits, nullptr, 0);
+        HDC Screen = GetDC(nullptr);
+        DC = CreateCompatibleDC(Screen);
+        Bitmap = CreateCompatibleBitmap(Screen, Width, Height);
+        ReleaseDC(nullptr, Screen);
         if (!DC || !Bitmap)
             throw EOSError("Out of system resources");
         Before = static_cast<HBITMAP>(SelectObject(DC, Bitmap));
