@@ -93,7 +93,7 @@ void TCustomLabeledEdit::SetBounds(int ALeft, int ATop, int AWidth, int AHeight)
     PlaceLabel();
 }
 
-// In the designer the label is called as the edit is, until it gets a caption of its own.
+// In the designer the label's caption is the edit's name until it gets a caption of its own.
 void TCustomLabeledEdit::SetName(const AnsiString& Value)
 {
     bool Follows =

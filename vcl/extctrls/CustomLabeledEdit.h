@@ -6,7 +6,7 @@
 
 VCL_ENUM(TLabelPosition, lpAbove, lpBelow, lpLeft, lpRight);
 
-// The label of a labeled edit: a part of it, that stands where the edit puts it.
+// The label of a labeled edit. It belongs to the edit, which decides where it lies.
 class TBoundLabel : public TCustomLabel {
     VCL_CLASS(TBoundLabel, TCustomLabel)
 public:

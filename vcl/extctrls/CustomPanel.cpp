@@ -39,7 +39,7 @@ void TCustomPanel::CreateParams(TCreateParams& Params)
         else
             Params.Style |= WS_BORDER;
     }
-    // Resize invalidates what a change of size really changes.
+    // The system is not to repaint all of it after a change of size: Resize invalidates what changed.
     Params.WindowClass.style &= ~(CS_HREDRAW | CS_VREDRAW);
 }
 

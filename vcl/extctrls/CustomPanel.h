@@ -36,7 +36,7 @@ public:
     PROPERTY(TBorderStyle, BorderStyle);
     // A change of size draws the whole panel again, not only what it uncovers.
     bool FullRepaint = true;
-    // The panel is no tool bar of a container that it is active in.
+    // The panel is not merged as a tool bar into the window of an in-place container.
     bool Locked = false;
     // Kept for form files: panels are drawn without themes.
     bool ParentBackground = true;

@@ -47,7 +47,7 @@ TRect TImage::DestRect() const
     int AvailableHeight = ClientHeight;
     bool Fits = W <= AvailableWidth && H <= AvailableHeight;
     if (FProportional && (FStretch || !Fits) && W > 0 && H > 0) {
-        // The side that is short of room decides.
+        // The direction in which there is less room decides the scale.
         bool ByWidth = int64_t{AvailableWidth} * H <= int64_t{AvailableHeight} * W;
         int ScaledWidth = ByWidth ? AvailableWidth : MulDiv(W, AvailableHeight, H);
         H = ByWidth ? MulDiv(H, AvailableWidth, W) : AvailableHeight;
@@ -93,7 +93,7 @@ void TImage::PictureChanged(TObject*)
     Invalidate();
 }
 
-// Icons and metafiles have their background left out by nature.
+// Icons and metafiles are always transparent.
 void TImage::ApplyTransparent()
 {
     TGraphic* Graphic = FPicture.Graphic;

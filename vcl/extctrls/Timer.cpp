@@ -14,8 +14,8 @@ void TTimer::Describe(TClassBuilder<TTimer>& Class)
     Class.Property<&Self::GetOnTimer, &Self::SetOnTimer>("OnTimer");
 }
 
-// The hidden window that all running timers share; a timer's number is its address. It is there as long as a timer
-// runs.
+// The hidden window that all running timers share; the system's number of a timer is the object's address. The window
+// exists while any timer runs.
 class TTimerWindow {
 public:
     static void Start(TTimer* Timer, unsigned Interval)

@@ -18,7 +18,7 @@ protected:
     // While true, the window's notifications of clicks are not passed on.
     bool ClicksDisabled = false;
 
-    // The window's style bits below BS_TYPEMASK and the like; nothing without a window.
+    // Sets the window's style of the BS_ constants; does nothing without a window.
     void SendStyle(unsigned Style);
     void WndProc(TMessage& Message) override;
 };

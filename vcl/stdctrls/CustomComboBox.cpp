@@ -86,7 +86,7 @@ void TCustomComboBox::CreateWnd()
     if (IsList() && FKeptIndex < 0)
         FKeptIndex = FItems.IndexOf(Kept);
     SetItemIndex(FKeptIndex);
-    // Choosing an item puts its text into the edit; what stood there stays.
+    // Choosing an item has put its text into the edit; the text that was there comes back.
     if (!IsList())
         SetWindowTextW(Handle, TWideText(Kept).c_str());
 }
@@ -116,8 +116,8 @@ LRESULT CALLBACK TCustomComboBox::EditProcedure(HWND Edit, UINT Msg, WPARAM WPar
     return Done ? Message.Result : DefSubclassProc(Edit, Msg, WParam, LParam);
 }
 
-// Messages of the edit that are the control's own affair. True when all has been done; DefaultHandler gives the edit
-// what it is to get.
+// Messages of the edit window that the control handles itself. True when nothing is left to do; DefaultHandler passes
+// on to the edit what it should get.
 bool TCustomComboBox::ForEdit(TMessage& Message)
 {
     switch (Message.Msg) {
@@ -208,7 +208,7 @@ void TCustomComboBox::CMEnter(TMessage& Message)
     Inherited(Message);
 }
 
-// Enter and Escape close the list before they mean anything to the form.
+// While the list is down, Enter and Escape close it and do not reach the form's buttons.
 void TCustomComboBox::CMWantSpecialKey(TMessage& Message)
 {
     Inherited(Message);
@@ -246,7 +246,7 @@ void TCustomComboBox::CompleteText()
     SendMessageW(Handle, CB_SETEDITSEL, 0, MAKELPARAM(Typed.size(), -1));
 }
 
-// True when the key belongs to a longer beginning; a letter alone is left to the system.
+// True when the key follows others that were typed just before; a single letter is left to the system.
 bool TCustomComboBox::FindTyped(char16_t Key)
 {
     const TWideString& Typed = FTypeAhead.Type(Key);
@@ -297,7 +297,7 @@ void TCustomComboBox::CNMeasureItem(TMessage& Message)
 
 // ---- for assistive technology
 
-// The text is the value; a name is for the label beside it to give.
+// Its text is its value, not its name; the name is the text of the label beside it.
 AnsiString TCustomComboBox::AccessibleName() const
 {
     return "";

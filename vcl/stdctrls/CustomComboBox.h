@@ -14,7 +14,7 @@ class TCustomComboBox : public TWinControl {
 public:
     explicit TCustomComboBox(TComponent* AOwner);
 
-    // Typing is completed to the first item that begins so.
+    // What is typed is completed to the first item that begins with it.
     bool AutoComplete = true;
     // Typing drops the list down.
     bool AutoDropDown = false;
@@ -56,7 +56,7 @@ public:
     void Clear();
     void SelectAll();
     bool Focused() const override;
-    // Of a list style: the chosen item's text. Setting it chooses the item of that text, when there is one.
+    // In the styles without an edit: the chosen item's text. Setting it chooses the item with that text, if any.
     AnsiString GetText() const override;
 
     // For drawing in OnDrawItem.
@@ -69,7 +69,7 @@ public:
     TNotifyEvent OnDropDown;
     // The user chose an item; OnClick comes before.
     TNotifyEvent OnSelect;
-    // For the styles that the application draws. The background has been chosen in the canvas, not drawn.
+    // For the styles that the application draws. The canvas has the item's colours; the background is not drawn yet.
     TDrawItemEvent OnDrawItem;
     TMeasureItemEvent OnMeasureItem;
 
@@ -110,12 +110,12 @@ private:
     TControlCanvas FCanvas;
     TTypeAhead FTypeAhead;
     HWND FEdit = nullptr;
-    int FKeptIndex = -1; // while there is no window
+    int FKeptIndex = -1; // the chosen item while there is no window
     int FItemHeight = 16;
     int FMaxLength = 0;
     TComboBoxStyle FStyle = csDropDown;
     TEditCharCase FCharCase = ecNormal;
     bool FSorted = false;
     bool FTyping = false;
-    bool FFromEdit = false; // the message that is handled came to the edit window
+    bool FFromEdit = false; // the message that is being handled was sent to the edit window
 };

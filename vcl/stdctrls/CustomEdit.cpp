@@ -98,7 +98,7 @@ void TCustomEdit::CNCommand(TWMCommand& Message)
         Change();
 }
 
-// The system tells of a text that was set only when the control has one line.
+// When a text is set, the system notifies controls with one line only.
 void TCustomEdit::CMTextChanged(TMessage& Message)
 {
     Inherited(Message);
@@ -353,7 +353,7 @@ void TCustomEdit::Undo()
 
 // ---- for assistive technology
 
-// The text is the value; a name is for the label beside it to give.
+// Its text is its value, not its name; the name is the text of the label beside it.
 AnsiString TCustomEdit::AccessibleName() const
 {
     return "";

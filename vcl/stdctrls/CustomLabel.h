@@ -1,12 +1,12 @@
-// TCustomLabel: text on a form, which can belong to another control.
+// TCustomLabel: a text on a form, often that of another control beside it.
 #pragma once
 
 #include "vcl/classes/ComponentRef.h"
 #include "vcl/controls/GraphicControl.h"
 #include "vcl/stdctrls/StdTypes.h"
 
-// Draws its caption, in one line or wrapped. What makes it special beside that: with AutoSize it is as large as its
-// text, and its accelerator leads to FocusControl.
+// Draws its caption, in one line or wrapped. With AutoSize it is as large as its text. Its accelerator key gives the
+// focus to FocusControl.
 class TCustomLabel : public TGraphicControl {
     VCL_CLASS(TCustomLabel, TGraphicControl)
 public:

@@ -100,7 +100,7 @@ public:
     TCanvas* GetCanvas() { return &FCanvas; }
     PROPERTY_READ(TCanvas*, Canvas);
 
-    // For the styles that the application draws. The background has been chosen in the canvas, not drawn.
+    // For the styles that the application draws. The canvas has the item's colours; the background is not drawn yet.
     TDrawItemEvent OnDrawItem;
     TMeasureItemEvent OnMeasureItem;
     // For virtual lists.
@@ -134,7 +134,7 @@ private:
     TListBoxItems FItems;
     TControlCanvas FCanvas;
     TTypeAhead FTypeAhead;
-    std::vector<int> FKeptSelection; // while there is no window
+    std::vector<int> FKeptSelection; // the selected items while there is no window
     int FKeptIndex = -1;
     int FKeptTop = 0;
     int FVirtualCount = 0;

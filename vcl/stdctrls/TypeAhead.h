@@ -10,7 +10,7 @@ public:
     // Takes a character as it is typed and returns what the wanted item begins with. Characters belong together that
     // come within half a second of each other.
     const TWideString& Type(char16_t Character);
-    // The character that did not lead to an item is forgotten.
+    // Forgets the last character, which did not lead to an item.
     void Drop() { FTyped.pop_back(); }
 
 private:

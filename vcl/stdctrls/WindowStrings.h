@@ -45,7 +45,7 @@ public:
     void Delete(int Index) override;
     void Clear() override;
 
-    // The window was created, and takes the items; it is about to go, and gives them back.
+    // Called when the window has been created: it gets the items. And before it is destroyed: they are kept here.
     void MoveToWindow();
     void MoveFromWindow();
     // Sorts what is kept while there is no window; a window sorts by its style.
