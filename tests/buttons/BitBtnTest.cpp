@@ -158,4 +158,9 @@ TEST_F(BitBtnTest, HelpAsksTheForm)
     };
     Button->Click();
     EXPECT_EQ(Asked, 42);
+    // A button without a context has its parent's.
+    Button->HelpContext = 0;
+    Form->HelpContext = 7;
+    Button->Click();
+    EXPECT_EQ(Asked, 7);
 }

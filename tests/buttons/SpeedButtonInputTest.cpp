@@ -80,6 +80,21 @@ TEST_F(SpeedButtonInputTest, OneOfAGroupIsLatched)
     EXPECT_TRUE(B->Down);
 }
 
+TEST_F(SpeedButtonInputTest, AButtonThatIsDraggedIsNotFramedUnderThePointer)
+{
+    TSpeedButton* A = AddButton(10);
+    TSpeedButton* B = AddButton(80);
+    A->Flat = true;
+    B->Flat = true;
+    A->DragMode = dmAutomatic;
+    Show();
+    MovePointerTo(A, 5, 5);
+    MovePointerTo(A, 6, 6);
+    EXPECT_EQ(Corner(A), Shown(Form->Color));
+    MovePointerTo(B, 5, 5);
+    EXPECT_TRUE(PumpUntil([&] { return Corner(B) == Shown(clBtnHighlight); }));
+}
+
 TEST_F(SpeedButtonInputTest, ItsAcceleratorClicksItUnlessItIsDisabledOrHidden)
 {
     TSpeedButton* A = AddButton(10, "&Go");

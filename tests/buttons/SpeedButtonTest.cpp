@@ -405,3 +405,38 @@ TEST(ButtonFaceTest, DrawsAPushButtonAndTellsWhatIsInside)
     EXPECT_TRUE(SamePixels(Image, Expected));
     EXPECT_EQ(Inside, TRect(R));
 }
+
+TEST_F(SpeedButtonTest, ALatchedButtonLooksTheSameWhileItIsPressed)
+{
+    TSpeedButton* Button = Add(1);
+    Button->Down = true;
+    const TPixelImage Latched = PaintToBitmap(Button);
+    Press(Button);
+    EXPECT_TRUE(SamePixels(PaintToBitmap(Button), Latched));
+    Button->Perform(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(6, 6));
+    EXPECT_TRUE(SamePixels(PaintToBitmap(Button), Latched));
+    Release(Button, -5, -5);
+    EXPECT_TRUE(SamePixels(PaintToBitmap(Button), Latched));
+}
+
+TEST_F(SpeedButtonTest, AButtonOfAGroupThatIsReleasedOutsideComesUp)
+{
+    TSpeedButton* Button = Add(1);
+    const TPixelImage Up = PaintToBitmap(Button);
+    Press(Button);
+    EXPECT_FALSE(SamePixels(PaintToBitmap(Button), Up));
+    Release(Button, -5, -5);
+    EXPECT_FALSE(Button->Down);
+    EXPECT_TRUE(SamePixels(PaintToBitmap(Button), Up));
+}
+
+TEST_F(SpeedButtonTest, ADownButtonThatJoinsAGroupReleasesTheOther)
+{
+    TSpeedButton* A = Add(1);
+    TSpeedButton* B = Add(2);
+    A->Down = true;
+    B->Down = true;
+    B->GroupIndex = 1;
+    EXPECT_TRUE(B->Down);
+    EXPECT_FALSE(A->Down);
+}

@@ -118,6 +118,16 @@ TEST_F(CustomMenuTest, ChosenItemsAreClickedOnce)
     }
 }
 
+TEST_F(CustomMenuTest, WhatAControlTellsIsNoCommand)
+{
+    auto* List = new TListBox(Form.get());
+    List->Parent = Form.get();
+    SendMessageW(Form->Handle, WM_COMMAND, Open->Command, reinterpret_cast<LPARAM>(List->Handle));
+    EXPECT_TRUE(Clicked.empty());
+    SendMessageW(Form->Handle, WM_COMMAND, Open->Command, 0);
+    EXPECT_THAT(Clicked, ElementsAre("&Open"));
+}
+
 TEST_F(CustomMenuTest, FormFilesSwitchTheItemsWhenTheyAreRead)
 {
     TForm Owner(nullptr);

@@ -263,6 +263,9 @@ TEST_F(CustomPopupMenuTest, ProcessAccelFindsTheFirstEnabledItemOfTheOpenSubmenu
     EXPECT_EQ(Ask('s', Menu->Items), 1);
     EXPECT_EQ(Ask('M', Menu->Items), 3);
     EXPECT_EQ(Ask('s', More), 0);
+    DeepA->Visible = false;
+    EXPECT_EQ(Ask('s', More), 1);
+    DeepA->Visible = true;
     DeepA->Enabled = false;
     EXPECT_EQ(Ask('s', More), 1);
     EXPECT_EQ(Ask('x', More), -1);

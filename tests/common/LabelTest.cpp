@@ -76,6 +76,15 @@ TEST_F(LabelTest, DisabledTextIsGreyAndKeepsItsStyle)
     EXPECT_TRUE(SamePixels(PaintToBitmap(Label), Passes({{0, clGrayText}})));
 }
 
+TEST_F(LabelTest, TextIsReadFromTheRightWhenBiDiModeSaysSo)
+{
+    Label->TextStyle = tsNone;
+    Label->Caption = "abc!";
+    Label->BiDiMode = bdRightToLeftReadingOnly;
+    EXPECT_TRUE(SamePixels(PaintToBitmap(Label), Passes({{0, Label->Font->Color}}, "abc!", DT_RTLREADING)));
+    EXPECT_FALSE(SamePixels(PaintToBitmap(Label), Passes({{0, Label->Font->Color}}, "abc!")));
+}
+
 TEST_F(LabelTest, WithoutAccelCharTheAmpersandIsDrawn)
 {
     Label->TextStyle = tsNone;

@@ -107,6 +107,19 @@ TEST_F(ImageTest, AutoSizeFollowsThePicture)
     EXPECT_EQ(Image->BoundsRect, TRect(0, 0, 4, 2));
 }
 
+TEST_F(ImageTest, AnAlignedImageFollowsThePictureInTheOtherDirection)
+{
+    Image->AutoSize = true;
+    Image->Align = alLeft;
+    SetPicture();
+    EXPECT_EQ(Image->Width, 4);
+    EXPECT_EQ(Image->Height, Window.ClientHeight);
+    Image->Align = alTop;
+    SetPicture();
+    EXPECT_EQ(Image->Height, 2);
+    EXPECT_EQ(Image->Width, Window.ClientWidth);
+}
+
 TEST_F(ImageTest, IsOpaqueWhenThePictureCoversIt)
 {
     SetPicture();

@@ -35,7 +35,7 @@ TEST_F(LabeledEditTest, TheLabelStandsBesideTheEdit)
     EXPECT_EQ(Label->BoundsRect.Right, 95);
     Edit->LabelPosition = lpRight;
     Edit->Left = 120;
-    EXPECT_EQ(Label->Left, 205);
+    EXPECT_EQ(Label->BoundsRect.TopLeft(), TPoint(205, 100 + (Edit->Height - Label->Height) / 2));
 }
 
 TEST_F(LabeledEditTest, TheLabelFollowsTheEdit)

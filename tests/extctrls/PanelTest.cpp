@@ -155,3 +155,19 @@ TEST_F(PanelTest, WithoutFullRepaintOnlyMovedEdgesAreDrawnAgain)
     GetUpdateRect(Panel->Handle, &Dirty, FALSE);
     EXPECT_EQ(Dirty, TRect(0, 0, 85, 40));
 }
+
+TEST_F(PanelTest, WithACaptionAllOfItIsPaintedAfterAChangeOfSize)
+{
+    Panel->FullRepaint = false;
+    Window.ShowNow();
+    const auto InvalidAfter = [&](int Width) {
+        UpdateWindow(Panel->Handle);
+        Panel->Width = Width;
+        TRect Invalid;
+        GetUpdateRect(Panel->Handle, &Invalid, FALSE);
+        return Invalid;
+    };
+    EXPECT_EQ(InvalidAfter(90), TRect(79, 0, 90, 40));
+    Panel->Caption = "Text";
+    EXPECT_EQ(InvalidAfter(100), TRect(0, 0, 100, 40));
+}

@@ -82,6 +82,36 @@ TEST_F(RadioGroupTest, ButtonsGoDownEachColumn)
     EXPECT_EQ(Group->Columns, 16);
 }
 
+TEST_F(RadioGroupTest, DeletingTheChosenItemChoosesTheLast)
+{
+    Fill(3);
+    Group->ItemIndex = 2;
+    Group->Items->Delete(2);
+    EXPECT_EQ(Group->ItemIndex, 1);
+    EXPECT_TRUE(Group->Buttons[1]->Checked);
+    Group->Items->Clear();
+    EXPECT_EQ(Group->ItemIndex, -1);
+}
+
+TEST_F(RadioGroupTest, WhatRowsLeaveIsHalfAboveAndHalfBelow)
+{
+    Fill(3);
+    const int Title = LineHeight(Group->Font);
+    Group->Height = Title + 5 + 3 * 20 + 2;
+    EXPECT_EQ(Group->Buttons[0]->Top, Title + 1 + 1);
+    EXPECT_EQ(Group->Buttons[2]->BoundsRect.Bottom, Title + 1 + 1 + 60);
+}
+
+TEST_F(RadioGroupTest, ColumnsBeginAtTheRightWhenReadingDoes)
+{
+    Fill(3);
+    Group->Columns = 2;
+    Group->BiDiMode = bdRightToLeft;
+    Group->Width = 150;
+    EXPECT_EQ(Group->Buttons[0]->Left, 8 + 70);
+    EXPECT_EQ(Group->Buttons[2]->Left, 8);
+}
+
 TEST_F(RadioGroupTest, DisablingTakesItsButtonsAlong)
 {
     Fill(2);

@@ -307,3 +307,11 @@ TEST_F(RegIniFileTest, DeleteKeyDeletesOneValue)
     EXPECT_EQ(Probe.Type("", "A"), REG_SZ);
     EXPECT_FALSE(Probe.HasKey("None"));
 }
+
+TEST_F(RegIniFileTest, AValueThatMayNotBeDeletedRaises)
+{
+    TRegIniFile(Probe.Path()).WriteString("", "Value", "x");
+    TRegIniFile ReadOnly(Probe.Path(), KEY_READ);
+    EXPECT_THAT(MessageOf([&] { ReadOnly.DeleteKey("", "Value"); }), HasSubstr("Failed to delete data for 'Value'"));
+    EXPECT_EQ(ReadOnly.ReadString("", "Value", ""), "x");
+}

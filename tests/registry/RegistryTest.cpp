@@ -192,3 +192,40 @@ TEST_F(RegistryTest, BytesThatDoNotFitLeaveTheBufferAlone)
     EXPECT_THAT(Buffer, testing::ElementsAre(9, 9));
     EXPECT_THROW(Registry.WriteBinaryData("Bytes", Buffer, -1), ERegistryException);
 }
+
+TEST_F(RegistryTest, TheSameRootAgainLeavesTheKeyOpen)
+{
+    ASSERT_TRUE(Registry.OpenKey(Probe.Path(), true));
+    Registry.RootKey = HKEY_CURRENT_USER;
+    EXPECT_EQ(Registry.CurrentPath, Probe.Path());
+    EXPECT_NE(Registry.CurrentKey, nullptr);
+}
+
+TEST_F(RegistryTest, OpeningReadOnlyStaysSoForLaterKeys)
+{
+    ASSERT_TRUE(Registry.OpenKey(Probe.Path() + "\\Inner", true));
+    ASSERT_TRUE(Registry.OpenKeyReadOnly("\\" + Probe.Path()));
+    EXPECT_EQ(Registry.Access, unsigned{KEY_READ});
+    ASSERT_TRUE(Registry.OpenKey("Inner", false));
+    EXPECT_THROW(Registry.WriteInteger("Value", 1), ERegistryException);
+}
+
+TEST_F(RegistryTest, BytesMayFillTheBufferToItsEnd)
+{
+    ASSERT_TRUE(Registry.OpenKey(Probe.Path(), true));
+    Registry.WriteBinaryData("Bytes", "abcd", 4);
+    char Buffer[4] = {};
+    EXPECT_EQ(Registry.ReadBinaryData("Bytes", Buffer, 4), 4);
+    EXPECT_EQ(std::string(Buffer, 4), "abcd");
+}
+
+TEST_F(RegistryTest, MessagesEndWithoutALineBreak)
+{
+    ASSERT_TRUE(Registry.OpenKey(Probe.Path(), true));
+    try {
+        Registry.ReadInteger("None");
+        FAIL() << "nothing raised";
+    } catch (const ERegistryException& E) {
+        EXPECT_GT(E.Message.back(), ' ') << E.Message;
+    }
+}
