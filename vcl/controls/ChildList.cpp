@@ -1,5 +1,6 @@
 #include "vcl/controls/ChildList.h"
 
+#include "vcl/classes/ListIndex.h"
 #include "vcl/controls/WinControl.h"
 
 #include <algorithm>
@@ -26,8 +27,7 @@ void Put(std::vector<T*>& List, T* Item, int Place)
 
 TControl* TChildList::At(int Index) const
 {
-    if (Index < 0 || Index >= Count())
-        throw EListError("List index out of bounds (" + std::to_string(Index) + ")");
+    CheckListIndex(Index, Count());
     const auto Place = static_cast<size_t>(Index);
     if (Place < FGraphics.size())
         return FGraphics[Place];
