@@ -234,7 +234,7 @@ void TApplication::MainFormResized(bool Minimized)
     if (FMinimized == Minimized)
         return;
     FMinimized = Minimized;
-    // The other forms come and go with it.
+    // The other forms are hidden and shown with it.
     ShowOwnedPopups(Handle, !Minimized);
     (Minimized ? OnMinimize : OnRestore)(this);
 }

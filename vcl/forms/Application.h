@@ -2,15 +2,13 @@
 //
 //     int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int)
 //     {
-//         try {
-//             Application->Initialize();
-//             Application->CreateForm<TForm1>(&Form1);
-//             Application->Run();
-//         } catch (Exception& E) {
-//             Application->ShowException(&E);
-//         }
+//         Application->Initialize();
+//         Application->CreateForm(&Form1);
+//         Application->Run();
 //         return 0;
 //     }
+//
+// What nobody catches is shown, and the program ends with the exit status 1 (vcl/system/ShowError.h).
 #pragma once
 
 #include "vcl/classes/ComponentRef.h"
@@ -157,6 +155,7 @@ private:
     friend class TDataModule;
     friend class TFormFocus;
     friend class THintController;
+    friend class TMdiChildPart;
 
     using TAssignForm = TEvent<void(TComponent* Form)>;
     // What CreateForm is making now.

@@ -1,4 +1,4 @@
-// What the controls and menus rooms ask of the application.
+// What the rooms controls and menus need of the application.
 #pragma once
 
 #include "vcl/controls/FormHost.h"

@@ -14,7 +14,7 @@
 
 void TApplication::Run()
 {
-    // The forms go before the program's own static objects do, which their handlers may use.
+    // The forms are deleted before the program's static objects, which their handlers may use.
     static const bool Registered = std::atexit([] {
                                        if (Application)
                                            Application->DestroyComponents();
@@ -64,7 +64,7 @@ bool TApplication::ProcessMessage()
         return false;
     if (Msg.message == WM_QUIT) {
         FTerminated = true;
-        // Outer loops end by the flag.
+        // Outer message loops look at FTerminated.
         return false;
     }
     ++FLoopLevel;
@@ -154,7 +154,7 @@ void TApplication::ReleaseLater(TCustomForm* Form)
     PostMessageW(Handle, WM_NULL, 0, 0);
 }
 
-// The message at this level has been handled: no handler that asked for a release in it, or deeper, runs any more.
+// The message at this level has been handled: no handler that has called Release at it, or deeper, is running any more.
 void TApplication::FreeReleased(int Level)
 {
     for (size_t I = 0; I < FReleased.size();) {

@@ -71,7 +71,7 @@ bool TControlScrollBar::IsScrollBarVisible() const
 
 void TControlScrollBar::SetPosition(int Value)
 {
-    // Before there is a window there is nothing to scroll; the place counts when there is.
+    // Without a window nothing is scrolled; the position counts once there is one.
     if (!FControl->HandleAllocated()) {
         FPosition = std::max(Value, 0);
         return;

@@ -19,7 +19,9 @@ void TCustomForm::Describe(TClassBuilder<TCustomForm>& Class)
     Class.Declare<&Self::GetActiveControl, &Self::SetActiveControl>("ActiveControl");
     Class.Declare<&Self::GetAlphaBlend, &Self::SetAlphaBlend>("AlphaBlend").Default(false);
     Class.Declare<&Self::GetAlphaBlendValue, &Self::SetAlphaBlendValue>("AlphaBlendValue").Default(255);
-    Class.Declare<&Self::GetAutoScroll, &Self::SetAutoScroll>("AutoScroll").Stored<&Self::IsAutoScrollStored>();
+    Class.Declare<&Self::GetAutoScroll, &Self::SetAutoScroll>("AutoScroll")
+        .Stored<&Self::IsAutoScrollStored>()
+        .ReadLast();
     Class.Declare<&Self::GetBorderIcons, &Self::SetBorderIcons>("BorderIcons")
         .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize});
     Class.Declare<&Self::GetBorderStyle, &Self::SetBorderStyle>("BorderStyle").Default(bsSizeable);
@@ -107,11 +109,9 @@ TCustomForm::~TCustomForm()
 {
     FIcon.OnChange = nullptr;
     // Menus that belong to others outlive the window.
-    if (FMenu) {
-        if (Application)
-            MergeMenu(false);
-        FMenu->WindowHandle = nullptr;
-    }
+    if (Application)
+        FMenu.Merge(false);
+    FMenu.LeaveWindow();
     if (Application)
         Application->Forget(this);
     if (Screen)
@@ -122,7 +122,8 @@ void TCustomForm::BeforeDestruction()
 {
     SetState(csDestroying, true);
     DoDestroy();
-    DestroyMdiChildren();
+    while (TForm* Child = FMdiFrame ? FMdiFrame->LowestChild() : nullptr)
+        delete Child;
     // Without a window, deleting the controls one by one moves and paints nothing.
     if (Active && !Application->Terminated)
         ActivateNext();
@@ -168,7 +169,7 @@ void TCustomForm::SetFocus()
         return;
     if (!Visible || !Enabled)
         throw EInvalidOperation("Cannot focus a disabled or invisible window");
-    FocusInMdiChild();
+    FMdiChild.Focused();
     FFocus.SetWindowFocus();
 }
 
@@ -220,7 +221,7 @@ bool TCustomForm::IsShortCut(TWMKey& Message)
     const TStillThere IsHere(this);
     bool Handled = false;
     OnShortCut(Message, Handled);
-    return !IsHere || Handled || (FMenu && FMenu->IsShortCut(KeyMessageToShortCut(Message)));
+    return !IsHere || Handled || (Menu && Menu->IsShortCut(KeyMessageToShortCut(Message)));
 }
 
 void TCustomForm::CMDialogKey(TCMDialogKey& Message)
@@ -255,8 +256,8 @@ void TCustomForm::CMActivate(TMessage&)
     if (FFormState.Contains(fsActivated))
         return;
     FFormState << fsActivated;
-    UpdateMenu();
-    MergeMenu(true);
+    FMenu.Update();
+    FMenu.Merge(true);
     Activate();
 }
 

@@ -9,10 +9,13 @@
 #include "vcl/controls/FormHost.h"
 #include "vcl/forms/DesignerHook.h"
 #include "vcl/forms/FormFocus.h"
+#include "vcl/forms/FormLayer.h"
+#include "vcl/forms/FormMenu.h"
 #include "vcl/forms/FormTypes.h"
+#include "vcl/forms/MdiChildPart.h"
+#include "vcl/forms/ReadClientSize.h"
 #include "vcl/forms/ScrollingWinControl.h"
 #include "vcl/graphics/Icon.h"
-#include "vcl/menus/MainMenu.h"
 
 #include <memory>
 
@@ -36,7 +39,7 @@ public:
     // Visible and in front of the other forms.
     void Show();
     // Shows the form and returns when ModalResult is set or the form is closed; the program's other windows are
-    // disabled for so long. Raises EInvalidOperation "Cannot make a visible window modal".
+    // disabled meanwhile. Raises EInvalidOperation "Cannot make a visible window modal".
     virtual TModalResult ShowModal();
     // Ends ShowModal when not mrNone.
     TModalResult ModalResult = mrNone;
@@ -46,8 +49,8 @@ public:
     virtual bool CloseQuery();
     // Deletes the form once the event handlers that are running now have returned, nested message loops or not.
     void Release();
-    // While the form is read, the change waits until OnCreate has been. Hiding an MDI child raises EInvalidOperation
-    // "Cannot hide an MDI Child Form".
+    // While the form is read, the change waits until OnCreate has been raised. Hiding an MDI child raises
+    // EInvalidOperation "Cannot hide an MDI Child Form".
     void SetVisible(bool Value) override;
     // Raises EInvalidOperation "Cannot focus a disabled or invisible window".
     void SetFocus() override;
@@ -78,19 +81,19 @@ public:
     void SetPosition(TPosition Value);
     PROPERTY(TPosition, Position);
     TDefaultMonitor DefaultMonitor = dmActiveForm;
-    bool GetAlphaBlend() const { return FAlphaBlend; }
-    void SetAlphaBlend(bool Value);
+    bool GetAlphaBlend() const { return FLayer.AlphaBlend; }
+    void SetAlphaBlend(bool Value) { FLayer.Set(&TFormLayer::AlphaBlend, Value); }
     PROPERTY(bool, AlphaBlend);
     // 0 is invisible, 255 opaque.
-    uint8_t GetAlphaBlendValue() const { return FAlphaBlendValue; }
-    void SetAlphaBlendValue(uint8_t Value);
+    uint8_t GetAlphaBlendValue() const { return FLayer.AlphaBlendValue; }
+    void SetAlphaBlendValue(uint8_t Value) { FLayer.Set(&TFormLayer::AlphaBlendValue, Value); }
     PROPERTY(uint8_t, AlphaBlendValue);
     // Pixels of TransparentColorValue let through what is behind, the mouse too.
-    bool GetTransparentColor() const { return FTransparentColor; }
-    void SetTransparentColor(bool Value);
+    bool GetTransparentColor() const { return FLayer.TransparentColor; }
+    void SetTransparentColor(bool Value) { FLayer.Set(&TFormLayer::TransparentColor, Value); }
     PROPERTY(bool, TransparentColor);
-    TColor GetTransparentColorValue() const { return FTransparentColorValue; }
-    void SetTransparentColorValue(TColor Value);
+    TColor GetTransparentColorValue() const { return FLayer.TransparentColorValue; }
+    void SetTransparentColorValue(TColor Value) { FLayer.Set(&TFormLayer::TransparentColorValue, Value); }
     PROPERTY(TColor, TransparentColorValue);
     // The application's when empty.
     TIcon* GetIcon() { return &FIcon; }
@@ -99,7 +102,7 @@ public:
     // What the window shows: Icon, the application's or the system's default. Not the caller's to destroy.
     HICON GetIconHandle();
     // Shown unless BorderStyle is bsDialog or bsNone or the form lies in another.
-    TMainMenu* GetMenu() const { return FMenu; }
+    TMainMenu* GetMenu() const { return FMenu.Get(); }
     void SetMenu(TMainMenu* Value);
     PROPERTY(TMainMenu*, Menu);
     // Without the frame, which is computed while there is no window.
@@ -226,6 +229,8 @@ protected:
 private:
     friend class TApplication;
     friend class TFormFocus;
+    friend class TFormMenu;
+    friend class TMdiChildPart;
     friend class TModalSession;
     friend void LoadForm(TCustomForm* Form);
 
@@ -252,19 +257,10 @@ private:
     void CMIconChanged(TMessage& Message);
     void CMShowingChanged(TMessage& Message);
 
-    bool IsMdiChild() const;
-    TMdiFrame* FrameOfChild() const;
-    static TCustomForm* NeedMdiParent();
     void ChangeMdiStyle(TFormStyle Value);
     void CreateMdiFrame();
     void DestroyMdiFrame();
-    void DestroyMdiChildren();
-    TForm* LowestMdiChild() const;
-    void BarChanged();
-    void MdiChildParams(TCreateParams& Params);
-    void PlaceMdiChild();
     bool PassFocusOn();
-    void FocusInMdiChild();
     TCloseAction DefaultCloseAction() const;
     TFormFrame Frame() const;
     void TopLevelParams(TCreateParams& Params);
@@ -274,14 +270,8 @@ private:
     void HideWindowNow();
     void ActivateNext();
     void PlaceForShowing();
-    TRect StartMonitor() const;
     void UpdateFrame();
-    void UpdateMenu();
-    void UpdateLayer();
     void UpdateIcon();
-    bool ShowsMenu() const;
-    bool MenuGoesToMainForm() const;
-    void MergeMenu(bool Merged);
     void IconChanged(TObject* Sender);
     int TextHeight();
     void ReadTextHeight(TReader* Reader);
@@ -289,9 +279,8 @@ private:
     void WritePixelsPerInch(TWriter* Writer);
     void ReadIgnoreFont(TReader* Reader);
 
-    void SetReadClientWidth(int Value);
-    void SetReadClientHeight(int Value);
-    void ApplyReadClientSize();
+    void SetReadClientWidth(int Value) { FReadSize.SetWidth(Value); }
+    void SetReadClientHeight(int Value) { FReadSize.SetHeight(Value); }
     bool IsAutoScrollStored() const;
     bool IsFormSizeStored() const;
     bool IsClientSizeStored() const { return !IsFormSizeStored(); }
@@ -299,26 +288,23 @@ private:
 
     TControlCanvas FCanvas;
     TFormFocus FFocus;
+    TFormLayer FLayer{this};
+    TReadClientSize FReadSize{this};
     TIcon FIcon;
     std::unique_ptr<TMdiFrame> FMdiFrame; // while a form with the style fsMDIForm has its window
-    TComponentRef<TMainMenu> FMenu;
+    TFormMenu FMenu{this};
+    TMdiChildPart FMdiChild{this};
     TComponentRef<TMenuItem> FWindowMenu;
     TComponentRef<TMenuItem> FObjectMenuItem;
     TDesignerHook* FDesigner = nullptr;
     TFormState FFormState;
     TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
-    TPoint FReadClientSize{-1, -1}; // as the form file says; -1: it does not
-    TPoint FSizeBefore;             // the outer size that goes by it; another one was set on purpose
-    int FReadTextHeight = 0;        // 0: not read
+    int FReadTextHeight = 0; // 0: not read
     int FBorderWidth = 0;
-    TColor FTransparentColorValue = clBlack;
     TFormBorderStyle FBorderStyle = bsSizeable;
     TFormStyle FFormStyle = fsNormal;
     TWindowState FWindowState = wsNormal;
     TPosition FPosition = poDesigned;
-    uint8_t FAlphaBlendValue = 255;
-    bool FAlphaBlend = false;
-    bool FTransparentColor = false;
     bool FPlaced = false; // has shown where Position says
 };
 

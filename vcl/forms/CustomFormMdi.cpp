@@ -8,34 +8,11 @@
 
 #include <algorithm>
 
-// The form is one, or will be when it has its window.
-bool TCustomForm::IsMdiChild() const
-{
-    return FFormStyle == fsMDIChild && !Parent && !ParentWindow && !IsDesigning();
-}
-
-// That a child's window lies in; nullptr without one.
-TMdiFrame* TCustomForm::FrameOfChild() const
-{
-    if (!FFormState.Contains(fsCreatedMDIChild) || !HandleAllocated())
-        return nullptr;
-    HWND Client = GetAncestor(const_cast<TCustomForm*>(this)->GetHandle(), GA_PARENT);
-    auto* Frame = As<TCustomForm>(FindControl(GetAncestor(Client, GA_PARENT)));
-    return Frame ? Frame->FMdiFrame.get() : nullptr;
-}
-
-TCustomForm* TCustomForm::NeedMdiParent()
-{
-    if (TCustomForm* Form = Application->MdiParent())
-        return Form;
-    throw EInvalidOperation("Cannot create form. No MDI forms are currently active");
-}
-
 void TCustomForm::ChangeMdiStyle(TFormStyle Value)
 {
     const bool Making = IsLoading() || FFormState.Contains(fsCreating);
     if (Value == fsMDIChild && !Parent && !Making)
-        NeedMdiParent();
+        TMdiChildPart::NeedMainForm();
     const bool HadWindow = HandleAllocated();
     DestroyHandle();
     FFormStyle = Value;
@@ -59,13 +36,13 @@ HWND TCustomForm::GetClientHandle() const
 void TCustomForm::CreateMdiFrame()
 {
     FMdiFrame = std::make_unique<TMdiFrame>(*this);
-    UpdateMenu();
+    FMenu.Update();
     Realign();
     if (Application->MdiParent() != this)
         return;
-    // Those that lost their windows with the one before.
+    // Children whose windows were destroyed together with the previous frame get new ones.
     for (int I = Screen->CustomFormCount; I-- > 0;)
-        if (TCustomForm* Form = Screen->CustomForms[I]; Form->IsMdiChild() && !Form->HandleAllocated())
+        if (TCustomForm* Form = Screen->CustomForms[I]; Form->FMdiChild.IsOne() && !Form->HandleAllocated())
             Form->UpdateControlState();
 }
 
@@ -73,30 +50,11 @@ void TCustomForm::DestroyMdiFrame()
 {
     if (!FMdiFrame)
         return;
-    if (FMenu)
-        FMenu->OnBarChange = nullptr;
-    while (TForm* Child = LowestMdiChild())
+    if (TMainMenu* Bar = Menu)
+        Bar->OnBarChange = nullptr;
+    for (TForm* Child; (Child = FMdiFrame->LowestChild());)
         static_cast<TCustomForm*>(Child)->DestroyHandle();
     FMdiFrame.reset();
-}
-
-void TCustomForm::DestroyMdiChildren()
-{
-    while (TForm* Child = LowestMdiChild())
-        delete Child;
-}
-
-// From the lowest on, none becomes active when another one goes.
-TForm* TCustomForm::LowestMdiChild() const
-{
-    const std::vector<TForm*> Children = FMdiFrame ? FMdiFrame->Children() : std::vector<TForm*>();
-    return Children.empty() ? nullptr : Children.back();
-}
-
-void TCustomForm::BarChanged()
-{
-    if (FMdiFrame)
-        FMdiFrame->UpdateMenu();
 }
 
 void TCustomForm::AlignControls(TControl* Control, TRect& Rect)
@@ -182,16 +140,10 @@ void TCustomForm::WMSysColorChange(TMessage& Message)
 
 // ---- children
 
-void TCustomForm::MdiChildParams(TCreateParams& Params)
-{
-    Params.WndParent = NeedMdiParent()->ClientHandle;
-    Params.ExStyle |= WS_EX_MDICHILD;
-}
-
 void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
 {
-    // Its first messages need the default procedure of children.
-    if (IsMdiChild())
+    // Even the first messages of the window need the default procedure of MDI children.
+    if (FMdiChild.IsOne())
         FFormState << fsCreatedMDIChild;
     TScopeExit Failed([this] { FFormState >> fsCreatedMDIChild; });
     TScrollingWinControl::CreateWindowHandle(Params);
@@ -200,7 +152,7 @@ void TCustomForm::CreateWindowHandle(const TCreateParams& Params)
 
 void TCustomForm::DestroyWindowHandle()
 {
-    if (TMdiFrame* Frame = FrameOfChild()) {
+    if (TMdiFrame* Frame = FMdiChild.Frame()) {
         SetControlFlag(csDestroyingHandle, true);
         // The form hears that it is no longer active.
         Frame->Destroy(Handle);
@@ -213,22 +165,8 @@ void TCustomForm::DestroyWindowHandle()
 
 void TCustomForm::SetZOrder(bool TopMost)
 {
-    TMdiFrame* Frame = FrameOfChild();
-    if (Frame && TopMost)
-        Frame->Activate(Handle);
-    else
+    if (!TopMost || !FMdiChild.Activate())
         TScrollingWinControl::SetZOrder(TopMost);
-}
-
-void TCustomForm::PlaceMdiChild()
-{
-    if (FPosition == poDesigned || FPosition == poDefault || FPosition == poDefaultPosOnly ||
-        FPosition == poDefaultSizeOnly)
-        return;
-    // Centred on anything else it would lie outside.
-    TRect Area;
-    ::GetClientRect(GetAncestor(Handle, GA_PARENT), &Area);
-    SetBounds(std::max(0, (Area.Width() - Width) / 2), std::max(0, (Area.Height() - Height) / 2), Width, Height);
 }
 
 // ---- messages
@@ -264,27 +202,15 @@ bool TCustomForm::PassFocusOn()
     return true;
 }
 
-// A control of the form, or the form itself, has got the focus.
-void TCustomForm::FocusInMdiChild()
-{
-    TMdiFrame* Frame = FrameOfChild();
-    if (!Frame)
-        return;
-    // When the program becomes active again, the child does.
-    Frame->Form().FFocus.Leave();
-    Frame->Activate(Handle);
-}
-
 void TCustomForm::WMMDIActivate(TMessage& Message)
 {
     Inherited(Message);
-    if (FrameOfChild())
-        MergeMenu(reinterpret_cast<HWND>(Message.LParam) == Handle);
+    if (FMdiChild.Frame())
+        FMenu.Merge(reinterpret_cast<HWND>(Message.LParam) == Handle);
 }
 
 void TCustomForm::WMMouseActivate(TMessage& Message)
 {
-    if (TMdiFrame* Frame = FrameOfChild())
-        Frame->Activate(Handle);
+    FMdiChild.Activate();
     Inherited(Message);
 }

@@ -27,7 +27,7 @@ void TCustomForm::UpdateIcon()
 {
     if (!HandleAllocated() || Parent || ParentWindow)
         return;
-    HICON Icon = FBorderStyle != bsDialog || IsMdiChild() ? GetIconHandle() : nullptr;
+    HICON Icon = FBorderStyle != bsDialog || FMdiChild.IsOne() ? GetIconHandle() : nullptr;
     SendMessageW(Handle, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(Icon));
 }
 
@@ -35,69 +35,25 @@ void TCustomForm::UpdateIcon()
 
 void TCustomForm::SetMenu(TMainMenu* Value)
 {
-    if (FMenu == Value)
+    if (FMenu.Get() == Value)
         return;
-    if (FMenu) {
-        MergeMenu(false);
-        FMenu->OnBarChange = nullptr;
-        FMenu->WindowHandle = nullptr;
-    }
-    FMenu = Value;
-    UpdateMenu();
-    if (const TMdiFrame* Frame = FrameOfChild(); Frame && Frame->ActiveChild() == this)
-        MergeMenu(true);
+    FMenu.Set(Value);
     // The client size that a form file asks for is the one below the menu.
     if (IsLoading())
-        ApplyReadClientSize();
-}
-
-bool TCustomForm::ShowsMenu() const
-{
-    return FMenu && !MenuGoesToMainForm() && !IsMdiChild() && !Parent && !ParentWindow && FBorderStyle != bsDialog &&
-           FBorderStyle != bsNone;
-}
-
-bool TCustomForm::MenuGoesToMainForm() const
-{
-    const TCustomForm* Main = Application->MainForm;
-    return FMenu && (FMenu->AutoMerge || IsMdiChild()) && Main && Main != this && !IsDesigning();
-}
-
-void TCustomForm::MergeMenu(bool Merged)
-{
-    if (!MenuGoesToMainForm())
-        return;
-    TMainMenu* Bar = Application->MainForm->Menu;
-    if (!Bar || Bar == FMenu)
-        return;
-    if (Merged)
-        Bar->Merge(FMenu);
-    else
-        Bar->Unmerge(FMenu);
-}
-
-void TCustomForm::UpdateMenu()
-{
-    if (FMenu && HandleAllocated()) {
-        if (FMdiFrame)
-            FMenu->OnBarChange = {this, &TCustomForm::BarChanged};
-        FMenu->WindowHandle = ShowsMenu() ? Handle : nullptr;
-    }
-    if (FMdiFrame)
-        FMdiFrame->UpdateMenu();
+        FReadSize.Apply();
 }
 
 void TCustomForm::WMCommand(TWMCommand& Message)
 {
-    if (Message.LParam == 0 && FMenu && FMenu->DispatchCommand(static_cast<uint16_t>(Message.ItemID())))
+    if (Message.LParam == 0 && Menu && Menu->DispatchCommand(static_cast<uint16_t>(Message.ItemID())))
         return;
     Inherited(Message);
 }
 
 void TCustomForm::WMInitMenuPopup(TMessage& Message)
 {
-    if (FMenu)
-        FMenu->DispatchPopup(reinterpret_cast<HMENU>(Message.WParam));
+    if (Menu)
+        Menu->DispatchPopup(reinterpret_cast<HMENU>(Message.WParam));
     // The handlers may have filled the window menu anew.
     if (FMdiFrame && FWindowMenu && reinterpret_cast<HMENU>(Message.WParam) == FWindowMenu->Handle)
         FMdiFrame->UpdateWindowList();
@@ -106,13 +62,13 @@ void TCustomForm::WMInitMenuPopup(TMessage& Message)
 
 void TCustomForm::WMMenuDrawing(TMessage& Message)
 {
-    if (!FMenu || !FMenu->DispatchDrawing(Message))
+    if (!Menu || !Menu->DispatchDrawing(Message))
         Inherited(Message);
 }
 
 void TCustomForm::WMMenuSelect(TMessage& Message)
 {
-    Application->Hint = FMenu ? FMenu->HintOf(Message) : AnsiString();
+    Application->Hint = Menu ? Menu->HintOf(Message) : AnsiString();
     Inherited(Message);
 }
 

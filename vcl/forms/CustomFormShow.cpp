@@ -22,7 +22,7 @@ void TCustomForm::SetVisible(bool Value)
     }
     if (FFormState.Contains(fsShowing) && Value != Visible)
         throw EInvalidOperation("Cannot change Visible in OnShow or OnHide");
-    if (!Value && Visible && IsMdiChild() && !IsDestroying())
+    if (!Value && Visible && FMdiChild.IsOne() && !IsDestroying())
         throw EInvalidOperation("Cannot hide an MDI Child Form");
     if (!Value)
         FFormState >> fsVisible;
@@ -42,9 +42,9 @@ void TCustomForm::Show()
     Visible = true;
     if (!HandleAllocated() || !Showing)
         return;
-    if (TMdiFrame* Frame = FrameOfChild())
-        Frame->Activate(Handle);
-    else if (Parent)
+    if (FMdiChild.Activate())
+        return;
+    if (Parent)
         BringToFront();
     else
         SetWindowPos(Handle, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
@@ -74,7 +74,7 @@ void TCustomForm::ShowWindowNow()
         return;
     PlaceForShowing();
     FFocus.SelectFirst();
-    if (TMdiFrame* Frame = FrameOfChild())
+    if (TMdiFrame* Frame = FMdiChild.Frame())
         Frame->Show(Handle, FWindowState);
     else if (Parent || ParentWindow)
         SetWindowPos(Handle, nullptr, 0, 0, 0, 0,
@@ -90,18 +90,18 @@ void TCustomForm::HideWindowNow()
         Guarded(this, [this] { DoHide(); });
     if (!StillThere || !HandleAllocated())
         return;
-    MergeMenu(false);
+    FMenu.Merge(false);
     if (Active && !FFormState.Contains(fsModal))
         ActivateNext();
     SetWindowPos(Handle, nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
 }
 
-// The system would look among other programs' windows, too.
+// Left to itself, the system would also choose a window of another program.
 void TCustomForm::ActivateNext()
 {
     for (int I = 0; I < Screen->CustomFormCount; ++I) {
         TCustomForm* Form = Screen->CustomForms[I];
-        if (Form == this || !Form->Showing || Form->Parent || Form->IsMdiChild() || !Form->HandleAllocated())
+        if (Form == this || !Form->Showing || Form->Parent || Form->FMdiChild.IsOne() || !Form->HandleAllocated())
             continue;
         if (IsWindowEnabled(Form->Handle) && !IsIconic(Form->Handle)) {
             SetActiveWindow(Form->Handle);
@@ -130,7 +130,7 @@ bool TCustomForm::CloseQuery()
 
 TCloseAction TCustomForm::DefaultCloseAction() const
 {
-    if (!IsMdiChild())
+    if (!FMdiChild.IsOne())
         return caHide;
     return FBorderIcons.Contains(biMinimize) ? caMinimize : caNone;
 }
@@ -178,7 +178,7 @@ void TCustomForm::WMQueryEndSession(TMessage& Message)
 TModalResult TCustomForm::ShowModal()
 {
     TDragManager::End(false);
-    if (Visible || !Enabled || FFormState.Contains(fsModal) || Parent || IsMdiChild())
+    if (Visible || !Enabled || FFormState.Contains(fsModal) || Parent || FMdiChild.IsOne())
         throw EInvalidOperation("Cannot make a visible window modal");
     if (HWND Capture = GetCapture())
         SendMessageW(Capture, WM_CANCELMODE, 0, 0);

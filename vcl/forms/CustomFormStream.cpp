@@ -6,49 +6,16 @@
 
 void TCustomForm::ReadState(TReader& Reader)
 {
-    FReadClientSize = {-1, -1};
+    FReadSize.Clear();
     TScrollingWinControl::ReadState(Reader);
     // Frame and menu are known now; the controls' anchors count from the size that comes out.
-    ApplyReadClientSize();
+    FReadSize.Apply();
 }
 
 void TCustomForm::Loaded()
 {
-    ApplyReadClientSize();
+    FReadSize.Apply();
     TScrollingWinControl::Loaded();
-}
-
-void TCustomForm::SetReadClientWidth(int Value)
-{
-    if (!ControlState.Contains(csReadingState)) {
-        ClientWidth = Value;
-        return;
-    }
-    FReadClientSize.X = Value;
-    FSizeBefore.X = Width;
-}
-
-void TCustomForm::SetReadClientHeight(int Value)
-{
-    if (!ControlState.Contains(csReadingState)) {
-        ClientHeight = Value;
-        return;
-    }
-    FReadClientSize.Y = Value;
-    FSizeBefore.Y = Height;
-}
-
-// A component of the form may have given it another size meanwhile, the one from the program's last run for example.
-void TCustomForm::ApplyReadClientSize()
-{
-    if (FReadClientSize.X >= 0 && Width == FSizeBefore.X) {
-        ClientWidth = FReadClientSize.X;
-        FSizeBefore.X = Width;
-    }
-    if (FReadClientSize.Y >= 0 && Height == FSizeBefore.Y) {
-        ClientHeight = FReadClientSize.Y;
-        FSizeBefore.Y = Height;
-    }
 }
 
 bool TCustomForm::IsAutoScrollStored() const
@@ -56,7 +23,7 @@ bool TCustomForm::IsAutoScrollStored() const
     return GetAutoScroll() != (FBorderStyle == bsSizeable || FBorderStyle == bsSizeToolWin);
 }
 
-// A form that scrolls has an outer size, others are as large as their content.
+// The outer size is stored of forms that scroll, the client size of others.
 bool TCustomForm::IsFormSizeStored() const
 {
     auto* Self = const_cast<TCustomForm*>(this);

@@ -3,6 +3,7 @@
 #include "vcl/forms/CustomForm.h"
 #include "vcl/forms/Form.h"
 #include "vcl/forms/FormFrame.h"
+#include "vcl/forms/FormPlace.h"
 #include "vcl/forms/MdiFrame.h"
 #include "vcl/forms/Screen.h"
 #include "vcl/graphics/Brush.h"
@@ -11,7 +12,7 @@
 
 namespace {
 
-// What the window's life and its content decide, not the form's properties.
+// Style bits that the form's properties do not decide: they stay as the window has them.
 constexpr DWORD LivingStyles = WS_VISIBLE | WS_DISABLED | WS_MINIMIZE | WS_MAXIMIZE | WS_HSCROLL | WS_VSCROLL;
 constexpr DWORD LivingExStyles = WS_EX_LAYERED | WS_EX_TOPMOST;
 
@@ -30,8 +31,8 @@ void TCustomForm::CreateParams(TCreateParams& Params)
     Params.ExStyle |= Styles.ExStyle;
     if (Parent || ParentWindow)
         return;
-    if (IsMdiChild())
-        MdiChildParams(Params);
+    if (FMdiChild.IsOne())
+        FMdiChild.SetWindowParams(Params);
     else
         TopLevelParams(Params);
     if (FPlaced || IsDesigning())
@@ -56,7 +57,7 @@ void TCustomForm::TopLevelParams(TCreateParams& Params)
 
 TFormFrame TCustomForm::Frame() const
 {
-    const bool IsChild = IsMdiChild();
+    const bool IsChild = FMdiChild.IsOne();
     // Without a caption, or with that of a dialog, children could not be moved or minimized.
     const bool NeedsCaption = IsChild && (FBorderStyle == bsNone || FBorderStyle == bsDialog);
     return TFormFrame::Of(NeedsCaption ? bsSizeable : FBorderStyle, FBorderIcons, IsChild || Parent || ParentWindow);
@@ -64,28 +65,27 @@ TFormFrame TCustomForm::Frame() const
 
 void TCustomForm::CreateWnd()
 {
-    if (IsMdiChild()) {
+    if (FMdiChild.IsOne()) {
         // The main form's window brings its children's with it.
-        NeedMdiParent()->HandleNeeded();
+        TMdiChildPart::NeedMainForm()->HandleNeeded();
         if (HandleAllocated())
             return;
     }
     TScrollingWinControl::CreateWnd();
-    UpdateMenu();
+    FMenu.Update();
     UpdateIcon();
     if (FFormStyle == fsMDIForm && !Parent && !ParentWindow && !IsDesigning())
         CreateMdiFrame();
-    if (FAlphaBlend || FTransparentColor)
-        UpdateLayer();
+    if (FLayer.IsNeeded())
+        FLayer.Update();
 }
 
 void TCustomForm::DestroyWnd()
 {
     DestroyMdiFrame();
-    // A window takes its menu with it.
+    // Destroying a window destroys its menu, too.
     SetControlFlag(csDestroyingHandle, true);
-    if (FMenu)
-        FMenu->WindowHandle = nullptr;
+    FMenu.LeaveWindow();
     TScrollingWinControl::DestroyWnd();
 }
 
@@ -102,7 +102,7 @@ void TCustomForm::UpdateFrame()
     SetWindowLongW(Window, GWL_STYLE, static_cast<LONG>((Params.Style & ~LivingStyles) | (Style & LivingStyles)));
     SetWindowLongW(Window, GWL_EXSTYLE,
                    static_cast<LONG>((Params.ExStyle & ~LivingExStyles) | (ExStyle & LivingExStyles)));
-    UpdateMenu();
+    FMenu.Update();
     SetWindowPos(Window, nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     if (Showing)
@@ -170,7 +170,7 @@ TRect TCustomForm::GetClientRect() const
 {
     if (HandleAllocated())
         return TScrollingWinControl::GetClientRect();
-    const TSize Margins = Frame().Margins(ShowsMenu());
+    const TSize Margins = Frame().Margins(FMenu.IsShown());
     return {0, 0, std::max(0, Width - static_cast<int>(Margins.cx) - 2 * FBorderWidth),
             std::max(0, Height - static_cast<int>(Margins.cy) - 2 * FBorderWidth)};
 }
@@ -189,40 +189,10 @@ void TCustomForm::PlaceForShowing()
 {
     if (std::exchange(FPlaced, true) || Parent || IsDesigning())
         return;
-    if (IsMdiChild()) {
-        PlaceMdiChild();
-        return;
-    }
-    TRect Around;
-    TCustomForm* Center = Application->MainForm;
-    switch (FPosition) {
-    case poScreenCenter: Around = Screen->WorkAreaOf(StartMonitor()); break;
-    case poDesktopCenter: Around = Screen->DesktopRect; break;
-    case poOwnerFormCenter:
-        if (auto* OwnerForm = As<TCustomForm>(Owner))
-            Center = OwnerForm;
-        [[fallthrough]];
-    case poMainFormCenter: Around = Center && Center != this ? Center->BoundsRect : Screen->WorkAreaRect; break;
-    default: return;
-    }
-    // The caption stays where the mouse can reach it.
-    const TRect Work = Screen->WorkAreaOf(Around);
-    const int X = std::max<int>(Work.Left, Around.Left + (Around.Width() - Width) / 2);
-    const int Y = std::max<int>(Work.Top, Around.Top + (Around.Height() - Height) / 2);
-    SetBounds(X, Y, Width, Height);
-}
-
-// A rectangle on the display that DefaultMonitor names.
-TRect TCustomForm::StartMonitor() const
-{
-    TCustomForm* Near = nullptr;
-    if (DefaultMonitor == dmMainForm)
-        Near = Application->MainForm;
-    else if (DefaultMonitor == dmActiveForm)
-        Near = Screen->ActiveCustomForm;
-    if (Near && Near != this && Near->Visible)
-        return Near->BoundsRect;
-    return DefaultMonitor == dmDesktop ? BoundsRect : Rect(0, 0, 1, 1);
+    if (FMdiChild.IsOne())
+        PlaceMdiChild(this);
+    else
+        PlaceOnScreen(this);
 }
 
 void TCustomForm::WMSize(TWMSize& Message)
@@ -231,8 +201,8 @@ void TCustomForm::WMSize(TWMSize& Message)
         DefaultHandler(Message);
         return;
     }
-    // Children get sizes before they show.
-    const bool IsState = !IsMdiChild() || (GetWindowLongW(Handle, GWL_STYLE) & WS_VISIBLE);
+    // MDI children get WM_SIZE before they are shown; that does not change WindowState.
+    const bool IsState = !FMdiChild.IsOne() || (GetWindowLongW(Handle, GWL_STYLE) & WS_VISIBLE);
     if (!IsDesigning() && IsState) {
         if (Message.WParam == SIZE_RESTORED)
             FWindowState = wsNormal;
@@ -285,54 +255,4 @@ void TCustomForm::WMNCPaint(TMessage& Message)
     ExcludeClipRect(DC, Inner.Left, Inner.Top, Inner.Right, Inner.Bottom);
     FillRect(DC, &Outer, GetBrush()->Handle);
     ReleaseDC(Handle, DC);
-}
-
-// ---- layers
-
-void TCustomForm::SetAlphaBlend(bool Value)
-{
-    if (FAlphaBlend == Value)
-        return;
-    FAlphaBlend = Value;
-    UpdateLayer();
-}
-
-void TCustomForm::SetAlphaBlendValue(uint8_t Value)
-{
-    if (FAlphaBlendValue == Value)
-        return;
-    FAlphaBlendValue = Value;
-    UpdateLayer();
-}
-
-void TCustomForm::SetTransparentColor(bool Value)
-{
-    if (FTransparentColor == Value)
-        return;
-    FTransparentColor = Value;
-    UpdateLayer();
-}
-
-void TCustomForm::SetTransparentColorValue(TColor Value)
-{
-    if (FTransparentColorValue == Value)
-        return;
-    FTransparentColorValue = Value;
-    UpdateLayer();
-}
-
-void TCustomForm::UpdateLayer()
-{
-    if (!HandleAllocated() || IsDesigning())
-        return;
-    const LONG ExStyle = GetWindowLongW(Handle, GWL_EXSTYLE);
-    if (!FAlphaBlend && !FTransparentColor) {
-        SetWindowLongW(Handle, GWL_EXSTYLE, ExStyle & ~WS_EX_LAYERED);
-        RedrawWindow(Handle, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE | RDW_ALLCHILDREN);
-        return;
-    }
-    SetWindowLongW(Handle, GWL_EXSTYLE, ExStyle | WS_EX_LAYERED);
-    SetLayeredWindowAttributes(
-        Handle, ColorToRGB(FTransparentColorValue), FAlphaBlendValue,
-        static_cast<DWORD>((FAlphaBlend ? LWA_ALPHA : 0) | (FTransparentColor ? LWA_COLORKEY : 0)));
 }

@@ -12,7 +12,7 @@ public:
     ~TDataModule() override;
     void BeforeDestruction() override;
 
-    // Kept only.
+    // Kept for form files; nothing depends on it.
     bool OldCreateOrder = false;
 
     // The place and size of the module's window in the designer, in pixels.

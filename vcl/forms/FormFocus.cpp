@@ -70,12 +70,12 @@ void TFormFocus::SelectFirst()
 
 bool TFormFocus::SetFocusedControl(TWinControl* Control)
 {
-    // The windows of a form that is being deleted pass the focus on as they go; nobody is told.
+    // When the windows of a form are destroyed the system passes the focus on among them; nobody is told.
     if (FForm->ComponentState.Contains(csDestroying))
         return false;
     if (!FForm->GetDesigner())
         FActive = Control == FForm ? nullptr : Control;
-    FForm->FocusInMdiChild();
+    FForm->FMdiChild.Focused();
     Screen->SetActive(FForm, Control);
     if (Control->ControlState.Contains(csFocusing))
         return true;
@@ -141,7 +141,7 @@ bool TFormFocus::EnterDownTo(TWinControl* Control, const TChange& Change)
 void TFormFocus::DefocusControl(TWinControl* Control, bool Removing)
 {
     if (Removing) {
-        // The form hears of the deletion of what it owns only, so all references end here.
+        // What leaves the form must not be referred to any more, although it may live on elsewhere.
         if (FFocused && Control->ContainsControl(FFocused))
             FFocused = Control->Parent;
         if (FTarget && Control->ContainsControl(FTarget))

@@ -22,7 +22,7 @@ public:
     void DefocusControl(TWinControl* Control, bool Removing);
     // Gives the window focus to the active control, or to the form.
     void SetWindowFocus();
-    // The form keeps the focus of its window for another one, an MDI child of its: no control is active.
+    // An MDI child of the form gets the focus: no control of the form itself is active any more.
     void Leave();
     // The first control in tab order becomes active, if none is.
     void SelectFirst();

@@ -1,4 +1,4 @@
-// The two objects that every program has. They come first and go last of all the rooms' objects.
+// The two objects that every program has. They are created before all other objects of the forms room and deleted last.
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Screen.h"
 

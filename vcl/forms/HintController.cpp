@@ -30,7 +30,7 @@ TControl* HintControlOf(TControl* Control)
     return Shows ? Control : nullptr;
 }
 
-// The nearest hint from Control up.
+// The hint of Control, or of the nearest parent that has one.
 AnsiString HintOf(TControl* Control)
 {
     for (; Control; Control = Control->Parent)
@@ -76,7 +76,7 @@ THintController::~THintController()
 void THintController::HotControlChanged(TControl* Old, TControl* New)
 {
     const TComponentRef<TControl> Owner(HintControlOf(New));
-    // What the OnHint handler of a form needs may be gone already while that is being deleted.
+    // While a form is deleted, what its OnHint handler needs may be deleted already.
     if (!IsInDestroyed(Old))
         FApplication.Hint = GetLongHint(HintOf(New));
     if (Owner && Owner.Get() == FControl.Get() && FPhase != hpNone && FPhase != hpHidden)
@@ -141,7 +141,7 @@ bool THintController::Timer(uintptr_t Id)
 void THintController::Activate(const TPoint& Pos)
 {
     TControl* Control = HintControlOf(FindDragTarget(Pos, true));
-    // A program in the background stays quiet.
+    // A program in the background shows no hints.
     if (!Control || !GetActiveWindow() || !FApplication.ShowHint) {
         Cancel();
         return;

@@ -85,7 +85,7 @@ void THintWindow::Paint()
 
 void THintWindow::WMNCHitTest(TMessage& Message)
 {
-    // The pointer goes through to what lies behind.
+    // Mouse messages go to what lies behind.
     Message.Result = HTTRANSPARENT;
 }
 

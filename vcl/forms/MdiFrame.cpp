@@ -43,7 +43,7 @@ LRESULT CALLBACK TMdiFrame::ClientProc(HWND Window, UINT Msg, WPARAM WParam, LPA
 // True when the message to the client window has been used up.
 bool TMdiFrame::ClientMessage(UINT Msg, WPARAM WParam, LRESULT& Result) const
 {
-    // From the only child Wine goes on to none, and for that makes it its normal size without drawing it.
+    // With one child only, Wine would make no child active and restore a maximized one without drawing it.
     if (Msg == WM_MDINEXT)
         return Children().size() < 2;
     if (Msg != WM_ERASEBKGND)
@@ -62,7 +62,7 @@ LRESULT TMdiFrame::Send(UINT Msg, WPARAM WParam, LPARAM LParam) const
 
 void TMdiFrame::Place(const TRect& Rect)
 {
-    // Below the controls, as far as they lie over it.
+    // At the bottom: controls that overlap it stay visible.
     SetWindowPos(FClient, HWND_BOTTOM, Rect.Left, Rect.Top, Rect.Width(), Rect.Height(), SWP_NOACTIVATE);
 }
 
@@ -85,6 +85,12 @@ std::vector<TForm*> TMdiFrame::Children() const
         if (auto* Child = As<TForm>(FindControl(Window)))
             Found.push_back(Child);
     return Found;
+}
+
+TForm* TMdiFrame::LowestChild() const
+{
+    const std::vector<TForm*> All = Children();
+    return All.empty() ? nullptr : All.back();
 }
 
 void TMdiFrame::Show(HWND Child, TWindowState State)
@@ -116,7 +122,7 @@ void TMdiFrame::Activate(HWND Child)
 void TMdiFrame::Destroy(HWND Child)
 {
     Send(WM_MDIDESTROY, reinterpret_cast<WPARAM>(Child));
-    // Without children the keyboard is the form's.
+    // Without children the form itself gets the keyboard.
     if (GetFocus() == FClient && !ActiveChild())
         ::SetFocus(FForm.Handle);
 }
@@ -146,7 +152,7 @@ void TMdiFrame::UpdateMenu()
     if (HMENU Bar = ::GetMenu(FForm.Handle)) {
         SetMenus(Bar);
         if (LacksButtons(Bar)) {
-            // They come with a new bar only.
+            // The system adds the buttons only when it gets another menu bar.
             HMENU Between = CreateMenu();
             SetMenus(Between);
             SetMenus(Bar);
@@ -159,7 +165,7 @@ void TMdiFrame::UpdateMenu()
 
 void TMdiFrame::UpdateWindowList()
 {
-    // Wine passes over the list when there is a bar with it that it has already.
+    // Wine does not update the list when it gets the bar together with it that it has already.
     SetMenus(nullptr);
     Send(WM_MDIREFRESHMENU);
 }

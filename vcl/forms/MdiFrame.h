@@ -1,5 +1,5 @@
 // TMdiFrame: the client window of a form with the style fsMDIForm, in which its MDI children lie. What children do for
-// their part is in CustomFormMdi.cpp.
+// their part is in MdiChildPart.h.
 #pragma once
 
 #include "vcl/forms/FormTypes.h"
@@ -33,6 +33,8 @@ public:
     TForm* ActiveChild() const;
     // The topmost first.
     std::vector<TForm*> Children() const;
+    // To be the first to go: when it is deleted, none of the others becomes active. nullptr when there is none.
+    TForm* LowestChild() const;
     // A child's window comes onto the screen, in front and active.
     void Show(HWND Child, TWindowState State);
     void Activate(HWND Child);

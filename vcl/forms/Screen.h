@@ -93,7 +93,7 @@ public:
     PROPERTY_INDEXED_READ(TCustomForm*, CustomForms);
     PROPERTY_READ(int, DataModuleCount);
     PROPERTY_INDEXED_READ(TDataModule*, DataModules);
-    // Forms between these two lay nothing out.
+    // Between these two calls forms do not align their controls.
     void DisableAlign();
     void EnableAlign();
     void Realign();

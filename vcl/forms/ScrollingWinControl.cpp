@@ -138,7 +138,7 @@ void TScrollingWinControl::UpdateScrollBars()
     FUpdatingBars = true;
     FHorzScrollBar.UpdateBar(ShowHorz);
     FVertScrollBar.UpdateBar(ShowVert);
-    // A second time, as the first may have changed the other's page.
+    // A second time: when one bar appears, the other has less room.
     if (ShowHorz)
         FHorzScrollBar.UpdateBar(true);
     FUpdatingBars = false;
