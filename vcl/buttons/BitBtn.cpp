@@ -18,7 +18,10 @@ void TBitBtn::Describe(TClassBuilder<TBitBtn>& Class)
     Class.Property<&Self::GetLayout, &Self::SetLayout>("Layout").Default(blGlyphLeft);
     Class.Property<&Self::GetMargin, &Self::SetMargin>("Margin").Default(-1);
     Class.Publish("ModalResult").Stored<&Self::IsCustom>();
-    Class.Property<&Self::GetNumGlyphs, &Self::SetNumGlyphs>("NumGlyphs").Default(1).Stored<&Self::IsCustom>();
+    Class.Property<&Self::GetNumGlyphs, &Self::SetNumGlyphs>("NumGlyphs")
+        .Default(1)
+        .Stored<&Self::IsCustom>()
+        .ReadLast();
     Class.Value<&Self::Style>("Style").Default(bsAutoDetect);
     Class.Property<&Self::GetSpacing, &Self::SetSpacing>("Spacing").Default(4);
 

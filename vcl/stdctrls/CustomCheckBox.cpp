@@ -6,7 +6,7 @@ void TCustomCheckBox::Describe(TClassBuilder<TCustomCheckBox>& Class)
 {
     Class.Declare<&Self::GetAlignment, &Self::SetAlignment>("Alignment").Default(taRightJustify);
     Class.Declare<&Self::AllowGrayed, &Self::AllowGrayed>("AllowGrayed").Default(false);
-    Class.Declare<&Self::GetState, &Self::SetState>("State").Default(cbUnchecked);
+    Class.Declare<&Self::GetState, &Self::SetState>("State").Default(cbUnchecked).ReadLast();
 
     Class.Message<&Self::CNCommand>(CN_COMMAND);
     Class.Message<&Self::CMDialogChar>(CM_DIALOGCHAR);

@@ -8,7 +8,7 @@ void TRadioButton::Describe(TClassBuilder<TRadioButton>& Class)
     Class.PublishAll("Anchors", "BiDiMode", "Caption", "Checked", "Color", "Constraints", "Ctl3D", "DragCursor",
                      "DragKind", "DragMode", "Enabled", "Font", "ParentBiDiMode", "ParentColor", "ParentCtl3D",
                      "ParentFont", "ParentShowHint", "PopupMenu", "ShowHint", "TabOrder");
-    Class.Publish("TabStop").Default(false);
+    Class.Publish("TabStop").Default(false).ReadLast();
     Class.PublishAll("Visible", "OnClick", "OnContextPopup", "OnDblClick", "OnDragDrop", "OnDragOver", "OnEndDrag",
                      "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove",
                      "OnMouseUp", "OnStartDrag");
