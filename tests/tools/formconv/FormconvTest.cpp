@@ -1,6 +1,7 @@
 #include "tools/formconv/Command.h"
 #include "tools/formconv/Conversion.h"
 #include "tools/formconv/FormFiles.h"
+#include "vcl/classes/FormLines.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -64,6 +65,21 @@ TEST_F(Formconv, ConvertsEveryKindToEveryKind)
         EXPECT_EQ(ReadWholeFile(Path("out")), Resource);
     }
     EXPECT_EQ(FErrors, "");
+}
+
+TEST_F(Formconv, MapsABinaryFormToTheLinesOfItsText)
+{
+    WriteWholeFile(Path("in.dfm"), Text);
+    EXPECT_EQ(Run({"--binary", "--lines", Path("lines"), Path("in.dfm"), Path("out")}), 0) << FErrors;
+    EXPECT_EQ(ReadWholeFile(Path("out")), Binary);
+    const std::string Data = ReadWholeFile(Path("lines"));
+    EXPECT_EQ(TFormLines(Data).PlaceOf(4), " on line 1 of in.dfm");
+    EXPECT_EQ(TFormLines(Data).PlaceOf(9), " on line 2 of in.dfm");
+    WriteWholeFile(Path("in.dfm"), Binary);
+    EXPECT_EQ(Run({"--binary", "--lines", Path("lines"), Path("in.dfm"), Path("out")}), 0) << FErrors;
+    const std::string NoLines = ReadWholeFile(Path("lines"));
+    EXPECT_EQ(TFormLines(NoLines).PlaceOf(9), "") << "a binary form has no lines";
+    EXPECT_EQ(Run({"--text", "--lines", Path("lines"), Path("in.dfm"), Path("out")}), 1) << "no such map of a text";
 }
 
 TEST_F(Formconv, LaysTextOutAnew)
