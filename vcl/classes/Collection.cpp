@@ -93,7 +93,7 @@ TCollection::~TCollection()
 {
     FUpdateCount = 1;
     while (!FItems.empty()) {
-        // Out of the list first: virtual calls would no longer reach the descendant.
+        // Leaves the list first: in the base destructor virtual calls no longer reach the descendant.
         TCollectionItem* Item = FItems.back();
         FItems.pop_back();
         Item->FCollection = nullptr;

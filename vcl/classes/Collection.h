@@ -123,7 +123,7 @@ private:
     int FNextID = 0;
 };
 
-// A collection that knows whose it is.
+// A collection that knows its owner.
 class TOwnedCollection : public TCollection {
     VCL_CLASS(TOwnedCollection, TCollection)
 public:

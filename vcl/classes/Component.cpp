@@ -23,7 +23,7 @@ TComponent::TComponent(TComponent* AOwner)
 
 TComponent::~TComponent()
 {
-    // A constructor that throws comes here without the destroying delete; virtual calls reach this class only.
+    // After a constructor has thrown, the destroying delete has not run. Virtual calls reach this class only.
     if (!IsDestroying())
         TComponent::BeforeDestruction();
     if (FOwner)
@@ -44,7 +44,7 @@ void TComponent::BeforeDestruction()
     SetState(csDestroying, true);
     DestroyComponents();
     ClearLinks();
-    // Each leaves the list before it is told, so that telling may change the list.
+    // Each listener leaves the list before it is notified: what it does may change the list.
     while (FFreeNotifies && !FFreeNotifies->empty()) {
         TComponent* Listener = FFreeNotifies->back();
         RemoveFreeNotification(Listener);
@@ -90,7 +90,7 @@ void TComponent::SetReference(bool Enable)
     if (!FOwner || FName.empty())
         return;
     const TFieldInfo* Field = FOwner->ClassType()->Description().FindField(FName);
-    // On the way out of a destructor the object no longer knows its class.
+    // In a destructor the object no longer knows its class.
     if (Field && (!Enable || InheritsFrom(Field->Class)))
         Field->Set(FOwner, Enable ? this : nullptr);
 }
@@ -160,7 +160,7 @@ void TComponent::Insert(TComponent* Component)
 
 void TComponent::Remove(TComponent* Component)
 {
-    // Mostly the youngest goes first.
+    // Most often the component that was created last is removed first.
     auto Found = std::find(FComponents->rbegin(), FComponents->rend(), Component);
     FComponents->erase(std::next(Found).base());
     if (!Component->FName.empty())
@@ -188,7 +188,7 @@ void TComponent::FreeNotification(TComponent* Component)
     };
     if (Component == this)
         return;
-    // Within one owner the owner tells everyone already, unless it is being destroyed as a whole.
+    // Needed within one owner as well: while an owner is deleted it notifies nobody.
     Add(this, Component);
     Add(Component, this); // so that a listener that goes first leaves the list
     SetState(csFreeNotification, true);
@@ -210,7 +210,7 @@ void TComponent::Notification(TComponent* Component, TOperation Operation)
         RemoveFreeNotification(Component);
     if (!FComponents)
         return;
-    // Backwards, and bounded anew each time: being told may delete components.
+    // Backwards, with a check of the size each time: Notification may delete components.
     for (size_t I = FComponents->size(); I-- > 0;)
         if (I < FComponents->size())
             (*FComponents)[I]->Notification(Component, Operation);

@@ -26,7 +26,7 @@ void TComponentLink::Unlink()
     FNext = nullptr;
 }
 
-// Each link leaves the list before its holder is told, which may delete other holders.
+// Each link leaves the list before its holder is called, which may delete other holders.
 void TComponent::ClearLinks()
 {
     while (TComponentLink* Link = FLinks) {

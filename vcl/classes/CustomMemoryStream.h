@@ -27,7 +27,7 @@ public:
 
 protected:
     TCustomMemoryStream() = default;
-    // The memory stays the descendant's.
+    // The memory still belongs to the descendant.
     void SetPointer(void* Memory, int64_t Size);
 
     int64_t FPosition = 0;

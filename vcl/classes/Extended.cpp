@@ -25,7 +25,7 @@ struct TSpelledDecimal {
     bool Negative = false;
 };
 
-// What stands behind the 'e', limited to what makes every number too small or too large.
+// The exponent behind the 'e', limited to what makes every number too small or too large.
 int ReadExponent(std::string_view Spelling)
 {
     constexpr int Limit = 100'000;

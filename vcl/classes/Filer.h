@@ -17,7 +17,7 @@ public:
     // Name; a writer calls WriteData when HasData is true.
     virtual void DefineProperty(const char* Name, const TReaderProc& ReadData, const TWriterProc& WriteData,
                                 bool HasData) = 0;
-    // The same for values of raw bytes. The stream stands at the data's first byte and is the caller's.
+    // The same for raw bytes. The stream is at the first byte of the data and belongs to the caller.
     virtual void DefineBinaryProperty(const char* Name, const TStreamProc& ReadData, const TStreamProc& WriteData,
                                       bool HasData) = 0;
 

@@ -90,7 +90,7 @@ void TFixupList::ForgetInstance(const TPersistent* Instance)
 
 TFixupList& GlobalFixups()
 {
-    // Lives as long as the program: components may be deleted after every static object.
+    // Never deleted: components may be deleted after all static objects.
     static auto* List = new TFixupList;
     return *List;
 }
@@ -133,7 +133,7 @@ TComponent* FindGlobalComponent(std::string_view Name)
 void GlobalFixupReferences()
 {
     TFixupList& List = GlobalFixups();
-    // By index: setting a property may load another form, which comes here again.
+    // By index, as setting a property may load another form, which changes the list.
     for (size_t I = 0; I < List.Items().size(); ++I) {
         TFixup& Waiting = List.Items()[I];
         TComponent* Value = Waiting.Instance ? FindInAnyRoot(Waiting.Name) : nullptr;

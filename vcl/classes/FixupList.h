@@ -12,7 +12,7 @@
 
 struct TPropertyInfo;
 
-// Instance's property shall be the component of that name in or beside InstanceRoot.
+// Instance's property is to be set to the component of that name in InstanceRoot or in another root.
 struct TFixup {
     TPersistent* Instance; // nullptr when it has been deleted
     const TPropertyInfo* Property;
@@ -35,10 +35,10 @@ public:
     // May be changed, but only Add adds.
     std::vector<TFixup>& Items() { return FItems; }
     void Clear();
-    // Takes those whose instance was deleted out.
+    // Removes those whose instance was deleted.
     void Compact();
 
-    // A look at one variable: is any reference of any object waiting?
+    // Is any reference of any object waiting? Takes no time.
     static bool AnyPending() { return FPending != 0; }
     static void ForgetInstance(const TPersistent* Instance);
 

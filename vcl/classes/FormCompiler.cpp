@@ -49,7 +49,7 @@ std::size_t TFormCompiler::Run()
     return FLexer.Position();
 }
 
-// Stops at the word "end", not behind it: what follows the form may be no token.
+// Stops at the word "end", not behind it: text that follows the form need not be readable.
 void TFormCompiler::Object()
 {
     const TLevel Level(*this);

@@ -39,7 +39,7 @@ void TNameTable::Remove(TComponent* Component)
     }
     FSlots[Hole] = nullptr;
     --FCount;
-    // Components behind the hole that were pushed past their own slot move up.
+    // Entries behind the free slot that are not in their own slot move up.
     for (size_t Next = (Hole + 1) & Mask(); FSlots[Next]; Next = (Next + 1) & Mask()) {
         size_t Home = IdentHash(FSlots[Next]->GetName()) & Mask();
         if (((Next - Home) & Mask()) < ((Next - Hole) & Mask()))

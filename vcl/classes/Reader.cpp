@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <optional>
 
-// From the first object to the last reference. Left without Finish, it deletes what was made.
+// Lasts from the first object to the last reference. Without Finish, what was made is deleted at its end.
 class TReader::TSession {
 public:
     explicit TSession(TReader& Reader) : FReader(Reader), FOwns(!Reader.FActive)
@@ -214,7 +214,7 @@ TComponent* TReader::FindInherited(std::string_view Name, std::string_view Class
         OnAncestorNotFound(this, AnsiString(Name), GetClass(ClassName), Found);
     if (!Found)
         throw EFormDataError("Ancestor for '" + AnsiString(Name) + "' not found", FBase + Start);
-    // It would become its own parent.
+    // An object would become its own parent.
     if (Found->FState.Contains(csReading))
         throw EFormDataError("The object '" + AnsiString(Name) + "' stands in itself", FBase + Start);
     return Found;
@@ -226,7 +226,7 @@ TComponent* TReader::CreateComponent(TClass Class, const TFormPrefix& Prefix)
     if (OnCreateComponent)
         OnCreateComponent(this, Class, Component);
     bool Inline = (Prefix.Flags & FilerFlagInline) != 0;
-    // A frame reads its own form in its constructor; this form's values come before its Loaded.
+    // A frame reads its own form in its constructor. Its Loaded waits until this form's values are set, too.
     std::optional<TLoadingBatch> Batch;
     if (Inline)
         Batch.emplace(Class);

@@ -1,4 +1,4 @@
-// TReader's way from a property's name in the file to its setter.
+// How TReader gets from a property's name in the file to its setter.
 #include "vcl/classes/Collection.h"
 #include "vcl/classes/CustomMemoryStream.h"
 #include "vcl/classes/Reader.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// Binary data where it lies.
+// Binary data of the form, not copied.
 class TBinaryView : public TCustomMemoryStream {
 public:
     explicit TBinaryView(std::string_view Bytes)
@@ -78,7 +78,7 @@ void TReader::PropertyFailed(TPersistent* Instance, size_t Start, size_t Offset,
         SkipValue();
         return;
     }
-    // In a collection the item's name is enough.
+    // The error of an item in a collection names the item already.
     if (Message.starts_with(ErrorPrefix))
         throw EFormDataError(Message, Offset);
     AnsiString Name = Instance->GetNamePath();
@@ -87,7 +87,7 @@ void TReader::PropertyFailed(TPersistent* Instance, size_t Start, size_t Offset,
     throw EFormDataError(AnsiString(ErrorPrefix) + Name + "." + FPropName + ": " + Message, Offset);
 }
 
-// False when it is too early for this one.
+// False when the property must wait for the others of its object (ReadLast).
 bool TReader::ReadPropertyPath(TPersistent* Instance)
 {
     std::string_view Name = FPropName;
@@ -161,7 +161,7 @@ int64_t TReader::ReadIntegerProperty(const TPropertyInfo& Property)
     if (!TFormCursor::IsInteger(Type))
         FailValue("integer");
     Value = FCursor.ReadIntegerOf(Type);
-    // Signed and unsigned numbers of one width are the same bits: colours come either way.
+    // Numbers are taken as signed or as unsigned: colours are written either way.
     const TTypeInfo& Info = *Property.Type;
     if (Info.MaxValue > std::numeric_limits<int64_t>::max() / 2)
         return Value;

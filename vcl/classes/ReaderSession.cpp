@@ -24,7 +24,7 @@ void TReader::FixupReferences()
 
 void TReader::SetReferences()
 {
-    // By index: a setter may delete what is in the list.
+    // By index, as a setter may change the list.
     for (size_t I = 0; I < FFixups.Items().size(); ++I) {
         TFixup Fixup = FFixups.Items()[I];
         if (!Fixup.Instance)

@@ -120,7 +120,7 @@ int64_t TReader::ReadInt64()
     return FCursor.ReadIntegerOf(Type);
 }
 
-// The special kinds are for those who ask for them: a date is no plain number.
+// AnyKind: currencies and dates are taken as well.
 double TReader::ReadNumber(bool AnyKind)
 {
     TValueType Type = ReadValue();
@@ -188,7 +188,7 @@ AnsiString TReader::ReadString()
     case vaLString: return TextFromBytes(FCursor.ReadLongBytes());
     case vaUTF8String: {
         std::string_view Bytes = FCursor.ReadLongBytes();
-        // What claims to be UTF-8 and is not gets U+FFFD: everyone else may rely on UTF-8.
+        // Bytes that are not valid UTF-8 become U+FFFD, so that strings are always UTF-8.
         return IsValidUtf8(Bytes) ? AnsiString(Bytes) : FromWide(ToWide(Bytes));
     }
     case vaWString: return TextFromUnits(FCursor.ReadWideBytes());
@@ -221,7 +221,7 @@ void TReader::ReadCollection(TCollection* Collection)
     Descend(FCursor.Position());
     Collection->Clear();
     while (!EndOfList()) {
-        // A place, which says no more than the order does.
+        // The item's index; the order of the items says the same.
         if (TFormCursor::IsInteger(NextValue()))
             ReadInt64();
         ReadListBegin();

@@ -12,7 +12,7 @@ void TStringList::Describe(TClassBuilder<TStringList>&)
 
 TStringList::~TStringList()
 {
-    // Nobody hears of it any more.
+    // No events from a destructor.
     if (OwnsObjects)
         for (TItem& Item : FItems)
             delete Item.Object;
@@ -70,7 +70,7 @@ int TStringList::AddObject(const AnsiString& S, TObject* Object)
         if (Duplicates == dupError)
             throw EStringListError("String list does not allow duplicates");
         if (Duplicates == dupIgnore) {
-            // The text is there; the caller's object takes the old one's place.
+            // The text is in the list already; its object is replaced by the caller's.
             if (Object)
                 SetObjects(Index, Object);
             return Index;

@@ -156,7 +156,7 @@ TFormPrefix TWriter::FindAncestor(TComponent* Component)
     if (!Found && IsInline) {
         if (OnFindAncestor)
             OnFindAncestor(this, Component, Component->GetName(), Found, FRootAncestor);
-        // As the reader will make it.
+        // As the reader will create it.
         if (!Found)
             Found = FFrames.emplace_back(Component->ClassType()->Create(nullptr)).get();
     }

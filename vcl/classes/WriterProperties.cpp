@@ -113,7 +113,7 @@ void TWriter::WriteStringProperty(TPersistent* Instance, const TPropertyInfo& Pr
 void TWriter::WriteMethod(TPersistent* Instance, const TPropertyInfo& Property)
 {
     const TEventBase Method = Property.GetEvent(Instance);
-    // A frame's own handler: the frame sets it, the form has no name for it.
+    // A handler of the frame's own: the frame's form sets it, and this form has no name for it.
     if (Root != FLookupRoot && Method.Data() && Method.Data() == Root)
         return;
     AnsiString Name = FindMethodName(Method);

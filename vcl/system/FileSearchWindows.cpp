@@ -36,7 +36,7 @@ public:
 
     int Next(TSearchRec& F) override
     {
-        // The first entry came with the opening.
+        // FindFirstFile has returned the first entry already.
         if (FIsRead && FError == ERROR_SUCCESS && !FindNextFileW(FHandle, &FData))
             FError = GetLastError();
         FIsRead = true;

@@ -36,7 +36,7 @@ private:
     AnsiString ConvertFloat(const TSpecifier& Specifier, double Value) const;
     [[noreturn]] void Fail() const;
 
-    // Wider fields than any text needs are mistakes; they would only exhaust the memory.
+    // Larger widths are mistakes and would only exhaust the memory.
     static constexpr int MaxNumber = 65535;
 
     std::string_view FPattern;

@@ -33,7 +33,7 @@ unsigned LegacyCodePage()
         DWORD CodePage = 0;
         GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
                         reinterpret_cast<wchar_t*>(&CodePage), sizeof CodePage / sizeof(wchar_t));
-        // Languages that never had one answer 0 or UTF-8.
+        // For languages without a legacy code page the answer is 0 or UTF-8.
         return CodePage == 0 || CodePage == CP_UTF8 ? 1252 : CodePage;
     }();
     return Page;
