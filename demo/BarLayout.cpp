@@ -1,7 +1,17 @@
 #include "demo/BarLayout.h"
 
 #include "vcl/forms/Application.h"
+#include "vcl/forms/Form.h"
 #include "vcl/registry/RegIniFile.h"
+
+namespace {
+
+// Where bars that are made float come to lie, in pixels from the form's upper left corner; each further on.
+constexpr int FloatingLeft = 120;
+constexpr int FloatingTop = 160;
+constexpr int FloatingStep = 30;
+
+} // namespace
 
 void TBarLayout::Remember(const TComponent* Form)
 {
@@ -28,6 +38,41 @@ void TBarLayout::PutBack(const TPlace& Place)
     Bar->SetBounds(Place.Bounds.Left, Place.Bounds.Top, Longer, Shorter);
     Bar->CorrectAlign();
     Bar->ShowPanel();
+}
+
+// ---- one bar
+
+TCheckBoxState TBarLayout::StateOf(const TkelToolBar* Bar)
+{
+    if (!Bar->Visible)
+        return cbUnchecked;
+    return Bar->Floating ? cbGrayed : cbChecked;
+}
+
+void TBarLayout::SetState(TkelToolBar* Bar, TCheckBoxState Value) const
+{
+    if (StateOf(Bar) == Value)
+        return;
+    const auto Place = std::ranges::find(FPlaces, Bar, &TPlace::Bar);
+    switch (Value) {
+    case cbUnchecked: Bar->HidePanel(); break;
+    case cbChecked:
+        if (!Bar->Floating) {
+            Bar->ShowPanel();
+        } else {
+            Bar->HidePanel();
+            PutBack(*Place);
+        }
+        break;
+    case cbGrayed:
+        Bar->ShowPanel();
+        if (!Bar->Floating) {
+            const auto Step = static_cast<int>(Place - FPlaces.begin()) * FloatingStep;
+            const TPoint At = Application->MainForm->ClientToScreen({FloatingLeft + Step, FloatingTop + Step});
+            Bar->FloatToPos(At.X, At.Y);
+        }
+        break;
+    }
 }
 
 std::vector<TkelToolBar*> TBarLayout::Bars() const

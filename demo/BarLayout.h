@@ -10,6 +10,7 @@
 #pragma once
 
 #include "toolbar/ToolBar.h"
+#include "vcl/stdctrls/StdTypes.h"
 
 #include <vector>
 
@@ -20,6 +21,11 @@ public:
     // Puts them back there, all of them visible, and forgets what was saved about them. Each becomes a row of its own,
     // in the order of the form file.
     void Reset();
+
+    // cbChecked: in a dock; cbGrayed: floats; cbUnchecked: hidden, wherever it would be.
+    static TCheckBoxState StateOf(const TkelToolBar* Bar);
+    // A bar that floated and is to lie in a dock goes where it was noted, one that is to float in front of the form.
+    void SetState(TkelToolBar* Bar, TCheckBoxState Value) const;
 
     // In the order of the form file.
     std::vector<TkelToolBar*> Bars() const;

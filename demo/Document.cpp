@@ -294,6 +294,16 @@ void TDocumentForm::SetStyle(int Value)
     StateChanged();
 }
 
+void TDocumentForm::SetLook(const TTextLook& Value)
+{
+    FTextHeight = MulDiv(Value.Size, Memo->Font->PixelsPerInch, 72);
+    Memo->Font->Name = Value.FontName;
+    Memo->Font->Color = Value.TextColor;
+    Memo->Color = Value.PaperColor;
+    ApplyZoom();
+    StateChanged();
+}
+
 void TDocumentForm::StyleOpen(TObject* Sender)
 {
     CheckOnly(Sender, Style);

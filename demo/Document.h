@@ -5,6 +5,7 @@
 #include "demo/ChildForm.h"
 #include "demo/Drawing.h"
 #include "demo/History.h"
+#include "demo/Preferences.h"
 #include "menus/Tsy_menus.h"
 #include "vcl/vcl.h"
 
@@ -45,6 +46,7 @@ public:
     int GetStyle() const { return FStyle; }
     void SetStyle(int Value);
     PROPERTY(int, Style);
+    void SetLook(const TTextLook& Value);
     // Of the text, or of the paper behind it.
     void SetColor(TColorUse Use, TColor Value);
 

@@ -19,6 +19,8 @@ public:
 
     // Shows the form and takes the pointer off it.
     void Begin();
+    // Pictures show this form from here on.
+    void Follow(TForm* Form) { FForm = Form; }
     // Handles messages until Condition holds. What names it.
     static void WaitFor(std::string_view What, const std::function<bool()>& Condition);
     // Raises an Exception "The tour is wrong about this: %s" unless Condition holds.

@@ -1,5 +1,7 @@
 #include "demo/Main.h"
 
+#include "demo/Settings.h"
+
 namespace {
 
 // The tools' glyphs are in the order of the tools.
@@ -101,10 +103,14 @@ void TMainForm::FormCreate(TObject*)
     AddBarItems();
     FFolders.Load();
     UpdateFolderItems();
+    FPreferences.Load();
+    Application->ShowHint = FPreferences.ShowsHints;
 
     Application->OnHint = {this, &TMainForm::ShowHint};
     Screen->OnActiveFormChange = {this, &TMainForm::ActiveFormChange};
-    NewDocument()->WindowState = wsMaximized;
+    NewDocument();
+    if (!FPreferences.UserName.empty())
+        Say("Welcome, " + FPreferences.UserName);
 }
 
 void TMainForm::FormDestroy(TObject*)
@@ -130,7 +136,7 @@ void TMainForm::Say(const AnsiString& Message)
 void TMainForm::Execute(TToolbarGlyph Command)
 {
     switch (Command) {
-    case tgNew: NewDocument()->Clear(); break;
+    case tgNew: NewDocument(); break;
     case tgOpen: OpenSaved(); break;
     case tgStop: Close(); return;
     case tgDocument: ShowDocument(); break;
@@ -143,6 +149,7 @@ void TMainForm::Execute(TToolbarGlyph Command)
     case tgNextWindow: Next(); break;
     case tgCloseWindow: ActiveMDIChild->Close(); break;
     case tgAbout: ShowAbout(); break;
+    case tgSettings: ShowSettings(); break;
     default:
         if (IsTool(Command))
             TakeTool(ToolOf(Command));
@@ -161,6 +168,7 @@ TCommandState TMainForm::StateOf(TToolbarGlyph Command)
     case tgOpen:
     case tgStop:
     case tgRefresh:
+    case tgSettings:
     case tgAbout: return {};
     case tgDocument: return {.Down = IsDocument};
     case tgGallery: return {.Down = Child && !IsDocument};
@@ -210,8 +218,44 @@ void TMainForm::ChildStateChange(TObject* Sender)
 
 void TMainForm::ShowAbout()
 {
-    Application->MessageBox("The showcase of Tessary, a library of components for desktop programs.", "About",
-                            MB_ICONINFORMATION);
+    AnsiString Text = "The showcase of Tessary, a library of components for desktop programs.";
+    if (!FPreferences.UserName.empty())
+        Text += "\n\nIn use by " + FPreferences.UserName + " " + FPreferences.Email;
+    Application->MessageBox(Text, "About", MB_ICONINFORMATION);
+}
+
+// ---- settings
+
+void TMainForm::ShowSettings()
+{
+    const std::vector<TkelToolBar*> Bars = ToolBars();
+    const auto Form = std::make_unique<TSettingsForm>(this);
+    Form->OnMessage = {this, &TMainForm::Say};
+    Form->Preferences = FPreferences;
+    for (size_t I = 0; I < Bars.size(); ++I) {
+        Form->BarList->Items->Add(Bars[I]->Caption);
+        Form->BarList->State[static_cast<int>(I)] = TBarLayout::StateOf(Bars[I]);
+    }
+    if (Form->ShowModal() != mrOk)
+        return;
+    TakePreferences(Form->Preferences);
+    for (size_t I = 0; I < Bars.size(); ++I)
+        FLayout.SetState(Bars[I], Form->BarList->State[static_cast<int>(I)]);
+    Say("The settings are kept");
+}
+
+// Documents keep what they look like unless that was changed.
+void TMainForm::TakePreferences(const TPreferences& Value)
+{
+    const bool LookChanges = Value.Look != FPreferences.Look;
+    FPreferences = Value;
+    FPreferences.Save();
+    Application->ShowHint = FPreferences.ShowsHints;
+    if (!LookChanges)
+        return;
+    for (TChildForm* Child : Children())
+        if (auto* Each = As<TDocumentForm>(Child))
+            Each->SetLook(FPreferences.Look);
 }
 
 // ---- windows
@@ -239,6 +283,7 @@ void TMainForm::OpenChild(TChildForm* Child, const AnsiString& Name)
     Child->Caption = Name;
     Child->OnMessage = {this, &TMainForm::Say};
     Child->OnStateChange = {this, &TMainForm::ChildStateChange};
+    Child->WindowState = FPreferences.OpensMaximized ? wsMaximized : wsNormal;
     UpdateCommands();
 }
 
@@ -246,6 +291,9 @@ TDocumentForm* TMainForm::NewDocument()
 {
     auto* Made = new TDocumentForm(this, FTools);
     Made->OnPick = {this, &TMainForm::DrawingPick};
+    Made->SetLook(FPreferences.Look);
+    if (!FPreferences.StartsWithSample)
+        Made->Clear();
     OpenChild(Made, Format("Document %d", ++FDocuments));
     return Made;
 }

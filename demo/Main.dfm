@@ -99,7 +99,7 @@ object MainForm: TMainForm
         Top = 2
         Width = 22
         Height = 22
-        Hint = 'New|Starts an empty text and an empty drawing'
+        Hint = 'New|Starts another document'
         Flat = True
         GlyphIndex = 0
         Glyphs = ToolGlyphs
@@ -1226,6 +1226,14 @@ object MainForm: TMainForm
       Tag = 65
       Caption = '&Drawing'
       RadioItem = True
+      OnClick = CommandClick
+    end
+    object SettingsLine: TMenuItem
+      Caption = '-'
+    end
+    object SettingsItem: TMenuItem
+      Tag = 47
+      Caption = '&Settings...'
       OnClick = CommandClick
     end
   end

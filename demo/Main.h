@@ -8,6 +8,7 @@
 #include "demo/BarLayout.h"
 #include "demo/Document.h"
 #include "demo/Gallery.h"
+#include "demo/Preferences.h"
 #include "demo/RecentFolders.h"
 #include "toolbar/Tsy_toolbar.h"
 
@@ -75,6 +76,9 @@ public:
     PROPERTY_READ(TDocumentForm*, Document);
     TGalleryForm* GetGallery() const { return As<TGalleryForm>(ActiveMDIChild); }
     PROPERTY_READ(TGalleryForm*, Gallery);
+    // What the user has chosen in the settings.
+    const TPreferences& GetPreferences() const { return FPreferences; }
+    PROPERTY_READ(const TPreferences&, Preferences);
     // All bars where they are in the form file.
     void ResetLayout();
 
@@ -129,6 +133,8 @@ private:
     void TileWindows(TTileMode Mode);
     void TakeTool(TDrawingTool Tool);
     void ShowAbout();
+    void ShowSettings();
+    void TakePreferences(const TPreferences& Value);
 
     void Say(const AnsiString& Message);
     // What buttons and menus show: after everything that may have changed it.
@@ -137,6 +143,7 @@ private:
     TBarLayout FLayout;
     TDrawingTools FTools;
     TRecentFolders FFolders;
+    TPreferences FPreferences;
     // The active window as UpdateCommands last found it: asking the system each time would take long. It may be gone
     // since.
     TChildForm* FActiveChild = nullptr;

@@ -2,6 +2,7 @@
 
 #include "demo/Main.h"
 #include "demo/MenuTour.h"
+#include "demo/SettingsTour.h"
 #include "glyphs/toolbar16.h"
 #include "toolbar/Flpfrm97.h"
 
@@ -193,4 +194,5 @@ void TTour::SecondRun()
     TGuide::Expect(FForm->DockTop->Height == 4 * RowHeight && FForm->DockLeft->Width == RowHeight,
                    "docks fit their rows");
     TMenuTour(FForm, FGuide).Run();
+    TSettingsTour(FForm, FGuide).Run();
 }
