@@ -2,6 +2,7 @@
 
 #include "controls/SharedBitmap.h"
 #include "toolbar/DrawBitmapTransparent.h"
+#include "toolbar/HandCursor.h" // registers the hand for programs that have links and no tool bars
 #include "vcl/classes/StillThere.h"
 #include "vcl/graphics/Canvas.h"
 #include "vcl/system/ClassBuilder.h"

@@ -8,6 +8,7 @@
 #include "tests/support/FormText.h"
 #include "tests/support/PaintToBitmap.h"
 #include "vcl/controls/Mouse.h"
+#include "vcl/forms/Screen.h"
 #include "vcl/graphics/Bitmap.h"
 
 #include <gmock/gmock.h>
@@ -195,6 +196,15 @@ TEST_F(WebLabelTest, WithoutUnderlineTheFontDecides)
     EXPECT_TRUE(SamePixels(ScreenPixels(Label), Expected(true, true, 0, 18)));
     PointAway();
     EXPECT_TRUE(SamePixels(ScreenPixels(Label), Expected(false, true, 0, 18)));
+}
+
+TEST_F(WebLabelTest, TheHandIsThereWithoutToolBars)
+{
+    Label->Cursor = TCursor(10);
+    Show();
+    PointAt(Label);
+    EXPECT_NE(GetCursor(), LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(GetCursor(), Screen->Cursors[TCursor(10)]);
 }
 
 TEST_F(WebLabelTest, WithoutACaptionThereIsOnlyTheBackground)
