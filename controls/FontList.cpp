@@ -65,7 +65,7 @@ std::vector<TFontFace> ListFontFaces(TFontDevice Device, TFontListOptions Option
     if (Device != fdScreen) {
         try {
             Collector.AddFacesOf(Printer()->Handle);
-        } catch (const EPrinter&) {
+        } catch (const Exception&) {
             // No printer has no fonts.
         }
     }

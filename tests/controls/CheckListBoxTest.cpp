@@ -70,12 +70,31 @@ using CustomListBoxTest = TListTest<TTestList>;
 class CheckListBoxTest : public TListTest<TkelCheckListBox> {
 protected:
     static constexpr int OnText = 60;
+    // For Assign, which takes them over at once.
+    TStrings* Strings(std::initializer_list<const char*> Texts)
+    {
+        FStrings.Clear();
+        for (const char* Text : Texts)
+            FStrings.Add(Text);
+        return &FStrings;
+    }
+    std::vector<int> CheckedItems()
+    {
+        std::vector<int> Found;
+        for (int I = 0; I < List->Items->Count; ++I)
+            if (List->Checked[I])
+                Found.push_back(I);
+        return Found;
+    }
     int InCheck() const { return TkelCheckListBox::GetCheckWidth() - 1; }
     void SetStates()
     {
         List->Checked[1] = true;
         List->State[3] = cbGrayed;
     }
+
+private:
+    TStringList FStrings;
 };
 
 TObject* Number(intptr_t Value)
@@ -466,6 +485,47 @@ TEST_F(CheckListBoxTest, SpaceTogglesTheChosenItem)
     EXPECT_EQ(Clicks, 1);
     List->Checked[1] = false; // by code: nobody is told
     EXPECT_EQ(Clicks, 1);
+}
+
+// By real keys: letters that are on no Western keyboard go to the item that begins with them.
+TEST_F(CheckListBoxTest, KeysAndMarksWorkWithTextsOfAllScripts)
+{
+    List->Items->Assign(Strings({"Отмена", "取消", "إلغاء", "שלום world", "Cancel"}));
+    Show();
+    List->SetFocus();
+    int Expected = 0;
+    for (const wchar_t Letter : {L'О', L'取', L'إ', L'ש', L'C'}) {
+        SendLetter(Letter);
+        EXPECT_TRUE(PumpUntil([&] { return List->ItemIndex == Expected; })) << Expected;
+        TypeKey(VK_SPACE);
+        EXPECT_EQ(CheckedItems(), std::vector<int>{Expected});
+        List->Checked[Expected++] = false;
+    }
+    List->Checked[1] = true;
+    List->State[3] = cbGrayed;
+    List->Sorted = true;
+    EXPECT_TRUE(List->Checked[List->Items->IndexOf("取消")]);
+    EXPECT_EQ(List->State[List->Items->IndexOf("שלום world")], cbGrayed);
+}
+
+TEST_F(CheckListBoxTest, TextsOfAllScriptsStandBehindTheCheckColumn)
+{
+    List->Items->Assign(Strings({"Отмена", "取消", "إلغاء", "שלום world"}));
+    Add<TEdit>()->TabOrder = 0; // has the focus
+    Show();
+    List->Update();
+    const TPixelImage Screen = ScreenPixels(List);
+    const int Column = TkelCheckListBox::GetCheckWidth();
+    for (int I = 0; I < List->Items->Count; ++I) {
+        const TRect R = List->ItemRect(I);
+        TPixelImage Expected(R.Width() - Column, R.Height(), clWindow);
+        const TWideString Text = ToWide(List->Items->Strings[I]);
+        const HGDIOBJ Old = SelectObject(Expected.DC(), List->Font->Handle);
+        SetBkMode(Expected.DC(), TRANSPARENT);
+        ExtTextOutW(Expected.DC(), 2, 0, 0, nullptr, Text.c_str(), static_cast<UINT>(Text.size()), nullptr);
+        SelectObject(Expected.DC(), Old);
+        EXPECT_TRUE(SamePixels(Screen.Part({Column, R.Top, R.Right, R.Bottom}), Expected)) << List->Items->Strings[I];
+    }
 }
 
 TEST_F(CheckListBoxTest, HandlersMayDeleteTheList)
