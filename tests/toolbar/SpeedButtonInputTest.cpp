@@ -242,6 +242,55 @@ TEST_F(SpeedButtonInputTest, MouseEventsCarryButtonAndPlace)
     EXPECT_EQ(Clicks, 1);
 }
 
+// ---- a press that does not end with a release
+
+TEST_F(SpeedButtonInputTest, LosingTheMouseEndsThePress)
+{
+    const std::vector<std::function<void()>> Losses = {
+        [&] { ReleaseCapture(); },
+        [&] { Button->MouseCapture = false; },
+        [&] { Neighbour->MouseCapture = true; },
+        [&] { SetCapture(Window->Handle); },
+    };
+    for (int GroupIndex : {0, 7})
+        for (const auto& Lose : Losses) {
+            Button->GroupIndex = GroupIndex;
+            MovePointerTo(Button, 11, 11);
+            PressButton();
+            EXPECT_TRUE(PumpUntil([&] { return Button->State() == bsDown; }));
+            Lose();
+            PumpMessages();
+            EXPECT_NE(Button->State(), bsDown);
+            ReleaseButton();
+            ReleaseCapture();
+            PumpMessages();
+            EXPECT_EQ(Button->State(), bsUp);
+            ClickButton(mbRight);
+            EXPECT_EQ(Clicks, 0);
+            EXPECT_FALSE(Button->Down);
+        }
+}
+
+TEST_F(SpeedButtonInputTest, ANewParentEndsThePress)
+{
+    auto* Other = new TCustomControl(Window.get());
+    Other->SetBounds(0, 60, 200, 60);
+    Other->Parent = Window.get();
+    MovePointerTo(Button, 11, 11);
+    PressButton();
+    EXPECT_TRUE(PumpUntil([&] { return Button->State() == bsDown; }));
+    Button->Parent = Other;
+    EXPECT_EQ(Button->State(), bsUp);
+    EXPECT_FALSE(Button->MouseCapture);
+    ReleaseButton();
+    MovePointerTo(Button, 11, 11);
+    ClickButton(mbRight);
+    EXPECT_EQ(Clicks, 0);
+    ClickButton();
+    EXPECT_TRUE(PumpUntil([&] { return Clicks == 1; }));
+    Button->Parent = Window.get();
+}
+
 // ---- hot without a pointer
 
 TEST_F(SpeedButtonInputTest, AButtonThatIsDisabledInItsMouseEnterStaysCold)
