@@ -385,7 +385,7 @@ void TkelCustomListBox::CNDrawItem(TMessage& Message)
 
 void TkelCustomListBox::DrawItemOf(TMessage& Message)
 {
-    TItemDrawing Drawing(FCanvas, Message, Font, Color);
+    TItemDrawing Drawing(this, FCanvas, Message, Font, Color);
     if (Drawing.Index() >= 0)
         DrawItem(Drawing.Index(), Drawing.Rect(), Drawing.State());
     else
@@ -424,7 +424,8 @@ void TkelCustomListBox::PaintItems(HDC Context)
     const int Count = ItemCount();
     const int RowHeight = ItemHeight;
     TRect Row(0, 0, ClientWidth, RowHeight);
-    for (int Index = TopIndex; Index < Count && Row.Top < ClientHeight; ++Index) {
+    const TStillThere IsThere(this);
+    for (int Index = TopIndex; IsThere && Index < Count && Row.Top < ClientHeight; ++Index) {
         TRect Common;
         if (IntersectRect(Common, Row, Clip)) {
             Item.itemID = static_cast<UINT>(Index);
