@@ -1,5 +1,6 @@
 // The messages of TWinControl.
 #include "vcl/classes/StillThere.h"
+#include "vcl/controls/Accessible.h"
 #include "vcl/controls/ControlCanvas.h"
 #include "vcl/controls/DragManager.h"
 #include "vcl/controls/FormHost.h"
@@ -134,6 +135,10 @@ bool TWinControl::TakesMessage(TMessage& Message)
     case WM_CAPTURECHANGED: TMouse::CaptureChanged(reinterpret_cast<HWND>(Message.LParam)); return false;
     case WM_MOUSELEAVE: TMouse::UpdateHotControl(); return false;
     case WM_CONTEXTMENU: return TMouseRouter::RouteContextMenu(*this, Message);
+    case WM_GETOBJECT:
+        // The controls of the system say what they are by themselves.
+        Message.Result = PaintsItself() ? AccessibleObjectOf(*this, Message.WParam, Message.LParam) : 0;
+        return Message.Result != 0;
     case WM_MOUSEWHEEL:
     case WM_MOUSEHWHEEL: return false; // sent to the focused window, with screen coordinates
     default: break;
