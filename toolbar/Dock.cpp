@@ -96,7 +96,7 @@ void TkelDock::BringBarsIn()
     }
 }
 
-// A bar that a thinner dock would leave out of sight comes back in.
+// Moves in bars that would be out of sight in the smaller dock.
 void TkelDock::Resize()
 {
     inherited::Resize();
@@ -106,7 +106,7 @@ void TkelDock::Resize()
     if (ArrangeRows && FSeen && Axis().Length(*this) != FFittedLength)
         FitRows();
     if (ArrangeRows && TkelToolBar::IsDragged())
-        return; // what the step leaves behind is arranged at its end
+        return; // the rows are arranged when the step of the drag is done
     for (TkelToolBar* Bar : ShownBars())
         if (Axis().Row(*Bar) >= Thick)
             Bar->Aligning();

@@ -16,7 +16,7 @@ public:
     int End(const TControl& Bar) const { return Start(Bar) + Length(Bar); }
     int Row(const TControl& Bar) const { return FVertical ? Bar.Left : Bar.Top; }
     int Thickness(const TControl& Bar) const { return FVertical ? Bar.Width : Bar.Height; }
-    // The place across of what would lie directly behind Bar's row.
+    // Where the row behind Bar's row begins.
     int NextRow(const TControl& Bar) const { return Row(Bar) + Thickness(Bar); }
     int Along(const TPoint& Point) const { return FVertical ? Point.Y : Point.X; }
     int Across(const TPoint& Point) const { return FVertical ? Point.X : Point.Y; }
@@ -31,7 +31,7 @@ public:
     {
         FVertical ? Dock.SetWidth(Dock.Width + By) : Dock.SetHeight(Dock.Height + By);
     }
-    // Lies in the row that begins at Place and is as thick as Bar.
+    // Whether Other lies in the row that begins at Place and is Thick pixels thick.
     bool IsInRow(const TControl& Other, int Place, int Thick) const
     {
         return Row(Other) == Place && Thickness(Other) == Thick;

@@ -21,7 +21,7 @@ public:
     TkelToolBar* GetToolBar() const { return FToolBar; }
     PROPERTY_READ(TkelToolBar*, ToolBar);
 
-    // Becomes the frame of Bar, with its caption and as large as it takes. The bar comes here by itself.
+    // Becomes the frame of Bar, with its caption and around its size. The bar's parent is not changed.
     void CarryBar(TkelToolBar& Bar, bool Resizable, bool CloseBox);
     // The mouse, closing and resizing no longer concern the bar, nor its form this frame.
     void ForgetBar();

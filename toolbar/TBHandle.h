@@ -3,7 +3,7 @@
 
 #include "vcl/controls/GraphicControl.h"
 
-// Not a class of its own to the framework: descendants say that they descend from TGraphicControl.
+// It has no class description of its own: its descendants name TGraphicControl as their parent class.
 class TTBHandle : public TGraphicControl {
 public:
     // Size pixels wide and high, with the hand as its cursor.

@@ -64,7 +64,7 @@ void TkelToolBar::BeforeDestruction()
 }
 
 // What the reader puts somewhere is complete when it has been loaded, what code makes as soon as it lies somewhere.
-// Elsewhere than in its frame a bar does not float.
+// A bar that gets another parent than its frame no longer floats.
 void TkelToolBar::SetParent(TWinControl* Value)
 {
     TFPForm97* Emptied = Value != FFrame ? LeaveFrame() : nullptr;
@@ -94,7 +94,7 @@ void TkelToolBar::Loaded()
         FRowThickness = Axis().Thickness(*this);
 }
 
-// Before other bars come and go.
+// Notes where the bar was designed, before the bars that are loaded earlier change the dock.
 void TkelToolBar::ReadState(TReader& Reader)
 {
     inherited::ReadState(Reader);
@@ -126,7 +126,7 @@ void TkelToolBar::Paint()
     inherited::Paint();
 }
 
-// Where nothing can be written, a message at every painting would help nobody.
+// When the registry cannot be written, no message appears at each painting.
 void TkelToolBar::SaveQuietly()
 {
     try {
@@ -163,7 +163,7 @@ void TkelToolBar::AlignControls(TControl* Control, TRect& Rect)
 {
     if (HandleAllocated() && IsWindowVisible(Handle))
         Aligning();
-    // In front of an item at 0, too: of two at one place the one that moved last would come first.
+    // Before the first item even when that lies at 0: of two controls at one place the last one that moved comes first.
     if (FDragBox->Visible)
         FDragBox->SetBounds(-1, -1, FDragBox->Width, FDragBox->Height);
     inherited::AlignControls(Control, Rect);

@@ -17,7 +17,7 @@ class TkelTBDragBox;
 
 VCL_ENUM(TToolBarStyle, psStatic, psFloat);
 
-// How far below the upper edge of a floating frame its client area is taken to begin, in pixels.
+// The height of a floating frame's caption and upper border that places of frames are computed with, in pixels.
 inline int CapSize = 20;
 
 class TkelToolBar : public TkelCustomPanel {
@@ -59,8 +59,8 @@ public:
     // Makes the bar float, or moves its frame: Left becomes X, Top becomes Y - CapSize, in pixels of the screen. In a
     // dock the bar gives up its row as with DeleteFromDock.
     void FloatToPos(int X, int Y);
-    // False, with X and Y the bar's Left and Top, in a dock. True when it floats: one pixel right and below of what
-    // FloatToPos would put the frame where it is.
+    // Whether the bar floats. X and Y become its Left and Top in the dock; for a floating bar its place on the screen
+    // as FloatToPos takes it, plus one pixel each.
     bool isFloat(int& X, int& Y) const;
     // The frame while the bar floats, else nullptr. It belongs to the bar.
     TFPForm97* GetFrame() const { return FFrame; }
@@ -68,11 +68,11 @@ public:
 
     // ---- layout in a dock
 
-    // Makes the bar, whose parent is a dock already, a row of its own behind the others, and turns it to the dock's
-    // direction. Does nothing in a parent that has no rows, as do the following.
+    // Makes the bar a new last row of the dock that is its parent already, and turns it to the dock's direction. This
+    // and the following methods do nothing in a parent that has no rows.
     void InsertToDock();
-    // Gives up the bar's row when no other bar is in it. Out of a vertical dock the bar turns horizontal. It remains
-    // the dock's child.
+    // Takes the bar out of its row. The row is removed when no other bar is in it. A vertical bar becomes horizontal.
+    // The dock remains the bar's parent.
     void DeleteFromDock();
     // Where in this bar's row ToolBar could be added, in pixels along the dock: 0 or the end of the row; -1 when it is
     // of another thickness or too long.
@@ -80,16 +80,16 @@ public:
     // Trades places with another bar of the same dock while this one is dragged over it. nullptr and the bar itself
     // are ignored.
     void SwapToolBar(TkelToolBar* ToolBar);
-    // Moves the bar into its parent, the far edges first to go outside when it is larger.
+    // Moves the bar so that it lies inside its parent. A bar larger than that sticks out at the left and top.
     void Aligning();
     // The thickness the bar had in its dock when it was loaded or left it, in pixels. A bar that was resized while it
     // floated gets it back when it is docked.
     int GetRowThickness() const { return FRowThickness; }
     PROPERTY_READ(int, RowThickness);
-    // The dock the bar lies in (hidden or not), nullptr while it floats or lies elsewhere.
+    // The dock that is the bar's parent, nullptr while the bar floats or lies elsewhere.
     TkelDock* GetDock() const;
     PROPERTY_READ(TkelDock*, Dock);
-    // Of the dock; a bar that lies in none is horizontal.
+    // The direction of the dock; a bar outside of docks is horizontal.
     TDockAxis Axis() const;
 
     // ---- items
@@ -114,7 +114,7 @@ public:
     void PublicMouseUp(TMouseButton Button, TShiftState Shift, int X, int Y) { MouseUp(Button, Shift, X, Y); }
     // Ends the drag that the user has begun with this bar, and puts all bars back where they were, as Escape does.
     void CancelDrag();
-    // The docks at the edges that have the bar's owner, in the order of its components.
+    // The docks that the bar's owner owns and that are aligned to an edge, in the order of its components.
     std::vector<TkelDock*> OwnersDocks() const;
     // The first of these docks that Point is near enough to, nullptr when there is none. Point is in the bar's
     // coordinates.
@@ -129,8 +129,8 @@ public:
     // True while bars are created and loaded: nothing is reported, saved or captured then.
     static bool IsLayoutSuspended() { return TSuspension::Any(); }
 
-    // Where the bar lay in its dock when its record was saved, or in the form file without one: the place of its row
-    // across the dock and its own along the row, in pixels. Only for bars that were loaded, as long as that counts.
+    // Where the bar lay in its dock when its record was saved, or without a record in the form file: Row is the place
+    // of its row across the dock, Start its own along the row, in pixels. Used while forms are loaded.
     struct TSavedRow {
         int Row;
         int Start;
@@ -223,13 +223,13 @@ private:
     bool FCancelled = false;         // the button is still down
     std::optional<TSavedRow> FSavedRow;
     TPoint FAnchor; // where in the bar the drag began
-    TPoint FReach;  // from the pointer to the dock it has put the bar into from outside
+    TPoint FReach;  // from the pointer to the nearest point of the dock, when a floating bar was docked
     std::vector<TControl*> FItems;
     bool FUpright = false; // the items lie as in a vertical bar
     bool FFloating = false;
     bool FAutoSave = true;
     bool FCloseBox = true; // of the floating frame; not to be changed
-    bool FIsNew = true;    // has not been put anywhere yet
+    bool FIsNew = true;    // has had no parent yet
     bool FHasRow = false;  // has its place in the rows of its dock; meaningless while it is hidden
     TSuspension FSuspension;
     TkelTBDragBox* FDragBox;

@@ -18,7 +18,7 @@ TRect Square(const TPoint& Center, int Distance)
     return {Center.X - Distance, Center.Y - Distance, Center.X + Distance, Center.Y + Distance};
 }
 
-// What of the dock is nearest to a point, on the screen.
+// The point of the dock that is nearest to Point, in screen coordinates.
 TPoint NearestPoint(const TkelDock& Dock, const TPoint& Point)
 {
     const TPoint Origin = Dock.ClientOrigin;
@@ -26,7 +26,7 @@ TPoint NearestPoint(const TkelDock& Dock, const TPoint& Point)
             std::clamp<int>(Point.Y, Origin.Y, Origin.Y + std::max(Dock.Height - 1, 0))};
 }
 
-// Where a dock takes bars, on the screen: an empty one in a narrow band along its edge.
+// The rectangle in which a dock accepts bars, in screen coordinates. That of an empty dock is 2 pixels thick.
 TRect CatchArea(const TkelDock& Dock)
 {
     TRect R(0, 0, Dock.Width, Dock.Height);
@@ -54,7 +54,7 @@ void TkelToolBar::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y
         FDrag = std::make_shared<TBarDrag>(*this, [this] { CancelDrag(); });
 }
 
-// Moving windows can bring another move along before this one is done; it is dropped.
+// Moving windows can deliver another mouse move before this step is done. That move is dropped.
 void TkelToolBar::MouseMove(TShiftState Shift, int X, int Y)
 {
     if (Dragged)
@@ -111,17 +111,17 @@ void TkelToolBar::DragAlong(TkelDock& InDock, const TPoint& P)
     if (!Other)
         Other = FindToolBar(P);
     const TDockAxis Axis = InDock.Axis();
-    // Stopping in front of a bar of the same row would be undone by sliding on at once.
+    // The bar would only be moved in front of the next one in its row, and slid back by the statement at the end.
     const bool OnlyStops = Other && Axis.Row(*Other) == Axis.Row(*this) && Axis.Start(*this) < Axis.Start(*Other);
     if (!OnlyStops)
         SwapToolBar(Other);
-    // Messages have been handled, which may have taken the bar elsewhere, or away altogether.
+    // SwapToolBar has processed messages: the bar may have another parent now, or be deleted.
     if (Dragged == this && Parent == &InDock)
         Slide(InDock, P);
 }
 
-// The bar keeps below the pointer, inside the dock. One that is longer than its dock shows its end in a horizontal
-// dock, its beginning in a vertical one.
+// Moves the bar along its row with the pointer, inside the dock. A bar longer than the dock shows its end in a
+// horizontal dock and its beginning in a vertical one.
 void TkelToolBar::Slide(const TkelDock& InDock, const TPoint& P)
 {
     if (InDock.Axis().IsVertical())
@@ -150,8 +150,8 @@ void TkelToolBar::DragFree(const TPoint& Pointer, const TPoint& P)
     CaptureDrag();
 }
 
-// Leaves the dock. The pointer keeps its place along the bar; a bar that a quick hand has left behind comes along as it
-// was taken, or by its caption.
+// Takes the bar out of its dock. The pointer keeps its place along the bar. When the pointer has moved so far in one
+// step that it is beside the bar, it comes to be where the bar was taken, or on the frame's caption.
 void TkelToolBar::TearOff(const TPoint& P)
 {
     const bool WasVertical = Axis().IsVertical();
@@ -167,7 +167,7 @@ void TkelToolBar::TearOff(const TPoint& P)
         FAnchor = {AlongX, P.Y < 0 ? std::max(Height + P.Y, -CapSize / 2) : CapSize};
 }
 
-// So that the drag goes on when the window that had the mouse is gone, hidden or elsewhere.
+// Keeps the drag going when the window that had the mouse was destroyed, hidden or moved to another parent.
 void TkelToolBar::CaptureDrag()
 {
     if (!IsLayoutSuspended() && Dragged == this)
@@ -201,9 +201,9 @@ bool TkelToolBar::KeepsToDock(const TPoint& Pointer) const
     return InDock && InDock->ArrangeRows && InDock->TakesBars() && InDock->Showing && IsNear(*InDock, Pointer);
 }
 
-// A floating bar comes to an upper or lower dock with any part of it, to one at the side only with the pointer. One
-// that has come with the pointer still outside leaves when that goes on as far as it would have to from the dock
-// itself.
+// A floating bar is near to a horizontal dock when any part of it is, and to a vertical dock when the pointer is. The
+// bar may thus be docked while the pointer is still outside: FReach is then added to the pointer, so that the bar
+// leaves the dock only after the pointer has moved away by the docking distance.
 bool TkelToolBar::IsNear(const TkelDock& Candidate, const TPoint& Pointer) const
 {
     const bool WithBar = FFloating && !Candidate.Axis().IsVertical();
@@ -245,7 +245,7 @@ bool TkelToolBar::HasPassed(const TkelToolBar& Other, const TPoint& P) const
     return Axis.Row(*this) < Begin ? Middle < Pointer : Axis.Row(*this) > Begin && Middle > Pointer;
 }
 
-// Bars of the same row, which FindToolBar may find first, would keep this one from leaving it.
+// As FindToolBar, but only among bars of other rows: when bars of the same row come first, this bar cannot leave it.
 TkelToolBar* TkelToolBar::FindInOtherRows(const TPoint& P) const
 {
     const TDockAxis Axis = Dock->Axis();
@@ -268,7 +268,7 @@ void TkelToolBar::FloatToPos(int X, int Y)
     PlaceFrame({X, Y}, false);
 }
 
-// Exactly: the bar itself comes to lie at Place, whatever the frame around it measures.
+// Exactly: Place is that of the bar itself, computed with the real measures of the frame.
 void TkelToolBar::PlaceFrame(TPoint Place, bool Exactly)
 {
     const bool Begins = !FFloating;
@@ -321,7 +321,7 @@ TFPForm97* TkelToolBar::LeaveFrame()
     return std::exchange(FFrame, nullptr);
 }
 
-// Its own handlers may be what brought this about.
+// Releases the frame instead of deleting it: this may be called by one of its own handlers.
 void TkelToolBar::CloseFrame(TFPForm97* Emptied)
 {
     if (!Emptied)

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Turns a control about the diagonal: what lay along the bar before lies along it afterwards, and as long.
+// Exchanges x and y: a control keeps its place and length along a bar that turns.
 void Transpose(TControl& Control)
 {
     Control.SetBounds(Control.Top, Control.Left, Control.Height, Control.Width);
@@ -20,8 +20,8 @@ bool IsAlignedVertically(const TControl& Control)
     return Control.Align == alTop || Control.Align == alBottom;
 }
 
-// Neighbours in the list that lie the other way round. In a vertical bar those that are not aligned along it keep
-// their places, and others do not pass them.
+// Whether two neighbours in the list are in the wrong order. In a vertical bar only items aligned alTop or alBottom are
+// compared; others keep their place in the list, and items are not moved past them.
 bool AreSwapped(const TControl& First, const TControl& Second, bool Vertical)
 {
     if (!Vertical)
@@ -66,7 +66,7 @@ void TkelToolBar::CorrectAlign()
         TurnItems(false);
 }
 
-// All at once: the layout would mix up what is turned already and what is not.
+// Without laying out the items in between: turned and unturned items would be placed in a wrong order.
 void TkelToolBar::TurnItems(bool Vertical)
 {
     const bool HasTurned = std::exchange(FUpright, Vertical) != Vertical;
@@ -176,13 +176,13 @@ void TkelToolBar::GiveUpRow()
     }
 }
 
-// Horizontal and without a grip, as a bar lies in its frame.
+// Makes the bar horizontal and hides its grip, as for a frame.
 void TkelToolBar::LieFree()
 {
     SetDockedLook(false);
     if (Dock && Dock->TakesBars() && Axis().IsVertical() && Height > Width) {
         for (TControl* Item : FItems)
-            if (Item->Align == alRight) // that was no far end in a vertical bar
+            if (Item->Align == alRight) // in a vertical bar alBottom is the far end
                 Item->Align = alLeft;
         TurnTo(false);
     }
@@ -233,7 +233,7 @@ void TkelToolBar::SwapToolBar(TkelToolBar* ToolBar)
     Application->ProcessMessages();
 }
 
-// Moves all bars of the dock that begin behind Row across it.
+// Moves all bars of the dock whose row begins behind Row by so many pixels across the dock.
 void TkelToolBar::MoveRowsBehind(int Row, int By)
 {
     const TDockAxis Axis = Dock->Axis();
@@ -242,8 +242,8 @@ void TkelToolBar::MoveRowsBehind(int Row, int By)
             Axis.SetRow(*Bar, Axis.Row(*Bar) + By);
 }
 
-// Moves the bar into the row of Other, at Place. The rows behind LowerRow move up, as if the bar had left a row of its
-// own there; that is not so when it comes from above or has left others behind, and is kept as it is.
+// Moves the bar into the row of Other, at Place. The rows behind LowerRow move up by one row. That is only right when
+// the bar leaves an empty row at or below LowerRow; the rule applies in every case, and ArrangeRows corrects the rest.
 void TkelToolBar::JoinRow(TkelToolBar& Other, int Place, int LowerRow)
 {
     TkelDock* InDock = Dock;
@@ -255,8 +255,8 @@ void TkelToolBar::JoinRow(TkelToolBar& Other, int Place, int LowerRow)
     Axis.Grow(*InDock, -Thick);
 }
 
-// The two rows change places; those in between and behind make up for the difference in thickness. The bars that were
-// in a row with this one, and now lie in that of Other, come along with this one.
+// The two rows change places; the rows between and behind them move by the difference in thickness. Bars that shared a
+// row with this one share its new row, too.
 void TkelToolBar::TradeRows(TkelToolBar& Upper, TkelToolBar& Lower, TkelToolBar& Other)
 {
     const TDockAxis Axis = Dock->Axis();
