@@ -177,8 +177,12 @@ void TCustomComboBox::CNCommand(TWMCommand& Message)
         break;
     case CBN_DROPDOWN:
         DropDown();
-        if (Here)
-            AdjustDropDown();
+        if (!Here || !HandleAllocated())
+            break;
+        AdjustDropDown();
+        // The list opens behind the handler, even where it is not seen any more.
+        if (!Showing || !Focused())
+            PostMessageW(Handle, CB_SHOWDROPDOWN, FALSE, 0);
         break;
     case CBN_CLOSEUP: CloseUp(); break;
     case CBN_SELCHANGE:
