@@ -12,6 +12,12 @@ constexpr TNeverRaised NeverRaised[] = {
     {"TkelCustomPopupMenu", "OnPopup", "these menus do not raise it"},
     {"TCustomForm", "OnCreate", "it is raised inside the constructor, where only a form file has attached a handler"},
     {"TDataModule", "OnCreate", "it is raised inside the constructor, where only a form file has attached a handler"},
+    {"TkelOfficePopupMenu", "OnDrawItem", "these menus draw themselves and do not raise it"},
+    {"TkelOfficePopupMenu", "OnMeasureItem", "these menus measure themselves and do not raise it"},
+    {"TkelComboButton", "OnDragDrop", "its halves cover it"},
+    {"TkelComboButton", "OnDragOver", "its halves cover it"},
+    {"TkelComboButton", "OnStartDrag", "its halves cover it"},
+    {"TkelComboButton", "OnEndDrag", "its halves cover it"},
     {"TCustomListBox", "OnDataObject", "only programs ask a list for its objects"},
 };
 

@@ -77,9 +77,23 @@ void TScene::FillForm()
 TPoint TScene::Spot(int X, int Y) const
 {
     const TControl* Where = Shown();
+    if (const auto* Window = As<TWinControl>(Where); Window && X == 500 && !As<TCustomForm>(Window))
+        return Window->ClientToScreen(FreeSpot(*Window));
     if (const auto* AsForm = As<TCustomForm>(Where); AsForm && AsForm->HandleAllocated())
         return AsForm->ClientToScreen({AsForm->ClientWidth * X / 1000, std::min(AsForm->ClientHeight * Y / 1000, 90)});
     return Where ? Where->ClientToScreen({Where->Width * X / 1000, Where->Height * Y / 1000}) : TPoint(0, 0);
+}
+
+// The middle, or another point that no child covers.
+TPoint TScene::FreeSpot(const TWinControl& Window)
+{
+    for (int Y : {500, 150, 850})
+        for (int X : {500, 850, 150, 700, 970, 30}) {
+            const TPoint Spot(Window.Width * X / 1000, Window.Height * Y / 1000);
+            if (!Window.ControlAtPos(Spot, true, true))
+                return Spot;
+        }
+    return {Window.Width / 2, Window.Height / 2};
 }
 
 void TScene::PlaceOn(TWinControl* Parent, const TPoint& Place)

@@ -39,7 +39,8 @@ public:
     TControl* Control() const { return As<TControl>(Target.Get()); }
     // What the user points at: the target when it is a control, or else the control that shows it.
     TControl* Shown() const { return Control() ? Control() : Neighbour.Get(); }
-    // On the screen, in thousandths of what the user points at; its middle when that is not said.
+    // On the screen, in thousandths of what the user points at; its middle, or another
+    // spot that no child covers, when that is not said.
     TPoint Spot(int X = 500, int Y = 500) const;
 
     template <class T>
@@ -67,6 +68,7 @@ private:
         bool operator==(const TPlaces&) const = default;
     };
 
+    static TPoint FreeSpot(const TWinControl& Window);
     bool IsWhole() const;
     TPlaces Places() const;
     void Activate();

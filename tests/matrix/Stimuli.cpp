@@ -10,28 +10,34 @@
 
 namespace {
 
-// Closes menus that nobody else does.
-class TMenuCloser {
+// Ends the loops that only more input would end: those of open menus and of the system's scroll bars.
+class TLoopBreaker {
 public:
-    TMenuCloser() : FWindow(AllocateHWnd([this](TMessage& Message) { Tick(Message); }))
+    TLoopBreaker()
     {
-        SetTimer(FWindow, 1, 50, nullptr);
+        static HWND Shared = AllocateHWnd([](TMessage& Message) { Tick(Message); });
+        Window = Shared;
+        Ticks = 0;
+        SetTimer(Window, 1, 50, nullptr);
     }
-    ~TMenuCloser() { DeallocateHWnd(FWindow); }
+    ~TLoopBreaker() { KillTimer(Window, 1); }
+    TLoopBreaker(const TLoopBreaker&) = delete;
 
 private:
-    void Tick(TMessage& Message)
+    static void Tick(TMessage& Message)
     {
-        if (Message.Msg != WM_TIMER)
-            DefaultWindowProc(FWindow, Message);
-        else if (!TWhileMenuOpen::IsOpen())
-            FTicks = 0;
-        else if (++FTicks > 2)
-            EndMenu();
+        if (Message.Msg != WM_TIMER) {
+            DefaultWindowProc(Window, Message);
+        } else if (++Ticks > 2) {
+            if (TWhileMenuOpen::IsOpen())
+                EndMenu();
+            else if (GetKeyState(VK_LBUTTON) < 0)
+                SendButton(mbLeft, false);
+        }
     }
 
-    int FTicks = 0;
-    HWND FWindow;
+    static inline HWND Window = nullptr;
+    static inline int Ticks = 0;
 };
 
 void MoveTo(const TPoint& Place)
@@ -43,6 +49,7 @@ void MoveTo(const TPoint& Place)
 void Press(TMouseButton Button = mbLeft)
 {
     SendButton(Button, true);
+    TLoopBreaker Breaker;
     PumpMessages();
 }
 
@@ -52,7 +59,7 @@ void Release(TMouseButton Button = mbLeft, std::initializer_list<uint16_t> Keys 
     SendButton(Button, false);
     for (uint16_t Key : Keys)
         SendKey(Key);
-    TMenuCloser Closer;
+    TLoopBreaker Breaker;
     PumpMessages();
 }
 
@@ -60,7 +67,7 @@ void Type(std::initializer_list<uint16_t> Keys, TShiftState Shift = {})
 {
     for (uint16_t Key : Keys)
         SendKey(Key, Shift);
-    TMenuCloser Closer;
+    TLoopBreaker Breaker;
     PumpMessages();
 }
 
