@@ -307,11 +307,13 @@ void TkelCustomListBox::ResetContent()
 
 // ---- mouse and dragging
 
-// With dmAutomatic a press is not the system's before it is known to be no drag.
+// With dmAutomatic a press is not the system's before it is known to be no drag. One on a child without a window is the
+// child's.
 void TkelCustomListBox::WndProc(TMessage& Message)
 {
     const bool IsPress = Message.Msg == WM_LBUTTONDOWN || Message.Msg == WM_LBUTTONDBLCLK;
-    if (IsPress && !IsDesigning() && DragMode == dmAutomatic && !Dragging()) {
+    if (IsPress && !IsDesigning() && DragMode == dmAutomatic && !Dragging() &&
+        !ControlAtPos(static_cast<TWMMouse&>(Message).Pos, false)) {
         SetControlFlag(csLButtonDown, true);
         Dispatch(Message);
         return;

@@ -6,6 +6,7 @@
 #include "vcl/classes/StringList.h"
 #include "vcl/graphics/GraphicErrors.h"
 #include "vcl/stdctrls/Edit.h"
+#include "vcl/stdctrls/Label.h"
 #include "vcl/system/ClassBuilder.h"
 
 #include <gmock/gmock.h>
@@ -235,6 +236,19 @@ TEST_F(CustomListBoxTest, TheUserSelectsAndTheHandlerMayDeleteTheList)
     TypeKey(VK_DOWN);
     EXPECT_EQ(List->ItemIndex, 3);
     EXPECT_EQ(Clicks, 2);
+}
+
+TEST_F(CustomListBoxTest, AChildWithoutAWindowGetsItsPresses)
+{
+    List->DragMode = dmAutomatic;
+    auto* Child = new TLabel(Form.get());
+    Child->SetBounds(60, 40, 60, 20);
+    Child->Parent = List;
+    Child->OnClick = [this](TObject*) { ++Clicks; };
+    Show();
+    MovePointerTo(Child, 5, 5);
+    ClickButton(mbLeft);
+    EXPECT_TRUE(PumpUntil([this] { return Clicks == 1; }));
 }
 
 TEST_F(CustomListBoxTest, DraggingASelectionKeepsIt)
