@@ -11,6 +11,7 @@ constexpr int ItemCount = 10000;
 std::vector<AnsiString> MakeTexts()
 {
     std::vector<AnsiString> Texts;
+    Texts.reserve(ItemCount);
     for (int I = 0; I < ItemCount; ++I)
         Texts.push_back("The item number " + std::to_string(I));
     return Texts;

@@ -189,7 +189,8 @@ TEST_P(ButtonDeletionTest, InAnyOfItsEvents)
         const TComponentRef<TControl> Deleted(Button);
         const bool HasEvent = Event.Set(Button, [&] { delete Deleted.Get(); });
         Use(Deleted);
-        EXPECT_EQ(Deleted.Get() == nullptr, HasEvent);
+        // Halves of combo buttons have events of their own, which may come as well.
+        EXPECT_TRUE(!HasEvent || !Deleted);
         delete Deleted.Get();
     }
 }

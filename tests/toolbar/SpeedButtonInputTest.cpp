@@ -250,7 +250,6 @@ TEST_F(SpeedButtonInputTest, LosingTheMouseEndsThePress)
         [&] { ReleaseCapture(); },
         [&] { Button->MouseCapture = false; },
         [&] { Neighbour->MouseCapture = true; },
-        [&] { SetCapture(Window->Handle); },
     };
     for (int GroupIndex : {0, 7})
         for (const auto& Lose : Losses) {
