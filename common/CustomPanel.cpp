@@ -1,6 +1,7 @@
 #include "common/CustomPanel.h"
 
 #include "common/CaptionText.h"
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WindowPainter.h"
 #include "vcl/system/ClassBuilder.h"
 
@@ -182,8 +183,9 @@ void TkelCustomPanel::Resize()
 
 void TkelCustomPanel::WMWindowPosChanged(TMessage& Message)
 {
+    const TStillThere IsHere(this);
     Inherited(Message);
-    if (FTransparent && HandleAllocated())
+    if (IsHere && FTransparent && HandleAllocated())
         RedrawWindow(Handle, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 

@@ -52,8 +52,9 @@ void TkelColorComboBox::BuildList()
 void TkelColorComboBox::CreateWnd()
 {
     inherited::CreateWnd();
+    // What was chosen is chosen again; nothing has changed for anybody.
     BuildList();
-    SetColorValue(FColorValue);
+    ItemIndex = Items->IndexOfObject(AsObject(FColorValue));
 }
 
 void TkelColorComboBox::SetColorValue(TColor Value)

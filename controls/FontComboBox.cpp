@@ -66,6 +66,8 @@ void TkelFontComboBox::CreateWnd()
 {
     const AnsiString Before = FontName;
     inherited::CreateWnd();
+    // What was chosen is chosen again; nothing has changed for anybody.
+    const TScopedValue Updating(FUpdating, true, false);
     BuildList();
     SetFontName(Before);
 }

@@ -146,8 +146,10 @@ void TkelToolBar::DragFree(const TPoint& Pointer, const TPoint& P)
 {
     if (!FFloating)
         TearOff(P);
+    const TStillThere IsHere(this);
     PlaceFrame(Pointer - FAnchor, true);
-    CaptureDrag();
+    if (IsHere)
+        CaptureDrag();
 }
 
 // Takes the bar out of its dock. The pointer keeps its place along the bar. When the pointer has moved so far in one
@@ -272,8 +274,11 @@ void TkelToolBar::FloatToPos(int X, int Y)
 void TkelToolBar::PlaceFrame(TPoint Place, bool Exactly)
 {
     const bool Begins = !FFloating;
+    const TStillThere IsHere(this);
     if (Begins)
         MakeFrame();
+    if (!IsHere)
+        return;
     if (Exactly)
         Place = Place - FFrame->BarOffset();
     FFrame->SetBounds(Place.X, Place.Y - CapSize, FFrame->Width, FFrame->Height);
@@ -283,8 +288,11 @@ void TkelToolBar::PlaceFrame(TPoint Place, bool Exactly)
 
 void TkelToolBar::MakeFrame()
 {
+    const TStillThere IsHere(this);
     if (!IsLayoutSuspended())
         DoFloat();
+    if (!IsHere)
+        return;
     FFrame = new TFPForm97(nullptr);
     FFloating = true;
     FFrame->CarryBar(*this, AllowResize, FCloseBox);

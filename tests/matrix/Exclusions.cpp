@@ -41,6 +41,44 @@ constexpr TNotRun NotRun[] = {
     {"TMenu", "OnChange", "deletes its form", "it is raised while an item is being deleted"},
 };
 
+struct TOpen {
+    const char* Class;
+    const char* Reason;
+};
+
+constexpr char HandlerAndList[] = "a handler that hides or moves it while its list is down leaves the mouse captured";
+constexpr char NotRaised[] = "nothing raises all of its events yet";
+constexpr char Window[] = "a handler of OnDeactivate may delete it while its window is made anew";
+constexpr char Floating[] = "dragging it from and to docks does not raise its events every time";
+
+constexpr TOpen Open[] = {
+    {"TAlignSpeedButton", NotRaised},
+    {"TComboBox", HandlerAndList},
+    {"TFPForm97", Window},
+    {"TForm", Window},
+    {"TRadioGroup", NotRaised},
+    {"TScrollBar", "the system's loop of a pressed arrow does not end"},
+    {"TSpeedButton", NotRaised},
+    {"TSplitter", "a handler of OnCanResize that takes it from its parent makes the drag crash"},
+    {"TkelCheckListBox", NotRaised},
+    {"TkelColorComboBox", HandlerAndList},
+    {"TkelColorComboButton", NotRaised},
+    {"TkelColorMenu", NotRaised},
+    {"TkelFolderMenu", "an exception of OnChange ends the program"},
+    {"TkelFontComboBox", HandlerAndList},
+    {"TkelMDIChildMenuBar", Floating},
+    {"TkelMenu", NotRaised},
+    {"TkelMenuBar", Floating},
+    {"TkelMenuButton", "the loop of its menu does not end"},
+    {"TkelOfficeCheckBox", NotRaised},
+    {"TkelOfficePopupMenu", NotRaised},
+    {"TkelOfficeRadioButton", NotRaised},
+    {"TkelPanel", NotRaised},
+    {"TkelScrollBar", "the system's loop of a pressed arrow does not end"},
+    {"TkelTBColorCombo", NotRaised},
+    {"TkelToolBar", Floating},
+};
+
 bool Is(TClass Class, const char* Name)
 {
     return Class->InheritsFrom(FindClass(Name));
@@ -60,6 +98,14 @@ const char* WhyNotRun(TClass Class, std::string_view Event, std::string_view Act
 {
     for (const TNotRun& Row : NotRun)
         if (Event == Row.Event && Action == Row.Action && Is(Class, Row.Class))
+            return Row.Reason;
+    return nullptr;
+}
+
+const char* WhyOpen(TClass Class)
+{
+    for (const TOpen& Row : Open)
+        if (Class == FindClass(Row.Class))
             return Row.Reason;
     return nullptr;
 }

@@ -108,6 +108,8 @@ protected:
 
 TEST_P(HandlerMatrix, NoHandlerDoesHarm)
 {
+    if (const char* Reason = WhyOpen(GetParam()))
+        GTEST_SKIP() << Reason;
     TWatchdog::AllowLonger(10);
     FindEvents();
     if (FAbstract)

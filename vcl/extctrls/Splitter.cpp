@@ -1,5 +1,6 @@
 #include "vcl/extctrls/Splitter.h"
 
+#include "vcl/classes/StillThere.h"
 #include "vcl/controls/WinControl.h"
 #include "vcl/extctrls/Frame3D.h"
 #include "vcl/graphics/DitherBrush.h"
@@ -109,8 +110,9 @@ void TSplitter::FindMaxSize()
 
 void TSplitter::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 {
+    const TStillThere IsHere(this);
     inherited::MouseDown(Button, Shift, X, Y);
-    if (Button != mbLeft || !Parent)
+    if (!IsHere || Button != mbLeft || !Parent)
         return;
     FControl = FindNeighbour();
     if (!FControl)
@@ -124,8 +126,9 @@ void TSplitter::MouseDown(TMouseButton Button, TShiftState Shift, int X, int Y)
 
 void TSplitter::MouseMove(TShiftState Shift, int X, int Y)
 {
+    const TStillThere IsHere(this);
     inherited::MouseMove(Shift, X, Y);
-    if (FControl && Shift.Contains(ssLeft))
+    if (IsHere && FControl && Shift.Contains(ssLeft))
         Drag(X, Y);
 }
 
@@ -139,8 +142,9 @@ void TSplitter::Drag(int X, int Y)
     bool Snaps = AutoSnap && Size < MinSize;
     Size = Snaps ? 0 : std::clamp(Size, std::min(MinSize, FMaxSize), std::max(MinSize, FMaxSize));
     bool Accept = true;
+    const TStillThere IsHere(this);
     OnCanResize(this, Size, Accept);
-    if (!Accept || Size == FNewSize)
+    if (!IsHere || !Parent || !Accept || Size == FNewSize)
         return;
     if (FLineVisible)
         InvertLine();
