@@ -17,6 +17,7 @@ TBarDrag::TBarDrag(TkelToolBar& Bar, std::function<void()> OnEscape)
     for (TkelDock* Dock : Bar.OwnersDocks()) {
         TLayout& Layout = FLayouts.emplace_back();
         Layout.Dock = Dock;
+        Layout.WasInOrder = TDockRows::AreRowsInOrder(*Dock);
         Layout.Rows = TDockRows(*Dock);
     }
     Current = this;
@@ -78,11 +79,13 @@ bool TBarDrag::ReturnBar()
 
 // ---- after the rules
 
+// A dock that had empty rows before the drag is put in order at its end: in between, the bar would lose the pointer.
 void TBarDrag::ArrangeRows()
 {
     FHasBegun = true;
     for (const TLayout& Layout : FLayouts)
-        if (FBar && Layout.Dock && Layout.Dock->ArrangeRows && !TDockRows::AreRowsInOrder(*Layout.Dock))
+        if (FBar && Layout.Dock && Layout.WasInOrder && Layout.Dock->ArrangeRows &&
+            !TDockRows::AreRowsInOrder(*Layout.Dock))
             ArrangeIn(Layout);
 }
 

@@ -25,6 +25,7 @@ public:
 private:
     struct TLayout {
         TComponentRef<TkelDock> Dock;
+        bool WasInOrder = true; // each row had bars, and none was out of sight
         TDockRows Rows;
     };
 
